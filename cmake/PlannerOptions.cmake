@@ -1,0 +1,46 @@
+# One INTERFACE target carries what every target of the project shares: standard, warnings,
+# the toolkit's strict defines, sanitizers, and the hardening of release builds.
+add_library(planner_options INTERFACE)
+target_compile_features(planner_options INTERFACE cxx_std_20 c_std_11)
+target_include_directories(planner_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+target_compile_options(planner_options INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow
+    $<$<BOOL:${PLANNER_WERROR}>:-Werror>)
+
+target_compile_definitions(planner_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_NO_FOREACH
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_STRICT_ITERATORS
+    QT_USE_QSTRINGBUILDER
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(PLANNER_SANITIZERS)
+    target_compile_options(planner_options INTERFACE
+        -fsanitize=${PLANNER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(planner_options INTERFACE -fsanitize=${PLANNER_SANITIZERS})
+else()
+    target_compile_options(planner_options INTERFACE
+        $<$<CONFIG:Release>:-fstack-protector-strong -fcf-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+    target_compile_definitions(planner_options INTERFACE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
+    target_link_options(planner_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now,-z,noexecstack>)
+endif()
+
+include(CheckPIESupported)
+check_pie_supported()
+
+# Every target of the project is made with these, so that none misses the shared options.
+function(planner_library name)
+    add_library(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE planner_options)
+endfunction()
+
+function(planner_executable name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE planner_options)
+endfunction()

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace planner {
+
+/// The Unicode character of each Windows-1252 byte. The five bytes that the code page leaves undefined
+/// stand for the control characters of the same number, so that all 256 bytes map both ways.
+extern const std::array<char16_t, 256> Cp1252Characters;
+
+/// Windows-1252 bytes as UTF-8.
+std::string utf8FromCp1252(std::string_view bytes);
+
+/// UTF-8 as Windows-1252 bytes; nothing when the text is not UTF-8 or holds a character that the code page
+/// lacks.
+std::optional<std::string> cp1252FromUtf8(std::string_view text);
+
+} // namespace planner

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "archive/fixed_text.h"
+#include "archive/readers.h"
+#include "archive/runtime_errors.h"
+#include "engine/clsplg.h"
+
+namespace planner {
+
+namespace {
+
+/// Runs a reader under its error trap: any failure shows `wording` and the path.
+template <typename Reader>
+void trap(MessageBoxes& messaggi, std::string_view wording, const std::string& path, Reader reader) {
+    try {
+        reader();
+    } catch (const RuntimeError&) {
+        messaggi.information(std::string(wording) + path);
+    }
+}
+
+} // namespace
+
+std::string clsplg::archivePath(std::string_view file) const {
+    return m.sessione.PathArchivi + std::string(file);
+}
+
+void clsplg::LeggiDati() {
+    const std::string path = archivePath(FileRighe);
+    trap(m.messaggi, "Errore su File :", path, [&] { readRighePlanner(m.files, path, m.sessione.archivi); });
+    // The shown day and the staff rows do not hang on this file: they hold without it too.
+    m.controlli.calendario.setValue(m.sessione.DataSessione);
+    Dayofweek();
+    setGridRows();
+}
+
+void clsplg::setGridRows() {
+    m.controlli.Flxm.setRows(righeMensile(m.sessione.archivi.NumCollab));
+    m.controlli.flxg.setRows(righeGiornaliera(m.sessione.archivi.NumCollab));
+}
+
+void clsplg::LeggiDatiAnnuali() {
+    const std::string path = archivePath(FileAnnuale);
+    trap(m.messaggi, "Errore su File :", path, [&] {
+        readPlannerAnnuale(m.files, path, m.sessione.archivi);
+        m.controlli.calendario.setValue(
+            dateFromTexts("01", "01", m.sessione.archivi.PlannerAnnuale.front().anno.view()));
+    });
+}
+
+bool clsplg::LeggiCollab() {
+    bool read = true;
+    try {
+        readCollaboratori(m.files, archivePath(FileCollaboratori), m.sessione.archivi);
+    } catch (const RuntimeError&) {
+        read = false;
+    }
+    m.sessione.indiceCodici = IndiceCodici(m.sessione.archivi.Collaboratori);
+    return read;
+}
+
+void clsplg::LeggiDatiPerGrafici() {
+    const std::string path = archivePath(FileGrafici);
+    trap(m.messaggi, "Errore sul File :", path, [&] { readRigheGrafici(m.files, path, m.sessione.archivi); });
+}
+
+std::int16_t clsplg::IndCollaboratore(std::string_view codice) const {
+    return m.sessione.indiceCodici.IndCollaboratore(codice);
+}
+
+std::string clsplg::EstraiCollaboratore(std::string_view codice) const {
+    return planner::EstraiCollaboratore(m.sessione.archivi.Collaboratori, m.sessione.indiceCodici, codice);
+}
+
+} // namespace planner

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/calendario.h"
+#include "engine/session/toolbar.h"
+#include "grids/annuale.h"
+#include "grids/giornaliera.h"
+#include "grids/mensile.h"
+
+#include <optional>
+#include <string>
+
+namespace planner {
+
+/// The kinds of planner; the letter is the one of the request.
+enum class TipoPlanner : char { Mensile = 'M', Giornaliero = 'G', Annuale = 'A' };
+
+/// The kind that a request's letter names; nothing for any other text.
+std::optional<TipoPlanner> tipoPlanner(std::string_view lettera);
+
+/// What the planner window's controls hold, as plain data: the engine writes it, the window shows it. Texts
+/// are Windows-1252.
+struct ControlliPlcal {
+    static constexpr std::string_view CaptionIniziale = "Planner grafico";
+
+    std::string Caption{CaptionIniziale};
+    std::string lbldescr; // title label
+    Calendario calendario;
+    StatoToolbar Toolbar1;
+    Griglia Flxm{righeMensile(0), ColonneGiorni + 1, PrimaRigaMensile, Colore::gialloChiaro};
+    Griglia flxg{righeGiornaliera(0), ColonneQuarti + 1, PrimaRigaGiornaliera, Colore::gialloChiaro};
+    Griglia flxa{RigheAnnuale, ColonneGiorni + 1, 1, Colore::bianco};
+    std::optional<TipoPlanner> tipoVisibile; // whose grid is the visible one
+
+    /// The visible grid and its name; null and empty when none is.
+    Griglia* grigliaVisibile();
+    std::string_view nomeGrigliaVisibile() const;
+};
+
+} // namespace planner

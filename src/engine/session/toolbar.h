@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <string_view>
+
+namespace planner {
+
+/// Positions on the toolbar, counted from 1 with the separators.
+enum class Pulsante : int {
+    exit = 2,
+    coll = 4,
+    filtri = 6,
+    agenda = 8,
+    consult = 10,
+    insimp = 11,
+    dettno = 13,
+    dettsi = 14,
+    grafici = 15,
+    info = 17,
+};
+
+/// One button of the toolbar.
+struct DescrizionePulsante {
+    Pulsante posizione;
+    std::string_view chiave;      // also the name of its picture
+    std::string_view didascalia;  // Italian
+    std::string_view scorciatoia; // keyboard shortcut, empty for none
+};
+
+/// The buttons in their order; the positions between them are separators.
+inline constexpr std::array PulsantiToolbar{
+    DescrizionePulsante{Pulsante::exit, "exit", "Uscita", "Ctrl+Q"},
+    DescrizionePulsante{Pulsante::coll, "coll", "Selezione Collaboratori", ""},
+    DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", ""},
+    DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", ""},
+    DescrizionePulsante{Pulsante::consult, "consult", "Consultazione", ""},
+    DescrizionePulsante{Pulsante::insimp, "insimp", "Inserimento impegni", "Ctrl+N"},
+    DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", ""},
+    DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", ""},
+    DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", ""},
+    DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
+};
+
+/// Which buttons can be used and seen.
+class StatoToolbar {
+public:
+    StatoToolbar();
+
+    bool enabled(Pulsante pulsante) const { return m_enabled.test(index(pulsante)); }
+    bool visible(Pulsante pulsante) const { return m_visible.test(index(pulsante)); }
+    void setEnabled(Pulsante pulsante, bool enabled) { m_enabled.set(index(pulsante), enabled); }
+    void setVisible(Pulsante pulsante, bool visible) { m_visible.set(index(pulsante), visible); }
+
+    /// Every button usable, and of the pair "dettno"/"dettsi", which stands in one place, the one that
+    /// switches away from the given form.
+    void reset(bool dettagliato);
+    /// Swaps the pair: exactly one of the two is visible and enabled.
+    void setDettagliato(bool dettagliato);
+    /// The grid shows details exactly while "dettno" can be pressed.
+    bool dettagliato() const { return enabled(Pulsante::dettno); }
+
+private:
+    static std::size_t index(Pulsante pulsante) { return static_cast<std::size_t>(pulsante); }
+
+    std::bitset<18> m_enabled;
+    std::bitset<18> m_visible;
+};
+
+} // namespace planner

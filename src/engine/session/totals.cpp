@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "engine/session/totals.h"
+
+#include "archive/numeric_value.h"
+#include "archive/runtime_errors.h"
+#include "engine/session/staff.h"
+
+namespace planner {
+
+namespace {
+
+bool contains(const ValoriContatori& valori, const CategoriaTotali& categoria) {
+    return valori.at(categoria.contatori[0]) != 0 || valori.at(categoria.contatori[1]) != 0;
+}
+
+} // namespace
+
+ValoriContatori valoriContatori(const RigaPlanner& riga) {
+    ValoriContatori valori{};
+    for (std::size_t i = 0; i < riga.contatori.size(); ++i) {
+        valori[i + 1] = numericValue(riga.contatori[i].view());
+    }
+    return valori;
+}
+
+std::string_view chiaveTipi(const ValoriContatori& valori) {
+    // The key's digits 1 to 4 name categories 3, 2, 0 and 1, in this order.
+    constexpr std::array<std::uint8_t, 4> categories{3, 2, 0, 1};
+    std::array<char, categories.size()> key{};
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < categories.size(); ++i) {
+        if (contains(valori, CategorieTotali[categories[i]])) {
+            key[length++] = TipiImpegno[i].cifra;
+        }
+    }
+    return chiaveImmagine(Eval_imagedisplay({key.data(), length}));
+}
+
+TabellaTotali::TabellaTotali(std::int16_t upperBound) : m_righe(static_cast<std::size_t>(upperBound) + 1) {}
+
+void TabellaTotali::aggiungi(int indice, const ValoriContatori& valori) {
+    if (indice < 0 || indice > upperBound()) {
+        throw SubscriptError();
+    }
+    Riga& totals = m_righe[static_cast<std::size_t>(indice)];
+    Riga sums = totals;
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        const auto& [first, second] = CategorieTotali[i].contatori;
+        sums[i] = roundTo16Bit(sums[i] + valori.at(first) + valori.at(second));
+    }
+    totals = sums;
+}
+
+std::int16_t TabellaTotali::at(int indice, int categoria) const {
+    if (indice < 0 || indice > upperBound() || categoria < 0 ||
+        static_cast<std::size_t>(categoria) >= CategorieTotali.size()) {
+        throw SubscriptError();
+    }
+    return m_righe[static_cast<std::size_t>(indice)][static_cast<std::size_t>(categoria)];
+}
+
+} // namespace planner

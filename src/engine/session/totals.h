@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "archive/records.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace planner {
+
+/// A category of totals: which of a record's counters (1 to 11; 0 for none) add up in it.
+struct CategoriaTotali {
+    std::string_view nome;
+    std::array<std::uint8_t, 2> contatori;
+};
+
+/// The seven categories, by index.
+inline constexpr std::array CategorieTotali{CategoriaTotali{"scadenze", {5, 1}},
+                                            CategoriaTotali{"pratiche", {6, 2}},
+                                            CategoriaTotali{"impegni vari", {8, 0}},
+                                            CategoriaTotali{"note riservate", {7, 0}},
+                                            CategoriaTotali{"scadenze concluse", {9, 3}},
+                                            CategoriaTotali{"pratiche concluse", {10, 4}},
+                                            CategoriaTotali{"altro", {11, 0}}};
+
+/// The numeric values of a record's eleven counters; index 1 to 11, index 0 is always 0.
+using ValoriContatori = std::array<double, 12>;
+ValoriContatori valoriContatori(const RigaPlanner& riga);
+
+/// The picture key of the kinds that the counters hold: ascending digits, empty when there is nothing to
+/// mark.
+std::string_view chiaveTipi(const ValoriContatori& valori);
+
+/// Totals per index and category, 16-bit numbers.
+class TabellaTotali {
+public:
+    using Riga = std::array<std::int16_t, CategorieTotali.size()>;
+
+    /// A new table, all zero, with indices 0 to `upperBound`.
+    explicit TabellaTotali(std::int16_t upperBound = 0);
+
+    /// Adds all of a record's counters to the totals of `indice`, or none: throws SubscriptError outside the
+    /// table, OverflowError when a total leaves 16 bits.
+    void aggiungi(int indice, const ValoriContatori& valori);
+
+    /// Throws SubscriptError outside the table.
+    std::int16_t at(int indice, int categoria) const;
+
+    int upperBound() const { return static_cast<int>(m_righe.size()) - 1; }
+    const std::vector<Riga>& righe() const { return m_righe; }
+
+private:
+    std::vector<Riga> m_righe;
+};
+
+} // namespace planner

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "forms/plcal/geometry.h"
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace planner {
+
+/// A total of the detail panel: a static caption and the label that shows the number.
+struct EtichettaTotale {
+    std::string_view nome;       // of the number's label
+    std::string_view didascalia; // shown beside it
+    bool annuale;                // of the yearly panel; else of the monthly and daily one
+    int colonna, riga;           // place in the panel, from 0
+    bool scadenze;               // hidden in the window variant "B"
+    bool pratiche;               // moved up to the deadlines' row in that variant
+};
+
+inline constexpr std::array EtichetteTotali{
+    EtichettaTotale{"Lblscad", "Scadenze", false, 0, 0, true, false},
+    EtichettaTotale{"Lblscadeva", "di cui concluse", false, 1, 0, true, false},
+    EtichettaTotale{"lblpra", "Pratiche", false, 0, 1, false, true},
+    EtichettaTotale{"Lblpraeva", "di cui concluse", false, 1, 1, false, true},
+    EtichettaTotale{"lblpers", "Impegni vari", false, 2, 0, false, false},
+    EtichettaTotale{"Lblnotes", "Note riservate", false, 2, 1, false, false},
+    EtichettaTotale{"scad", "Scadenze", true, 0, 0, true, false},
+    EtichettaTotale{"scaev", "di cui concluse", true, 1, 0, true, false},
+    EtichettaTotale{"prat", "Pratiche", true, 0, 1, false, true},
+    EtichettaTotale{"praev", "di cui concluse", true, 1, 1, false, true},
+    EtichettaTotale{"nriv", "Note riservate", true, 2, 0, false, false},
+    EtichettaTotale{"bnot", "Block Notes", true, 0, 2, false, false},
+    EtichettaTotale{"blkev", "di cui conclusi", true, 1, 2, false, false},
+};
+
+/// True when the panel of the kind and window variant shows the total at all.
+bool totaleVisibile(const EtichettaTotale& etichetta, std::optional<TipoPlanner> tipo, bool varianteRidotta);
+
+/// Where a total's caption and number stand, in twips, as designed.
+Rettangolo posizioneDidascalia(const EtichettaTotale& etichetta, bool varianteRidotta);
+Rettangolo posizioneNumero(const EtichettaTotale& etichetta, bool varianteRidotta);
+
+/// Every control of the planner window as designed.
+std::vector<ControlloProgetto> controlliPlcal();
+
+/// A small button over a grid's corner that moves the period.
+struct PulsantePeriodo {
+    std::string_view gruppo; // "bselm", "bselg" or "bselA"
+    int indice;              // of the control array
+    TipoPlanner tipo;        // whose grid it stands on
+    int riga;                // header row
+    bool successivo;
+    std::string_view suggerimento; // tool tip
+    std::string_view immagine;
+};
+
+inline constexpr std::array PulsantiPeriodo{
+    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente"},
+    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo"},
+    PulsantePeriodo{"bselm", 2, TipoPlanner::Mensile, 1, false, "Anno precedente", "anno_precedente"},
+    PulsantePeriodo{"bselm", 3, TipoPlanner::Mensile, 1, true, "Anno successivo", "anno_successivo"},
+    PulsantePeriodo{"bselg", 1, TipoPlanner::Giornaliero, 0, false, "Giorno precedente", "precedente"},
+    PulsantePeriodo{"bselg", 2, TipoPlanner::Giornaliero, 0, true, "Giorno successivo", "successivo"},
+    PulsantePeriodo{"bselA", 1, TipoPlanner::Annuale, 0, false, "Anno precedente", "anno_precedente"},
+    PulsantePeriodo{"bselA", 2, TipoPlanner::Annuale, 0, true, "Anno successivo", "anno_successivo"},
+};
+
+/// The first column in sight when the daily grid is shown: eight o'clock.
+inline constexpr int PrimaColonnaGiornaliera = 33;
+
+} // namespace planner

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace planner {
+
+/// Twips per pixel of a 96 dpi screen, on which all design-time positions rest.
+inline constexpr int TwipsPerPixel = 15;
+
+struct Dimensioni {
+    int width, height;
+};
+
+struct Rettangolo {
+    int Left, Top, Width, Height;
+    friend constexpr bool operator==(const Rettangolo&, const Rettangolo&) = default;
+};
+
+/// A control of the planner window as designed, in twips. Names starting with "didascalia" are static
+/// captions.
+struct ControlloProgetto {
+    std::string_view nome;
+    Rettangolo posizione;
+    bool pulsanteComando = false; // not scaled: it is placed when the window is activated
+};
+
+/// The planner window's size as designed, in twips.
+inline constexpr Dimensioni ProgettoPlcal{15360, 12300};
+
+/// The factors that turn design-time positions into screen positions.
+struct Scala {
+    float ScalaX = 1, ScalaY = 1;
+
+    /// The smaller of the two.
+    float ScalaMin() const { return ScalaX < ScalaY ? ScalaX : ScalaY; }
+};
+
+/// The ratios of a window's new size to its design-time size. Sizes below one twip count as one.
+Scala scalaPer(Dimensioni nuova, Dimensioni progetto);
+
+/// Rescales every control but the command buttons.
+std::vector<ControlloProgetto> Ctr_Refresh(std::vector<ControlloProgetto> controlli, const Scala& scala);
+
+/// Where the n-th boundary between columns or rows of the given sizes falls, in whole pixels: rounding is
+/// shared out so that the sum of all sizes is never off by more than half a pixel.
+std::vector<int> pixelSizes(const std::vector<int>& twips, float scala);
+
+/// Pixels of a length in twips.
+int pixels(int twips, float scala);
+
+/// The place of a period button in a header cell: a quarter of the row's height from its top where the row is
+/// high enough, else centred; the previous-period button stands at the left, the next-period button
+/// right-aligned. All in pixels.
+Rettangolo pulsantePeriodo(const Rettangolo& cella, bool successivo, float scalaX);
+
+} // namespace planner

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/geometry.h"
+
+#include <vector>
+
+namespace planner {
+
+/// The planner window's widgets, as its logic drives them. What they show is in `ControlliPlcal`.
+class VistaPlcal {
+public:
+    virtual ~VistaPlcal() = default;
+    /// The size that the screen gives the window, in twips of a 96 dpi screen.
+    virtual Dimensioni schermo() const = 0;
+    /// Puts the controls where they belong, in twips.
+    virtual void disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) = 0;
+    /// Shows the present contents of all controls: captions, calendar, toolbar, panel, visible grid.
+    virtual void aggiorna() = 0;
+    /// Puts the period buttons into the corner of the visible grid.
+    virtual void disponiPulsantiPeriodo() = 0;
+    /// Makes `colonna` the first column in sight beside the fixed one.
+    virtual void scorriA(int colonna) = 0;
+    virtual void mostra() = 0;
+    virtual void nascondi() = 0;
+    virtual void portaDavanti() = 0;
+    /// Suspends and resumes the window's repainting.
+    virtual void LockWindowUpdate(bool locked) = 0;
+};
+
+} // namespace planner

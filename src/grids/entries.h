@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "archive/runtime_errors.h"
+#include "engine/session/modpl.h"
+#include "grids/layout.h"
+
+namespace planner {
+
+/// What the fills take from one appointment record.
+struct Impegno {
+    int indice; // staff index
+    Data data;
+    ValoriContatori valori;
+    int immagine; // 0 for none
+};
+
+/// Reads the record. Throws DateError or OverflowError.
+Impegno leggiImpegno(const RigaPlanner& riga, const modpl& sessione, bool dettagliato);
+
+/// The picture for the counters: 0 when none of them marks the day.
+int immagineImpegno(const ValoriContatori& valori, bool dettagliato);
+
+/// Runs `fill` on every record before the table's last element, which lies beyond the file's end, that
+/// `wanted` takes. A record that raises a run-time error is noted and the next one follows.
+template <typename Wanted, typename Fill>
+EsitoRiempimento forEachRecord(const Archivi& archivi, Wanted wanted, Fill fill) {
+    EsitoRiempimento esito;
+    for (int i = 0; i < archivi.NumRighe; ++i) {
+        const RigaPlanner& riga = archivi.RighePlanner.at(static_cast<std::size_t>(i));
+        try {
+            if (wanted(riga)) {
+                fill(riga);
+            }
+        } catch (const RuntimeError& error) {
+            esito.annota(error.what());
+        }
+    }
+    return esito;
+}
+
+} // namespace planner

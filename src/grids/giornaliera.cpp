@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "grids/giornaliera.h"
+
+#include "archive/numeric_value.h"
+#include "grids/entries.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace planner {
+
+namespace {
+
+constexpr int NameWidth = 2377; // twips
+constexpr int QuarterWidth = 350;
+constexpr int HeaderHeight = 500;
+constexpr int QuartersPerHour = 4;
+constexpr int MinutesPerQuarter = 15;
+
+void writeQuarter(Griglia& flxg, int column) {
+    const int hour = (column - 1) / QuartersPerHour;
+    const int quarter = (column - 1) % QuartersPerHour;
+    flxg.setColWidth(column, QuarterWidth);
+    flxg.setText(0, column, std::to_string(quarter == 0 ? hour : quarter * MinutesPerQuarter));
+    flxg.setCellFont(0, column, quarter == 0 ? Carattere::ora : Carattere::minuti);
+    flxg.setCellForeColor(0, column, Colore::navy);
+}
+
+/// A whole number between 0 and `maximum`, or -1.
+int numberUpTo(std::string_view text, int maximum) {
+    const std::string_view digits = trim(text);
+    int number = -1;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    const bool complete = error == std::errc{} && end == digits.data() + digits.size();
+    return complete && number <= maximum ? number : -1;
+}
+
+void paintEntry(Griglia& flxg, int row, const Impegno& impegno, IntervalloColonne columns) {
+    if (impegno.immagine != 0) {
+        flxg.setCellPicture(row, columns.prima, impegno.immagine);
+    }
+    for (int column = std::max(columns.prima, 1); column <= columns.ultima; ++column) {
+        flxg.setCellBackColor(row, column, Colore::azzurro);
+    }
+}
+
+std::string shownDay(const Calendario& calendario) {
+    return twoDigits(calendario.Day()) + "/" + twoDigits(calendario.Month()) + "/" +
+           std::to_string(calendario.Year());
+}
+
+} // namespace
+
+IntervalloColonne colonneImpegno(const RigaPlanner& riga) {
+    const int slots = std::max<int>(ConvertiDurata(riga.durata.view()), 1);
+    const int hour = numberUpTo(riga.oraInizio.view(), 23);
+    if (hour < 0) {
+        return {0, 0};
+    }
+    const int minute = std::max(numberUpTo(riga.minutoInizio.view(), 59), 0);
+    const int first = hour * QuartersPerHour + minute / MinutesPerQuarter + 1;
+    return {first, std::min(first + slots - 1, ColonneQuarti)};
+}
+
+void showgrid2(Griglia& flxg) {
+    const Griglia::LockWindowUpdate lock(flxg);
+    flxg.setColWidth(0, NameWidth);
+    flxg.setRowHeight(0, HeaderHeight);
+    for (int column = 1; column <= ColonneQuarti; ++column) {
+        writeQuarter(flxg, column);
+    }
+}
+
+EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato) {
+    const Griglia::LockWindowUpdate lock(flxg);
+    writeCornerCaption(flxg, 0, shownDay(calendario), Carattere::grassetto);
+    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi);
+    setDataRowHeights(flxg, dettagliato);
+
+    sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
+    const auto onShownDay = [&](const RigaPlanner& riga) {
+        return numericValue(riga.giorno.view()) == calendario.Day() &&
+               numericValue(riga.mese.view()) == calendario.Month() &&
+               numericValue(riga.anno.view()) == calendario.Year();
+    };
+    const EsitoRiempimento esito = forEachRecord(sessione.archivi, onShownDay, [&](const RigaPlanner& riga) {
+        const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
+        const IntervalloColonne columns = colonneImpegno(riga);
+        sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
+        paintEntry(flxg, impegno.indice + PrimaRigaGiornaliera, impegno, columns);
+    });
+    flxg.setCurrent(PrimaRigaGiornaliera, 1);
+    return esito;
+}
+
+void PulisciGrid2(Griglia& flxg, bool dettagliato) {
+    const Griglia::LockWindowUpdate lock(flxg);
+    clearRows(flxg);
+    setDataRowHeights(flxg, dettagliato);
+}
+
+} // namespace planner

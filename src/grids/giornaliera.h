@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/calendario.h"
+#include "engine/session/modpl.h"
+#include "grids/layout.h"
+
+namespace planner {
+
+/// First staff row of the daily grid.
+inline constexpr int PrimaRigaGiornaliera = 1;
+
+/// Lays out the header: one column per quarter of an hour.
+void showgrid2(Griglia& flxg);
+
+/// Writes captions, totals and appointments of the day that the calendar shows. An appointment fills the
+/// columns of its quarters; one without a start hour has its picture beside the name. Records that raise a
+/// run-time error are left out and counted.
+EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato);
+
+/// Empties the data rows.
+void PulisciGrid2(Griglia& flxg, bool dettagliato);
+
+/// Columns of the daily grid, bounds included.
+struct IntervalloColonne {
+    int prima, ultima;
+};
+
+/// The columns that an appointment covers, within 1 to 96; column 0 alone when it has no valid start hour.
+/// Throws OverflowError when its length does not fit 16 bits.
+IntervalloColonne colonneImpegno(const RigaPlanner& riga);
+
+} // namespace planner

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "grids/griglia.h"
+
+#include "archive/runtime_errors.h"
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+constexpr int DefaultRowHeight = 300; // twips
+constexpr int DefaultColWidth = 350;
+
+} // namespace
+
+void AreaCelle::include(int riga, int colonna) {
+    if (empty()) {
+        *this = {riga, colonna, riga, colonna};
+        return;
+    }
+    rigaMin = std::min(rigaMin, riga);
+    rigaMax = std::max(rigaMax, riga);
+    colonnaMin = std::min(colonnaMin, colonna);
+    colonnaMax = std::max(colonnaMax, colonna);
+}
+
+Griglia::Griglia(int rows, int cols, int fixedRows, Colore sfondoBase)
+    : m_rows(rows), m_cols(cols), m_fixedRows(fixedRows), m_sfondoBase(sfondoBase),
+      m_cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols)),
+      m_rowHeights(static_cast<std::size_t>(rows), DefaultRowHeight),
+      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows), m_knownCols(cols) {}
+
+void Griglia::setRows(int rows) {
+    const LockWindowUpdate lock(*this);
+    m_rows = std::max(rows, m_fixedRows);
+    m_cells.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols));
+    m_rowHeights.resize(static_cast<std::size_t>(m_rows), DefaultRowHeight);
+    m_row = std::min(m_row, m_rows - 1);
+    m_dirty.include(m_fixedRows, 0);
+    m_dirty.include(m_rows - 1, m_cols - 1);
+    m_measuresChanged = true;
+}
+
+void Griglia::setCols(int cols) {
+    if (cols == m_cols) {
+        return;
+    }
+    const LockWindowUpdate lock(*this);
+    m_cols = std::max(cols, FixedCols());
+    m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
+    m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
+    m_col = std::min(m_col, m_cols - 1);
+}
+
+void Griglia::setCurrent(int row, int col) {
+    index(row, col);
+    m_row = row;
+    m_col = col;
+}
+
+void Griglia::setText(int row, int col, std::string_view text) {
+    changed(row, col).testo = intern(text);
+    notify();
+}
+
+void Griglia::setCellForeColor(int row, int col, Colore colore) {
+    changed(row, col).colore = colore;
+    notify();
+}
+
+void Griglia::setCellBackColor(int row, int col, Colore colore) {
+    changed(row, col).sfondo = colore;
+    notify();
+}
+
+void Griglia::setCellPicture(int row, int col, int immagine) {
+    changed(row, col).immagine = static_cast<std::uint8_t>(std::clamp(immagine, 0, 16));
+    notify();
+}
+
+void Griglia::setCellFont(int row, int col, Carattere carattere) {
+    changed(row, col).carattere = carattere;
+    notify();
+}
+
+void Griglia::setCellAlignment(int row, int col, Allineamento allineamento) {
+    changed(row, col).allineamento = allineamento;
+    notify();
+}
+
+int Griglia::RowHeight(int row) const {
+    index(row, 0);
+    return m_rowHeights[static_cast<std::size_t>(row)];
+}
+
+int Griglia::ColWidth(int col) const {
+    index(0, col);
+    return m_colWidths[static_cast<std::size_t>(col)];
+}
+
+Colore Griglia::sfondoVisibile(int row, int col) const {
+    const Colore own = cella(row, col).sfondo;
+    if (own != Colore::predefinito) {
+        return own;
+    }
+    return row < m_fixedRows || col < FixedCols() ? Colore::intestazione : m_sfondoBase;
+}
+
+void Griglia::setRowHeight(int row, int twips) {
+    index(row, 0);
+    m_rowHeights[static_cast<std::size_t>(row)] = twips;
+    m_measuresChanged = true;
+    notify();
+}
+
+void Griglia::setColWidth(int col, int twips) {
+    index(0, col);
+    m_colWidths[static_cast<std::size_t>(col)] = twips;
+    m_measuresChanged = true;
+    notify();
+}
+
+std::size_t Griglia::index(int row, int col) const {
+    if (row < 0 || row >= m_rows || col < 0 || col >= m_cols) {
+        throw SubscriptError();
+    }
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_cols) + static_cast<std::size_t>(col);
+}
+
+Cella& Griglia::changed(int row, int col) {
+    Cella& cell = m_cells[index(row, col)];
+    m_dirty.include(row, col);
+    return cell;
+}
+
+std::uint32_t Griglia::intern(std::string_view text) {
+    const auto known = m_textIndex.find(text);
+    if (known != m_textIndex.end()) {
+        return known->second;
+    }
+    const auto place = static_cast<std::uint32_t>(m_texts.size());
+    m_texts.emplace_back(text);
+    m_textIndex.emplace(m_texts.back(), place);
+    return place;
+}
+
+void Griglia::notify() {
+    if (m_locks > 0 || m_osservatore == nullptr) {
+        return;
+    }
+    const bool structure = m_rows != m_knownRows || m_cols != m_knownCols;
+    const AreaCelle area = m_dirty;
+    const bool measures = m_measuresChanged;
+    m_knownRows = m_rows;
+    m_knownCols = m_cols;
+    m_dirty = {};
+    m_measuresChanged = false;
+    if (structure) {
+        m_osservatore->strutturaCambiata();
+    } else if (measures || !area.empty()) {
+        m_osservatore->celleCambiate(area, measures);
+    }
+}
+
+Griglia::LockWindowUpdate::LockWindowUpdate(Griglia& griglia) : m_griglia(griglia) {
+    ++m_griglia.m_locks;
+}
+
+Griglia::LockWindowUpdate::~LockWindowUpdate() {
+    --m_griglia.m_locks;
+    m_griglia.notify();
+}
+
+} // namespace planner

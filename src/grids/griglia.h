@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "grids/style.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace planner {
+
+/// One cell, small because a grid has up to three million of them.
+struct Cella {
+    std::uint32_t testo = 0; // place in the grid's text pool; 0 is the empty text
+    Colore colore = Colore::predefinito;
+    Colore sfondo = Colore::predefinito;
+    std::uint8_t immagine = 0; // 1 to 16, 0 for none
+    Carattere carattere : 4 = Carattere::normale;
+    Allineamento allineamento : 4 = Allineamento::centro;
+
+    friend bool operator==(const Cella&, const Cella&) = default;
+};
+static_assert(sizeof(Cella) == 8);
+
+/// A rectangle of cells, bounds included; empty at first.
+struct AreaCelle {
+    int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
+
+    bool empty() const { return rigaMax < rigaMin || colonnaMax < colonnaMin; }
+    void include(int riga, int colonna);
+};
+
+/// Is told what changed in a grid.
+class OsservatoreGriglia {
+public:
+    virtual ~OsservatoreGriglia() = default;
+    /// Number of rows or columns changed, and with them anything else.
+    virtual void strutturaCambiata() = 0;
+    /// Cells changed, or row heights and column widths while the numbers stayed.
+    virtual void celleCambiate(const AreaCelle& area, bool misure) = 0;
+};
+
+/// The contents of a grid as plain data: cells, fixed rows and columns, row heights and column widths in
+/// twips, and a current cell. Every access to a cell outside the grid throws SubscriptError.
+class Griglia {
+public:
+    /// A grid as it stands before any data; `sfondoBase` is what its uncoloured data cells look like.
+    Griglia(int rows, int cols, int fixedRows, Colore sfondoBase);
+
+    int Rows() const { return m_rows; }
+    int Cols() const { return m_cols; }
+    int FixedRows() const { return m_fixedRows; }
+    static constexpr int FixedCols() { return 1; }
+
+    /// Drops rows at the end, or adds new and empty ones. Never fewer than the fixed rows.
+    void setRows(int rows);
+    /// Changes the number of columns; every cell becomes new and empty when it differs.
+    void setCols(int cols);
+
+    int Row() const { return m_row; }
+    int Col() const { return m_col; }
+    void setCurrent(int row, int col);
+
+    const Cella& cella(int row, int col) const { return m_cells[index(row, col)]; }
+    std::string_view TextMatrix(int row, int col) const { return m_texts[cella(row, col).testo]; }
+    void setText(int row, int col, std::string_view text);
+    void setCellForeColor(int row, int col, Colore colore);
+    void setCellBackColor(int row, int col, Colore colore);
+    void setCellPicture(int row, int col, int immagine);
+    void setCellFont(int row, int col, Carattere carattere);
+    void setCellAlignment(int row, int col, Allineamento allineamento);
+
+    /// The back colour that the cell shows: its own, or that of the grid's fixed or data cells.
+    Colore sfondoVisibile(int row, int col) const;
+
+    /// Twips. All throw SubscriptError outside the grid.
+    int RowHeight(int row) const;
+    int ColWidth(int col) const;
+    void setRowHeight(int row, int twips);
+    void setColWidth(int col, int twips);
+
+    /// At most one observer; null for none.
+    void setOsservatore(OsservatoreGriglia* osservatore) { m_osservatore = osservatore; }
+
+    /// Suspends what the observer is told while a grid is filled; the last one to go tells it once.
+    class LockWindowUpdate {
+    public:
+        explicit LockWindowUpdate(Griglia& griglia);
+        ~LockWindowUpdate();
+        LockWindowUpdate(const LockWindowUpdate&) = delete;
+        LockWindowUpdate& operator=(const LockWindowUpdate&) = delete;
+
+    private:
+        Griglia& m_griglia;
+    };
+
+private:
+    std::size_t index(int row, int col) const;
+    Cella& changed(int row, int col);
+    std::uint32_t intern(std::string_view text);
+    void notify();
+
+    int m_rows, m_cols, m_fixedRows;
+    Colore m_sfondoBase;
+    int m_row = 0, m_col = 0;
+    std::vector<Cella> m_cells;
+    std::vector<int> m_rowHeights;
+    std::vector<int> m_colWidths;
+
+    std::deque<std::string> m_texts{std::string()}; // a deque: the map's keys point into it
+    std::unordered_map<std::string_view, std::uint32_t> m_textIndex{{std::string_view(), 0}};
+
+    OsservatoreGriglia* m_osservatore = nullptr;
+    int m_locks = 0;
+    AreaCelle m_dirty;
+    bool m_measuresChanged = false;
+    int m_knownRows = 0, m_knownCols = 0; // what the observer was last told
+};
+
+} // namespace planner

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "grids/mensile.h"
+
+#include "archive/numeric_value.h"
+#include "grids/entries.h"
+
+namespace planner {
+
+namespace {
+
+constexpr int NameWidth = 2000; // twips
+constexpr int DayWidth = 350;
+constexpr int HeaderHeight = 300;
+
+void layOutColumns(Griglia& Flxm) {
+    Flxm.setColWidth(0, NameWidth);
+    for (int column = 1; column <= ColonneGiorni; ++column) {
+        Flxm.setColWidth(column, DayWidth);
+        Flxm.setText(1, column, "");
+        Flxm.setCellForeColor(1, column, Colore::predefinito);
+    }
+    Flxm.setRowHeight(0, HeaderHeight);
+    Flxm.setRowHeight(1, HeaderHeight);
+}
+
+void writeDay(Griglia& Flxm, int column, int day, int month) {
+    Flxm.setText(1, column, std::to_string(day));
+    Flxm.setCellForeColor(1, column, isWeekendColumn(column) ? Colore::rosso : Colore::nero);
+    if (CheckGiornoFestivo(Flxm, 0, column, day - 1, month)) {
+        Flxm.setCellForeColor(1, column, Colore::rosso);
+    }
+}
+
+/// The first column whose day number is exactly 1. Throws SubscriptError when the header has none.
+int columnOfFirstDay(const Griglia& Flxm) {
+    int column = 0;
+    while (numericValue(Flxm.TextMatrix(1, column)) != 1) {
+        ++column;
+    }
+    return column;
+}
+
+} // namespace
+
+void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm) {
+    const Griglia::LockWindowUpdate lock(Flxm);
+    sessione.GiorniMese = giorniMese(calendario.Year());
+    layOutColumns(Flxm);
+    writeWeekdayLetters(Flxm);
+    const int start = colonnaIniziale(sessione.PrimoGiornoSettimana);
+    const int days = lunghezzaMese(sessione.GiorniMese, calendario.Month());
+    for (int day = 1; day <= days; ++day) {
+        writeDay(Flxm, start + day - 1, day, calendario.Month());
+    }
+}
+
+EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Griglia& Flxm, bool dettagliato) {
+    const Griglia::LockWindowUpdate lock(Flxm);
+    writeCornerCaption(Flxm, 0, nomeMese(calendario.Month()), Carattere::grassetto);
+    writeCornerCaption(Flxm, 1, std::to_string(calendario.Year()), Carattere::grassetto);
+    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi);
+    setDataRowHeights(Flxm, dettagliato);
+
+    sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
+    const int firstDay = columnOfFirstDay(Flxm);
+    const auto inShownMonth = [&](const RigaPlanner& riga) {
+        return numericValue(riga.mese.view()) == calendario.Month() &&
+               numericValue(riga.anno.view()) == calendario.Year();
+    };
+    const EsitoRiempimento esito =
+        forEachRecord(sessione.archivi, inShownMonth, [&](const RigaPlanner& riga) {
+            const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
+            sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
+            if (impegno.immagine != 0) {
+                Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
+                                    impegno.immagine);
+            }
+        });
+    Flxm.setCurrent(PrimaRigaMensile, 1);
+    return esito;
+}
+
+void PulisciGrid1(Griglia& Flxm, bool dettagliato) {
+    const Griglia::LockWindowUpdate lock(Flxm);
+    clearRows(Flxm);
+    setDataRowHeights(Flxm, dettagliato);
+}
+
+} // namespace planner

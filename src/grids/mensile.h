@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/calendario.h"
+#include "engine/session/modpl.h"
+#include "grids/layout.h"
+
+namespace planner {
+
+/// First staff row of the monthly grid.
+inline constexpr int PrimaRigaMensile = 2;
+
+/// Lays out the header of the month that the calendar shows; `sessione.PrimoGiornoSettimana` must be that
+/// month's.
+void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm);
+
+/// Writes captions, totals and the days' pictures of the month that the calendar shows. Records that raise a
+/// run-time error are left out and counted.
+EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Griglia& Flxm, bool dettagliato);
+
+/// Empties the data rows.
+void PulisciGrid1(Griglia& Flxm, bool dettagliato);
+
+} // namespace planner

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace planner {
+
+struct Rgb {
+    std::uint8_t red, green, blue;
+    friend constexpr bool operator==(Rgb, Rgb) = default;
+};
+
+/// The colours of the grids. `predefinito` is what a cell has that nobody coloured.
+enum class Colore : std::uint8_t {
+    predefinito,
+    nero,
+    bianco,
+    rosso,
+    navy,
+    giallo,
+    gialloChiaro,
+    ciano,
+    grigioChiaro,
+    azzurro,
+    intestazione,
+};
+
+inline constexpr std::array<Rgb, 11> ColoriRgb{{
+    {0, 0, 0},       // predefinito, as text colour
+    {0, 0, 0},       // nero: ordinary text
+    {255, 255, 255}, // bianco: text of marked days
+    {255, 0, 0},     // rosso: Saturdays, Sundays, holidays
+    {0, 0, 128},     // navy: captions, marked days
+    {244, 244, 1},   // giallo: highlighted staff row
+    {255, 255, 215}, // gialloChiaro: plain staff rows
+    {0, 255, 255},   // ciano: selected cell
+    {224, 224, 224}, // grigioChiaro: days of the yearly grid
+    {176, 208, 255}, // azzurro: quarters of an appointment
+    {240, 240, 240}, // intestazione: fixed cells
+}};
+
+constexpr Rgb rgb(Colore colore) {
+    return ColoriRgb.at(static_cast<std::size_t>(colore));
+}
+
+/// The fonts of the grids.
+enum class Carattere : std::uint8_t { normale, grassetto, ora, minuti, anno };
+
+struct DescrizioneCarattere {
+    std::string_view famiglia;
+    int punti;
+    bool grassetto;
+};
+
+inline constexpr std::array<DescrizioneCarattere, 5> Caratteri{{
+    {"Tahoma", 9, false},       // normale
+    {"Tahoma", 9, true},        // grassetto
+    {"MS Sans Serif", 9, true}, // ora: hours of the daily header
+    {"SmallFonts", 7, false},   // minuti: quarters of the daily header
+    {"Tahoma", 10, true},       // anno: corner of the yearly grid
+}};
+
+constexpr const DescrizioneCarattere& carattere(Carattere which) {
+    return Caratteri.at(static_cast<std::size_t>(which));
+}
+
+enum class Allineamento : std::uint8_t { sinistra, centro };
+
+} // namespace planner

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "platform/posix/posix_file_system.h"
+
+#include "platform/posix/file_descriptor.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace planner {
+
+namespace {
+
+class PosixInputFile : public InputFile {
+public:
+    explicit PosixInputFile(FileDescriptor file)
+        : m_file(std::move(file)), m_length(m_file.regularFileLength()) {
+        m_file.refuseIfLocked();
+    }
+    std::uint64_t length() const override { return m_length; }
+    std::size_t read(std::span<char> out) override { return m_file.readAll(out); }
+
+private:
+    FileDescriptor m_file;
+    std::uint64_t m_length;
+};
+
+} // namespace
+
+std::string nativePath(std::string path) {
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
+bool PosixFileSystem::fileExists(const std::string& path) const {
+    struct stat status {};
+    return ::stat(nativePath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+bool PosixFileSystem::deleteFile(const std::string& path) {
+    return ::unlink(nativePath(path).c_str()) == 0;
+}
+
+std::unique_ptr<InputFile> PosixFileSystem::openForReading(const std::string& path) const {
+    return std::make_unique<PosixInputFile>(FileDescriptor(nativePath(path), O_RDONLY));
+}
+
+std::size_t PosixFileSystem::readStart(const std::string& path, std::span<char> out) {
+    FileDescriptor file(nativePath(path), O_RDWR | O_CREAT);
+    file.regularFileLength();
+    return file.readAll(out);
+}
+
+void PosixFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
+    FileDescriptor file(nativePath(path), O_WRONLY | O_CREAT);
+    file.regularFileLength();
+    file.writeAllAtStart(bytes);
+    file.syncAndClose();
+}
+
+} // namespace planner
