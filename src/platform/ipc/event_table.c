@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "event_table.h"
+
+#include <pthread.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/random.h>
+#include <time.h>
+#include <unistd.h>
+
+// Guarded by `mutex`.
+static struct {
+    pthread_mutex_t mutex;
+    EventHandle* first;
+    uint64_t token; // 0: not chosen yet by this process
+} table = {PTHREAD_MUTEX_INITIALIZER, NULL, 0};
+
+void beginUse(EventHandle* handle) {
+    ++handle->users;
+}
+
+void endUse(EventHandle* handle) {
+    if (--handle->users == 0) {
+        closeEvent(&handle->object);
+        free(handle);
+    }
+}
+
+static void dropAll(void) {
+    while (table.first != NULL) {
+        dropHandle(table.first);
+    }
+}
+
+static uint64_t newToken(void) {
+    uint64_t token = 0;
+    if (getrandom(&token, sizeof token, GRND_NONBLOCK) != (ssize_t)sizeof token || token == 0) {
+        struct timespec now;
+        clock_gettime(CLOCK_MONOTONIC, &now);
+        token = (uint64_t)getpid() << 40 ^ (uint64_t)now.tv_sec << 30 ^ (uint64_t)now.tv_nsec;
+    }
+    return token;
+}
+
+void lockTable(void) {
+    pthread_mutex_lock(&table.mutex);
+}
+
+void unlockTable(void) {
+    pthread_mutex_unlock(&table.mutex);
+}
+
+EventHandle* findHandle(const char* file) {
+    EventHandle* handle = table.first;
+    while (handle != NULL && strcmp(handle->file, file) != 0) {
+        handle = handle->next;
+    }
+    return handle;
+}
+
+// A host that meets many events, one after the other, must not keep a descriptor of each. A signal
+// that a dead creator left for it stays: the host was there when it was given.
+static bool isOfNoMoreUse(const EventHandle* handle) {
+    if (handle->creator || handle->users > 1) {
+        return false;
+    }
+    const uint32_t toHost = atomic_load(&handle->object.state->toHost);
+    return toHost == SIGNAL_RETIRED || (toHost == SIGNAL_NONE && !hasOtherCreator(&handle->object));
+}
+
+static void dropUseless(void) {
+    for (EventHandle* handle = table.first; handle != NULL;) {
+        EventHandle* next = handle->next;
+        if (isOfNoMoreUse(handle)) {
+            dropHandle(handle);
+        }
+        handle = next;
+    }
+}
+
+EventHandle* addHandle(const char* file, EventObject object, bool creator) {
+    dropUseless();
+    EventHandle* handle = calloc(1, sizeof *handle);
+    if (handle == NULL) {
+        closeEvent(&object);
+        return NULL;
+    }
+    handle->next = table.first;
+    handle->users = 1;
+    handle->creator = creator;
+    handle->object = object;
+    memcpy(handle->file, file, strlen(file) + 1);
+    table.first = handle;
+    return handle;
+}
+
+void dropHandle(EventHandle* handle) {
+    EventHandle** at = &table.first;
+    while (*at != NULL && *at != handle) {
+        at = &(*at)->next;
+    }
+    if (*at == handle) {
+        *at = handle->next;
+        endUse(handle);
+    }
+}
+
+uint64_t processToken(void) {
+    while (table.token == 0) {
+        table.token = newToken();
+    }
+    return table.token;
+}
+
+// The child is another process: it has no part in what its parent created or waits for.
+static void startAnew(void) {
+    dropAll();
+    table.token = 0;
+    unlockTable();
+}
+
+// Locked around the fork, for a child made while another thread is in a call would otherwise find
+// the mutex locked for ever.
+__attribute__((constructor)) static void guardForks(void) {
+    pthread_atfork(lockTable, unlockTable, startAnew);
+}
+
+// A program that unloads the library keeps no descriptors of it.
+__attribute__((destructor)) static void closeAll(void) {
+    lockTable();
+    dropAll();
+    unlockTable();
+}
