@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+//
+// A planner without a window: obeys the host's protocol in both modes and answers from a script.
+//
+//   FAKE_PLANNER_SCRIPT  one character per request: an action letter is answered with the incoming day and,
+//                        for the letters that name a staff member, the code RB; further
+//                          !  ends at once with exit code 9, without an answer
+//                          e  answers "E", then ends with exit code 7
+//                          x  answers eleven characters that are no answer
+//                          r  answers "D" and spoils the host's own fields
+//                          w  says "waiting" and gives no answer; says "ended gently" when asked to end
+//   FAKE_PLANNER_DIARY   a file that gets one line per request
+#include "TavTermIPC.h"
+#include "host/transit_request.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using planner::TransitRequest;
+
+constexpr int UsageExit = 64;
+constexpr int DiesExit = 9;
+constexpr int BadEndExit = 7;
+
+struct Script {
+    std::string letters;
+    std::size_t next = 0;
+
+    char take() { return next < letters.size() ? letters[next++] : 'E'; }
+};
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string{} : std::string(value);
+}
+
+TransitRequest readRecord(const std::filesystem::path& transit) {
+    TransitRequest record;
+    std::ifstream(transit, std::ios::binary).read(reinterpret_cast<char*>(&record), sizeof record);
+    return record;
+}
+
+void writeRecord(const std::filesystem::path& transit, const TransitRequest& record) {
+    std::ofstream(transit, std::ios::binary | std::ios::in | std::ios::out)
+        .write(reinterpret_cast<const char*>(&record), sizeof record);
+}
+
+/// Kind, period, incoming answer, staff code, the host's own fields, year of the yearly archive.
+void writeDiary(const TransitRequest& record, const std::filesystem::path& folder) {
+    std::string year(4, '-');
+    std::ifstream(folder / "wplanner", std::ios::binary).read(year.data(), 4);
+    std::ofstream diary(environment("FAKE_PLANNER_DIARY"), std::ios::app | std::ios::binary);
+    diary << record.tipoplanner.view() << '|' << record.startdate.view() << '|' << record.enddate.view()
+          << '|' << record.valret.view() << '|' << record.collab.view() << '|'
+          << record.riservato1.trimmedRight() << '|' << record.riservato2.trimmedRight() << '|'
+          << record.Windowcaption.trimmedRight() << '|' << year << '\n';
+}
+
+void answer(TransitRequest& record, char letter) {
+    const std::string day(record.valret.view().substr(0, 8));
+    const bool named = std::string_view("ACDITr").find(letter) != std::string_view::npos;
+    record.collab.assign(named ? "RB" : "");
+    if (letter == 'r') {
+        record.riservato1.assign("spoiled");
+        letter = 'D';
+    }
+    record.valret.assign(
+        letter == 'x' ? "no answer!?" : day + record.collab.text() + static_cast<char>(std::toupper(letter)));
+}
+
+void endGently(int) {
+    constexpr std::string_view text = "ended gently\n";
+    std::_Exit(::write(STDOUT_FILENO, text.data(), text.size()) < 0 ? 1 : 0);
+}
+
+[[noreturn]] void waitForEver() {
+    std::signal(SIGTERM, endGently);
+    std::cout << "waiting" << std::endl;
+    for (;;) {
+        ::pause();
+    }
+}
+
+/// Serves the request in the transit file; false when the planner has to end.
+bool serve(Script& script, const std::filesystem::path& transit, int& exitCode) {
+    TransitRequest record = readRecord(transit);
+    writeDiary(record, transit.parent_path());
+    const char letter = script.take();
+    if (letter == '!') {
+        std::exit(DiesExit);
+    }
+    if (letter == 'w') {
+        waitForEver();
+    }
+    answer(record, letter);
+    writeRecord(transit, record);
+    exitCode = letter == 'e' ? BadEndExit : 0;
+    return record.azione() != 'E';
+}
+
+int runWithEvent(Script& script, const std::filesystem::path& transit, const char* event) {
+    int exitCode = 0;
+    bool goOn = serve(script, transit, exitCode);
+    TvIpcCreazioneEvento(event);
+    while (goOn) {
+        TvIpcSetEvento(event);
+        TvIpcWaitEvento(event);
+        goOn = serve(script, transit, exitCode);
+    }
+    TvIpcSetEvento(event);
+    TvIpcRimozioneEvento(event);
+    return exitCode;
+}
+
+int runWithMarker(Script& script, const std::filesystem::path& transit) {
+    const std::filesystem::path marker = transit.parent_path() / "LockPl.lck";
+    int exitCode = 0;
+    bool goOn = true;
+    while (goOn) {
+        if (!std::filesystem::exists(marker)) {
+            std::this_thread::sleep_for(
+                std::chrono::milliseconds(5)); // this mode has nothing else to wait for
+            continue;
+        }
+        if (!std::filesystem::exists(transit)) {
+            return 0;
+        }
+        goOn = serve(script, transit, exitCode);
+        std::filesystem::remove(marker);
+    }
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4 || std::string_view(argv[2]).size() != 1) {
+        return UsageExit;
+    }
+    const std::filesystem::path transit = argv[1];
+    const std::string_view event = argv[3];
+    Script script{environment("FAKE_PLANNER_SCRIPT")};
+    if (event != "NOEVENT") {
+        return runWithEvent(script, transit, argv[3]);
+    }
+    if (argv[2][0] == '0') {
+        std::filesystem::remove(transit.parent_path() / "TvPlaOK.lck");
+        return 0;
+    }
+    return runWithMarker(script, transit);
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "run_program.h"
+#include "temporary_folder.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace planner::toolstest {
+
+/// Runs planner-host against the scripted planner, in folders of the test's own.
+class HostTest : public testing::Test {
+protected:
+    HostTest();
+
+    /// planner-host with these options; the planner answers the script. See fake_planner.cpp.
+    RunResult host(const std::string& script, std::vector<std::string> options,
+                   const std::string& interruptAfter = {});
+
+    /// What the planner was asked, one line per request.
+    std::vector<std::string> diary() const;
+
+    /// Where planner-host makes its temporary folders.
+    std::filesystem::path temporaryParent() const { return m_folder.path() / "tmp"; }
+    /// Where the events live.
+    std::filesystem::path runtimeFolder() const { return m_folder.path() / "run"; }
+    /// A folder for whatever the test needs.
+    const std::filesystem::path& folder() const { return m_folder.path(); }
+
+private:
+    TemporaryFolder m_folder;
+};
+
+/// The same in both ways of talking to the planner; the parameter is the value of --modo.
+class HostModeTest : public HostTest, public testing::WithParamInterface<const char*> {
+protected:
+    /// For the year 2006 and a small office.
+    RunResult hostInMode(const std::string& script, std::vector<std::string> options = {},
+                         const std::string& interruptAfter = {});
+};
+
+} // namespace planner::toolstest

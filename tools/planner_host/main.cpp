@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "planner_host/errors.h"
+#include "planner_host/host.h"
+#include "planner_host/option_table.h"
+#include "platform/posix/system_clock.h"
+
+#include <exception>
+#include <iostream>
+
+int main(int argc, char** argv) {
+    using namespace planner;
+    try {
+        const std::vector<std::string_view> argomenti(argv + (argc > 0 ? 1 : 0), argv + argc);
+        const OpzioniHost opzioni = leggiOpzioni(argomenti, SystemClock().today());
+        if (opzioni.aiuto) {
+            std::cout << testoAiuto();
+            return 0;
+        }
+        const Interruzioni interruzioni;
+        Host(opzioni, interruzioni, std::cout).esegui();
+        return 0;
+    } catch (const HostError& error) {
+        std::cerr << "planner-host: " << error.what() << "\n";
+        if (error.exitCode() == static_cast<int>(CodiceUscita::UsoErrato)) {
+            std::cerr << "Le opzioni: planner-host --help\n";
+        }
+        return error.exitCode();
+    } catch (const std::exception& error) {
+        std::cerr << "planner-host: errore imprevisto: " << error.what() << "\n";
+        return static_cast<int>(CodiceUscita::ErroreFile);
+    }
+}
