@@ -7,10 +7,10 @@ namespace planner {
 namespace {
 
 // The panel's columns and rows, in twips.
-constexpr std::array ColumnLefts{5200, 7700, 10300};
+constexpr std::array ColumnLefts{4700, 7150, 9750};
 constexpr std::array CaptionWidths{1450, 1650, 1650};
-constexpr std::array RowTops{1040, 1500, 1960};
-constexpr int RowHeight = 400;
+constexpr std::array RowTops{1210, 1630, 2050};
+constexpr int RowHeight = 370;
 constexpr int NumberWidth = 750;
 
 std::size_t shownRow(const EtichettaTotale& etichetta, bool varianteRidotta) {
@@ -39,10 +39,10 @@ Rettangolo posizioneNumero(const EtichettaTotale& etichetta, bool varianteRidott
 std::vector<ControlloProgetto> controlliPlcal() {
     constexpr Rettangolo grid{60, 2500, 15240, 9480};
     std::vector<ControlloProgetto> controls{
-        {"Toolbar1", {0, 0, 12600, 960}},
+        {"Toolbar1", {0, 0, 12600, 1170}},
         {"calendario", {12660, 60, 2640, 2380}},
-        {"lbldescr", {180, 1040, 4900, 480}},
-        {"lblcollab", {180, 1520, 4900, 400}},
+        {"lbldescr", {180, 1210, 4500, 480}},
+        {"lblcollab", {180, 1720, 4500, 400}},
         {"Flxm", grid},
         {"flxg", grid},
         {"flxa", grid},

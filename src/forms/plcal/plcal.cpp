@@ -71,6 +71,19 @@ void plcal::Form_Unload() {
     m_motore.reset();
 }
 
+bool plcal::comandoDisponibile(Pulsante pulsante) {
+    return pulsante == Pulsante::exit || pulsante == Pulsante::dettno || pulsante == Pulsante::dettsi;
+}
+
+void plcal::Toolbar1_ButtonClick(Pulsante pulsante) {
+    if (pulsante == Pulsante::exit) {
+        unload();
+    } else if (pulsante == Pulsante::dettno || pulsante == Pulsante::dettsi) {
+        m_controlli.Toolbar1.setDettagliato(pulsante == Pulsante::dettsi);
+        refreshGrid();
+    }
+}
+
 void plcal::refreshGrid() {
     const bool dettagliato = m_controlli.Toolbar1.dettagliato();
     m_sessione.LivelloDettaglio = dettagliato ? 4 : 1;

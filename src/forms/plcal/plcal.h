@@ -37,6 +37,10 @@ public:
     bool Form_KeyDown(int tasto);
     void Form_Unload();
 
+    /// True for the commands that there are.
+    static bool comandoDisponibile(Pulsante pulsante);
+    void Toolbar1_ButtonClick(Pulsante pulsante);
+
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
 

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/cell_painter.h"
+
+#include "grids/layout.h"
+#include "platform/qt/text.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+constexpr QRgb LineColor = qRgb(200, 200, 188);
+constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
+constexpr int TextMargin = 4;
+constexpr int QuartersPerHour = 4;
+
+int pictureSide(const QRect& rect) {
+    return std::min({rect.width() - 3, rect.height() - 2, 64});
+}
+
+/// A day column's right line is stronger at the end of a week, a quarter's at the end of an hour.
+bool endsGroup(const Griglia& griglia, int col) {
+    const int group = griglia.Cols() == ColonneQuarti + 1 ? QuartersPerHour : 7;
+    return col == 0 || col % group == 0;
+}
+
+} // namespace
+
+CellPainter::CellPainter(double fontFactor) {
+    setFontFactor(fontFactor);
+}
+
+void CellPainter::setFontFactor(double fontFactor) {
+    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
+        m_fonts[i] = qtFont(static_cast<Carattere>(i), fontFactor);
+    }
+}
+
+void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+    const Cella& cella = griglia.cella(row, col);
+    painter.fillRect(rect, qtColor(griglia.sfondoVisibile(row, col)));
+    if (cella.immagine != 0) {
+        paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
+    }
+    if (cella.testo != 0) {
+        paintText(painter, rect, griglia, row, col);
+    }
+    paintLines(painter, rect, griglia, row, col);
+}
+
+void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
+    const int side = besideText ? std::min(pictureSide(rect), 32) : pictureSide(rect);
+    const QPixmap& pixmap = m_pictures.picture(picture, side, painter.device()->devicePixelRatioF());
+    const int left =
+        besideText ? rect.right() - side - TextMargin : rect.left() + (rect.width() - 1 - side) / 2;
+    painter.drawPixmap(QPoint(left, rect.top() + (rect.height() - 1 - side) / 2), pixmap);
+}
+
+void CellPainter::paintText(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+    const Cella& cella = griglia.cella(row, col);
+    const bool centred = cella.allineamento == Allineamento::centro;
+    const int pictureWidth = cella.immagine != 0 ? std::min(pictureSide(rect), 32) + TextMargin : 0;
+    const QRect inner = rect.adjusted(centred ? 0 : TextMargin, 0, -1 - pictureWidth, -1);
+    painter.setFont(m_fonts.at(static_cast<std::size_t>(cella.carattere)));
+    painter.setPen(qtColor(cella.colore));
+    const QString text = fromCp1252(griglia.TextMatrix(row, col));
+    const QString shown =
+        col == 0 ? painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()) : text;
+    painter.drawText(inner,
+                     static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
+                                      (centred ? Qt::AlignHCenter : Qt::AlignLeft)),
+                     shown);
+}
+
+void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+    painter.setPen(QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
+    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
+    painter.setPen(QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
+    painter.drawLine(rect.topRight(), rect.bottomRight());
+}
+
+} // namespace planner

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/toolbar.h"
+
+#include <QToolBar>
+
+#include <functional>
+#include <vector>
+
+namespace planner {
+
+/// The toolbar `Toolbar1`: one action per command, with separators between.
+class CommandBar : public QToolBar {
+    Q_OBJECT
+public:
+    /// `available` tells which commands there are; the others stay disabled.
+    CommandBar(const std::function<bool(Pulsante)>& available, QWidget* parent);
+
+    /// Shows which commands can be used.
+    void update(const StatoToolbar& stato);
+
+Q_SIGNALS:
+    void ButtonClick(planner::Pulsante pulsante);
+
+private:
+    void addCommand(const DescrizionePulsante& described);
+
+    struct Comando {
+        Pulsante pulsante;
+        QAction* action;
+        bool available;
+    };
+    std::vector<Comando> m_comandi;
+};
+
+} // namespace planner

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/grid_header.h"
+
+#include "forms/plcal/grid_model.h"
+
+#include <QPainter>
+
+#include <numeric>
+
+namespace planner {
+
+GridHeader::GridHeader(Qt::Orientation orientation, const GridModel& model, CellPainter& painter,
+                       QWidget* parent)
+    : QHeaderView(orientation, parent), m_model(model), m_painter(painter) {
+    constexpr int smallestSection = 4;
+    setMinimumSectionSize(smallestSection); // the toolkit's own minimum is wider than a day column may be
+    setSectionResizeMode(QHeaderView::Fixed);
+    setSectionsClickable(false);
+    setHighlightSections(false);
+}
+
+void GridHeader::setThickness(const std::vector<int>& sizes) {
+    m_sizes = sizes;
+    updateGeometry();
+    viewport()->update();
+}
+
+QSize GridHeader::sizeHint() const {
+    const int thickness = std::accumulate(m_sizes.begin(), m_sizes.end(), 0);
+    return orientation() == Qt::Horizontal ? QSize(0, thickness) : QSize(thickness, 0);
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    painter->save();
+    if (orientation() == Qt::Vertical) {
+        m_painter.paint(*painter, rect, m_model.griglia(), m_model.gridRow(logicalIndex), 0);
+    } else {
+        int top = rect.top();
+        for (int row = 0; row < static_cast<int>(m_sizes.size()); ++row) {
+            const int height = m_sizes[static_cast<std::size_t>(row)];
+            m_painter.paint(*painter, QRect(rect.left(), top, rect.width(), height), m_model.griglia(), row,
+                            GridModel::gridCol(logicalIndex));
+            top += height;
+        }
+    }
+    painter->restore();
+}
+
+} // namespace planner

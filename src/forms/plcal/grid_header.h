@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/cell_painter.h"
+
+#include <QHeaderView>
+
+namespace planner {
+
+class GridModel;
+
+/// A grid's fixed rows above the data, or its first column beside it: they stay in sight when the data
+/// scrolls.
+class GridHeader : public QHeaderView {
+    Q_OBJECT
+public:
+    GridHeader(Qt::Orientation orientation, const GridModel& model, CellPainter& painter, QWidget* parent);
+
+    /// The header's extent across its sections, one size per fixed row or column, in pixels.
+    void setThickness(const std::vector<int>& sizes);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+
+private:
+    const GridModel& m_model;
+    CellPainter& m_painter;
+    std::vector<int> m_sizes;
+};
+
+} // namespace planner

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/grid_model.h"
+
+#include "platform/qt/appearance.h"
+#include "platform/qt/text.h"
+
+#include <algorithm>
+
+namespace planner {
+
+GridModel::GridModel(Griglia& griglia, QObject* parent)
+    : QAbstractTableModel(parent), m_griglia(griglia), m_rows(griglia.Rows()), m_cols(griglia.Cols()) {
+    m_griglia.setOsservatore(this);
+}
+
+GridModel::~GridModel() {
+    m_griglia.setOsservatore(nullptr);
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(m_rows - m_griglia.FixedRows(), 0);
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(m_cols - Griglia::FixedCols(), 0);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const int row = gridRow(index.row());
+    const int col = gridCol(index.column());
+    switch (role) {
+    case Qt::DisplayRole:
+        return fromCp1252(m_griglia.TextMatrix(row, col));
+    case Qt::ForegroundRole:
+        return qtColor(m_griglia.cella(row, col).colore);
+    case Qt::BackgroundRole:
+        return qtColor(m_griglia.sfondoVisibile(row, col));
+    default:
+        return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const int count = orientation == Qt::Vertical ? rowCount() : columnCount();
+    if (role != Qt::DisplayRole || section < 0 || section >= count) {
+        return {};
+    }
+    if (orientation == Qt::Vertical) {
+        return fromCp1252(m_griglia.TextMatrix(gridRow(section), 0));
+    }
+    QString text;
+    for (int row = 0; row < m_griglia.FixedRows(); ++row) {
+        text += fromCp1252(m_griglia.TextMatrix(row, gridCol(section))) + QLatin1Char(' ');
+    }
+    return text.trimmed();
+}
+
+void GridModel::strutturaCambiata() {
+    beginResetModel();
+    m_rows = m_griglia.Rows();
+    m_cols = m_griglia.Cols();
+    endResetModel();
+    Q_EMIT measuresChanged();
+    Q_EMIT headersChanged();
+}
+
+void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
+    const int firstRow = std::max(area.rigaMin - m_griglia.FixedRows(), 0);
+    const int firstColumn = std::max(area.colonnaMin - Griglia::FixedCols(), 0);
+    const int lastRow = area.rigaMax - m_griglia.FixedRows();
+    const int lastColumn = area.colonnaMax - Griglia::FixedCols();
+    if (lastRow >= firstRow && lastColumn >= firstColumn) {
+        Q_EMIT dataChanged(index(firstRow, firstColumn), index(lastRow, lastColumn));
+    }
+    if (misure) {
+        Q_EMIT measuresChanged();
+    }
+    if (!area.empty() && (area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols())) {
+        Q_EMIT headersChanged();
+    }
+}
+
+} // namespace planner

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "grids/griglia.h"
+
+#include <QAbstractTableModel>
+
+namespace planner {
+
+/// A grid's data cells for the view: the fixed rows and the first column are its headers.
+class GridModel : public QAbstractTableModel, public OsservatoreGriglia {
+    Q_OBJECT
+public:
+    /// Watches the grid until it goes; the grid must live longer.
+    explicit GridModel(Griglia& griglia, QObject* parent = nullptr);
+    ~GridModel() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    void strutturaCambiata() override;
+    void celleCambiate(const AreaCelle& area, bool misure) override;
+
+    const Griglia& griglia() const { return m_griglia; }
+    /// The grid's own coordinates of a data cell.
+    int gridRow(int modelRow) const { return modelRow + m_griglia.FixedRows(); }
+    static int gridCol(int modelColumn) { return modelColumn + Griglia::FixedCols(); }
+
+Q_SIGNALS:
+    /// Row heights or column widths changed.
+    void measuresChanged();
+    /// Something in the fixed rows or the first column changed.
+    void headersChanged();
+
+private:
+    Griglia& m_griglia;
+    int m_rows, m_cols; // what the views know
+};
+
+} // namespace planner

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "forms/plcal/cell_painter.h"
+#include "forms/plcal/plcal.h"
+#include "forms/plcal/vista_plcal.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace planner {
+
+class CommandBar;
+class DetailPanel;
+class GridView;
+class ShownCalendar;
+
+/// The planner window's widgets. It decides nothing: events go to `plcal`, contents come from the controls'
+/// data.
+class PlcalWindow : public QWidget, public VistaPlcal {
+    Q_OBJECT
+public:
+    PlcalWindow(const modpl& sessione, ControlliPlcal& controlli);
+    ~PlcalWindow() override;
+
+    /// Whom the window's events go to; must be set before the window is shown.
+    void setForm(plcal& form) { m_form = &form; }
+
+    Dimensioni schermo() const override;
+    void disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) override;
+    void aggiorna() override;
+    void disponiPulsantiPeriodo() override;
+    void scorriA(int colonna) override;
+    void mostra() override;
+    void nascondi() override;
+    void portaDavanti() override;
+    void LockWindowUpdate(bool locked) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makeLabels();
+    void makeGrids();
+    void place(QWidget& widget, const Rettangolo& twips) const;
+    void fillRemainingSpace();
+    GridView* visibleGrid() const;
+
+    const modpl& m_sessione;
+    ControlliPlcal& m_controlli;
+    plcal* m_form = nullptr;
+    Scala m_scala;
+    CellPainter m_painter{1};
+
+    CommandBar* m_Toolbar1;
+    ShownCalendar* m_calendario;
+    QLabel* m_lbldescr;
+    QLabel* m_lblcollab;
+    DetailPanel* m_panel;
+    GridView* m_Flxm;
+    GridView* m_flxg;
+    GridView* m_flxa;
+};
+
+} // namespace planner

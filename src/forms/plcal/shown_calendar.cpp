@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/shown_calendar.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+namespace planner {
+
+namespace {
+
+constexpr int SmallestRow = 12; // pixels
+
+} // namespace
+
+ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
+    setObjectName(QStringLiteral("calendario"));
+    setLocale(QLocale());
+    setFirstDayOfWeek(Qt::Monday);
+    setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
+    setDateRange(QDate(AnnoMinimo, 1, 1), QDate(AnnoMassimo, 12, 31));
+    setSelectionMode(QCalendarWidget::NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    hideNavigation();
+    for (QTableView* days : findChildren<QTableView*>()) {
+        days->viewport()->installEventFilter(this);
+        days->setFocusPolicy(Qt::NoFocus);
+        days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
+    }
+    colourDays();
+}
+
+void ShownCalendar::hideNavigation() {
+    // It shows a date; the period buttons move it. Month and year stay as its heading.
+    for (const char* arrow : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(arrow))) {
+            button->hide();
+        }
+    }
+    for (const char* heading : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(heading))) {
+            button->setAttribute(Qt::WA_TransparentForMouseEvents);
+            button->setFocusPolicy(Qt::NoFocus);
+            button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+        }
+    }
+}
+
+void ShownCalendar::colourDays() {
+    // Readable on light and on dark; pure red is not.
+    const bool dark = palette().color(QPalette::Base).lightness() < 128;
+    QTextCharFormat weekend;
+    weekend.setForeground(dark ? QColor(255, 128, 128) : QColor(176, 0, 0));
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
+}
+
+void ShownCalendar::update(const Calendario& calendario) {
+    setSelectedDate(QDate(calendario.Year(), calendario.Month(), calendario.Day()));
+}
+
+bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {
+    return event->type() == QEvent::Wheel || QCalendarWidget::eventFilter(watched, event);
+}
+
+} // namespace planner

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/calendario.h"
+
+#include <QCalendarWidget>
+
+namespace planner {
+
+/// The month calendar that shows the date of `calendario`.
+class ShownCalendar : public QCalendarWidget {
+    Q_OBJECT
+public:
+    explicit ShownCalendar(QWidget* parent);
+
+    void update(const Calendario& calendario);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void hideNavigation();
+    void colourDays();
+};
+
+} // namespace planner

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "platform/qt/appearance.h"
+
+#include "platform/qt/text.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
+
+/// A static library's resources are linked in only when somebody asks for them; the toolkit's macro must
+/// stand outside any namespace.
+static void initResources() {
+    Q_INIT_RESOURCE(resources);
+}
+
+namespace planner {
+
+namespace {
+
+/// What stands for the design-time fonts where they are not installed.
+QFont fontNamed(std::string_view family) {
+    QFont font;
+    font.setFamilies({fromUtf8(family), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
+    return font;
+}
+
+} // namespace
+
+void setUpAppearance(QApplication& application) {
+    initResources();
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setFont(qtFont(Carattere::normale, 1));
+    QApplication::setWindowIcon(qtIcon("planner"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QColor qtColor(Colore colore) {
+    const Rgb value = rgb(colore);
+    return {value.red, value.green, value.blue};
+}
+
+QFont qtFont(Carattere which, double factor) {
+    const DescrizioneCarattere& described = carattere(which);
+    QFont font = fontNamed(described.famiglia);
+    font.setPointSizeF(described.punti * std::max(factor, 1.0));
+    font.setBold(described.grassetto);
+    return font;
+}
+
+QIcon qtIcon(std::string_view name) {
+    return QIcon(QStringLiteral(":/planner/") + fromUtf8(name) + QStringLiteral(".svg"));
+}
+
+} // namespace planner
