@@ -51,6 +51,9 @@ std::optional<char16_t> takeCharacter(std::string_view& text) {
         }
         code = (code << 6) | (next & 0x3Fu);
     }
+    if ((length == 2 && code < 0x80) || (length == 3 && code < 0x800)) {
+        return std::nullopt; // longer than it need be
+    }
     text.remove_prefix(length);
     return static_cast<char16_t>(code);
 }

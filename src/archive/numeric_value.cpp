@@ -38,23 +38,6 @@ Parsed parseUnsigned(std::string_view text) {
     return parsed;
 }
 
-/// Short runs of digits, by far the most common content, need no general parser.
-bool parseDigits(std::string_view text, double& value) {
-    constexpr std::size_t maxDigits = 9;
-    if (text.empty() || text.size() > maxDigits) {
-        return false;
-    }
-    std::int32_t sum = 0;
-    for (const char c : text) {
-        if (!isDigit(c)) {
-            return false;
-        }
-        sum = sum * 10 + (c - '0');
-    }
-    value = sum;
-    return true;
-}
-
 Parsed parseSigned(std::string_view text) {
     const bool hasSign = !text.empty() && (text[0] == '-' || text[0] == '+');
     Parsed parsed = parseUnsigned(hasSign ? text.substr(1) : text);
@@ -67,15 +50,11 @@ Parsed parseSigned(std::string_view text) {
 
 } // namespace
 
-double numericValue(std::string_view text) {
-    double value = 0;
-    if (parseDigits(text, value)) {
-        return value;
-    }
+double anyNumericValue(std::string_view text) {
     return parseSigned(trim(text)).value;
 }
 
-std::int16_t roundTo16Bit(double value) {
+std::int16_t roundFractionTo16Bit(double value) {
     const double rounded = std::nearbyint(value);
     if (!(rounded >= INT16_MIN && rounded <= INT16_MAX)) {
         throw OverflowError();

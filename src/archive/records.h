@@ -76,7 +76,7 @@ inline constexpr std::array MesePlannerFields{
     Field{"mese", 4, 2, "month"},
     Field{"campo3", 6, 2, "host's own"},
     Field{"segni", 8, 42, "42 day marks of 1 character; \"*\" marks the day"},
-    Field{"testi", 50, 42 * 44, "42 texts of 44 characters: eleven 4-character numbers each"},
+    Field{"testi", 50, std::size_t{42} * 44, "42 texts of 44 characters: eleven 4-character numbers each"},
     Field{"campo6", 1898, 2, "host's own"},
 };
 static_assert(sizeof(MesePlanner) == 1900 && fieldsCover(MesePlannerFields, sizeof(MesePlanner)));

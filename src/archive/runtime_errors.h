@@ -37,7 +37,8 @@ public:
     explicit DateError(const std::string& dateText);
 };
 
-/// A file cannot be opened, read or written. `what()` names the cause, not the file.
+/// A file cannot be opened, read or written. `what()` names the cause, not the file, in the system's words
+/// where the cause is the system's.
 class FileError : public RuntimeError {
 public:
     using RuntimeError::RuntimeError;

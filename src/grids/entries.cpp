@@ -5,18 +5,17 @@
 namespace planner {
 
 int immagineImpegno(const ValoriContatori& valori, bool dettagliato) {
-    const std::string_view chiave = chiaveTipi(valori);
-    if (chiave.empty()) {
+    const unsigned tipi = tipiPresenti(valori);
+    if (tipi == 0) {
         return 0;
     }
-    return dettagliato ? Eval_imagedisplay(chiave) : ImmaginePresenza;
+    return dettagliato ? immagineTipi(tipi) : ImmaginePresenza;
 }
 
 Impegno leggiImpegno(const RigaPlanner& riga, const modpl& sessione, bool dettagliato) {
-    Impegno impegno{};
-    impegno.indice = sessione.indiceCodici.IndCollaboratore(riga.codice.view());
-    impegno.data = dateFromTexts(riga.giorno.view(), riga.mese.view(), riga.anno.view());
-    impegno.valori = valoriContatori(riga);
+    Impegno impegno{sessione.indiceCodici.IndCollaboratore(riga.codice.view()),
+                    dateFromTexts(riga.giorno.view(), riga.mese.view(), riga.anno.view()),
+                    valoriContatori(riga), /*immagine=*/0};
     impegno.immagine = immagineImpegno(impegno.valori, dettagliato);
     return impegno;
 }

@@ -75,7 +75,7 @@ void showgrid2(Griglia& flxg) {
 EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato) {
     const Griglia::LockWindowUpdate lock(flxg);
     writeCornerCaption(flxg, 0, shownDay(calendario), Carattere::grassetto);
-    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi);
+    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi, Allineamento::sinistra);
     setDataRowHeights(flxg, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);

@@ -122,6 +122,14 @@ void Griglia::setColWidth(int col, int twips) {
     notify();
 }
 
+void Griglia::setOsservatore(OsservatoreGriglia* osservatore) {
+    m_osservatore = osservatore;
+    m_knownRows = m_rows;
+    m_knownCols = m_cols;
+    m_dirty = {};
+    m_measuresChanged = false;
+}
+
 std::size_t Griglia::index(int row, int col) const {
     if (row < 0 || row >= m_rows || col < 0 || col >= m_cols) {
         throw SubscriptError();

@@ -83,8 +83,8 @@ public:
     void setRowHeight(int row, int twips);
     void setColWidth(int col, int twips);
 
-    /// At most one observer; null for none.
-    void setOsservatore(OsservatoreGriglia* osservatore) { m_osservatore = osservatore; }
+    /// At most one observer; null for none. It is told what changes from now on.
+    void setOsservatore(OsservatoreGriglia* osservatore);
 
     /// Suspends what the observer is told while a grid is filled; the last one to go tells it once.
     class LockWindowUpdate {

@@ -11,14 +11,14 @@ void writeWeekdayLetters(Griglia& griglia) {
     }
 }
 
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi) {
+void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Allineamento allineamento) {
     int row = firstRow;
     for (int i = 0; i < archivi.NumCollab; ++i, ++row) {
         griglia.setText(row, 0, archivi.Collaboratori.at(static_cast<std::size_t>(i)).nome.trimmedRight());
-        griglia.setCellAlignment(row, 0, Allineamento::sinistra);
+        griglia.setCellAlignment(row, 0, allineamento);
     }
     griglia.setText(row, 0, NonAssegnate);
-    griglia.setCellAlignment(row, 0, Allineamento::sinistra);
+    griglia.setCellAlignment(row, 0, allineamento);
 }
 
 void writeCornerCaption(Griglia& griglia, int row, std::string_view text, Carattere carattere) {

@@ -45,7 +45,7 @@ void writeWeekdayLetters(Griglia& griglia);
 
 /// Writes the staff names into column 0 from `firstRow` down, in table order, and below them the row for
 /// appointments whose staff code matches nobody.
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi);
+void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Allineamento allineamento);
 
 /// A bold navy caption in the grid's corner.
 void writeCornerCaption(Griglia& griglia, int row, std::string_view text, Carattere carattere);

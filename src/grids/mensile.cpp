@@ -59,7 +59,7 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
     const Griglia::LockWindowUpdate lock(Flxm);
     writeCornerCaption(Flxm, 0, nomeMese(calendario.Month()), Carattere::grassetto);
     writeCornerCaption(Flxm, 1, std::to_string(calendario.Year()), Carattere::grassetto);
-    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi);
+    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi, Allineamento::centro);
     setDataRowHeights(Flxm, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);

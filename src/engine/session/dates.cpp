@@ -3,21 +3,26 @@
 #include "engine/session/dates.h"
 
 #include "archive/cp1252.h"
-#include "archive/fixed_text.h"
 #include "archive/runtime_errors.h"
 
-#include <charconv>
+#include <algorithm>
 
 namespace planner {
 
 namespace {
 
-std::optional<int> parseDigits(std::string_view text) {
-    const std::string_view digits = trim(text);
+/// The whole number that the text is, blanks around it aside; -1, which is no part of a date, when it is
+/// none.
+int parseDigits(std::string_view text) {
+    constexpr std::size_t maxDigits = 9;
+    const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
+    std::size_t end = begin;
     int number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    const bool complete = error == std::errc{} && end == digits.data() + digits.size();
-    return complete && number >= 0 ? std::optional(number) : std::nullopt;
+    while (end < text.size() && text[end] >= '0' && text[end] <= '9' && end - begin < maxDigits) {
+        number = number * 10 + (text[end++] - '0');
+    }
+    const bool complete = end > begin && text.find_first_not_of(' ', end) == std::string_view::npos;
+    return complete ? number : -1;
 }
 
 std::string pad(int number, std::size_t width) {
@@ -38,10 +43,7 @@ std::optional<Data> makeDate(int anno, int mese, int giorno) {
 }
 
 Data dateFromTexts(std::string_view giorno, std::string_view mese, std::string_view anno) {
-    const auto year = parseDigits(anno);
-    const auto month = parseDigits(mese);
-    const auto day = parseDigits(giorno);
-    const auto data = year && month && day ? makeDate(*year, *month, *day) : std::nullopt;
+    const auto data = makeDate(parseDigits(anno), parseDigits(mese), parseDigits(giorno));
     if (!data) {
         std::string text;
         for (const std::string_view part : {giorno, mese, anno}) {
@@ -57,10 +59,8 @@ std::optional<Data> parseDate(std::string_view yyyymmdd) {
     if (yyyymmdd.size() != 8 || yyyymmdd.find_first_not_of("0123456789") != std::string_view::npos) {
         return std::nullopt;
     }
-    const auto year = parseDigits(yyyymmdd.substr(0, 4));
-    const auto month = parseDigits(yyyymmdd.substr(4, 2));
-    const auto day = parseDigits(yyyymmdd.substr(6, 2));
-    return year && month && day ? makeDate(*year, *month, *day) : std::nullopt;
+    return makeDate(parseDigits(yyyymmdd.substr(0, 4)), parseDigits(yyyymmdd.substr(4, 2)),
+                    parseDigits(yyyymmdd.substr(6, 2)));
 }
 
 std::string formatDate(Data data) {

@@ -39,6 +39,9 @@ std::string EstraiCollaboratore(std::span<const Collaboratore> collaboratori, co
 /// The picture, 1 to 15, for the kinds present, given as ascending digits ("134"); 0 for anything else.
 std::int16_t Eval_imagedisplay(std::string_view deps);
 
+/// The same for a set of kinds: bit i stands for `TipiImpegno[i]`.
+std::int16_t immagineTipi(unsigned tipi);
+
 /// The picture of the grid that shows no details.
 inline constexpr std::int16_t ImmaginePresenza = 16;
 

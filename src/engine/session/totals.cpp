@@ -11,7 +11,9 @@ namespace planner {
 namespace {
 
 bool contains(const ValoriContatori& valori, const CategoriaTotali& categoria) {
-    return valori.at(categoria.contatori[0]) != 0 || valori.at(categoria.contatori[1]) != 0;
+    const bool first = valori.at(categoria.contatori[0]) != 0;
+    const bool second = valori.at(categoria.contatori[1]) != 0;
+    return first | second;
 }
 
 } // namespace
@@ -24,17 +26,18 @@ ValoriContatori valoriContatori(const RigaPlanner& riga) {
     return valori;
 }
 
-std::string_view chiaveTipi(const ValoriContatori& valori) {
-    // The key's digits 1 to 4 name categories 3, 2, 0 and 1, in this order.
-    constexpr std::array<std::uint8_t, 4> categories{3, 2, 0, 1};
-    std::array<char, categories.size()> key{};
-    std::size_t length = 0;
+unsigned tipiPresenti(const ValoriContatori& valori) {
+    // The kinds are those of categories 3, 2, 0 and 1, in this order.
+    constexpr std::array<std::uint8_t, TipiImpegno.size()> categories{3, 2, 0, 1};
+    unsigned tipi = 0;
     for (std::size_t i = 0; i < categories.size(); ++i) {
-        if (contains(valori, CategorieTotali[categories[i]])) {
-            key[length++] = TipiImpegno[i].cifra;
-        }
+        tipi |= static_cast<unsigned>(contains(valori, CategorieTotali[categories[i]])) << i;
     }
-    return chiaveImmagine(Eval_imagedisplay({key.data(), length}));
+    return tipi;
+}
+
+std::string_view chiaveTipi(const ValoriContatori& valori) {
+    return chiaveImmagine(immagineTipi(tipiPresenti(valori)));
 }
 
 TabellaTotali::TabellaTotali(std::int16_t upperBound) : m_righe(static_cast<std::size_t>(upperBound) + 1) {}

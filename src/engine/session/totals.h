@@ -30,6 +30,9 @@ inline constexpr std::array CategorieTotali{CategoriaTotali{"scadenze", {5, 1}},
 using ValoriContatori = std::array<double, 12>;
 ValoriContatori valoriContatori(const RigaPlanner& riga);
 
+/// The kinds that the counters hold: bit i stands for `TipiImpegno[i]`, 0 for nothing to mark.
+unsigned tipiPresenti(const ValoriContatori& valori);
+
 /// The picture key of the kinds that the counters hold: ascending digits, empty when there is nothing to
 /// mark.
 std::string_view chiaveTipi(const ValoriContatori& valori);
