@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "measure.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace planner::bench {
+
+double minimum(const Times& times) {
+    return times.empty() ? 0.0 : *std::min_element(times.begin(), times.end());
+}
+
+double median(Times times) {
+    if (times.empty()) {
+        return 0.0;
+    }
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+}
+
+double timeOnce(const std::function<void()>& work) {
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
+}
+
+std::vector<Times> measureInTurns(const std::vector<std::function<void()>>& works, int repetitions) {
+    for (const auto& work : works) {
+        work();
+    }
+    std::vector<Times> times(works.size());
+    for (int i = 0; i < repetitions; ++i) {
+        for (std::size_t which = 0; which < works.size(); ++which) {
+            times[which].push_back(timeOnce(works[which]));
+        }
+    }
+    return times;
+}
+
+} // namespace planner::bench

@@ -1,0 +1,23 @@
+# Sourced by the other scripts: the Debian packages that the project needs, and how to get them.
+
+PACKAGES_BUILD="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev"
+PACKAGES_QT="qt6-base-dev libqt6opengl6-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-liberation"
+PACKAGES_DISPLAY="xvfb openbox xdotool x11-utils imagemagick"
+
+# Installs those of the named packages that are missing, as root or with sudo.
+install_packages() {
+    local missing=()
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Missing packages, and neither root nor sudo: ${missing[*]}" >&2; return 1; }
+        as_root=(sudo)
+    fi
+    echo "Installing: ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "options.h"
+
+#include "host/command_line.h"
+#include "in_quotes.h"
+
+#include <string_view>
+
+namespace planner {
+
+namespace {
+
+/// Takes the arguments one by one.
+class Reader {
+public:
+    explicit Reader(std::span<const char* const> arguments) : m_rest(arguments) {}
+
+    bool done() const { return m_rest.empty(); }
+    std::string_view next() {
+        const std::string_view first = m_rest.front();
+        m_rest = m_rest.subspan(1);
+        return first;
+    }
+
+private:
+    std::span<const char* const> m_rest;
+};
+
+Data readToday(Reader& reader) {
+    if (reader.done()) {
+        throw UsageError("dopo --oggi manca la data");
+    }
+    const std::string_view text = reader.next();
+    const auto data = parseDate(text);
+    if (!data) {
+        throw UsageError(inQuotes(text) + " non è una data aaaammgg");
+    }
+    return *data;
+}
+
+/// The path passes through the rules of the planner's own command line, and so means the same file.
+void setTransitPath(Options& options, std::string_view argument) {
+    if (!options.transitPath.empty()) {
+        throw UsageError("un solo file di transito alla volta; di troppo: " + inQuotes(argument));
+    }
+    options.transitPath = parseCommandLine(std::string(argument) + " 1 NOEVENT").PathTransito;
+}
+
+void readArgument(Options& options, std::string_view argument, Reader& reader) {
+    if (argument == "--help") {
+        options.help = true;
+    } else if (argument == "--oggi") {
+        options.oggi = readToday(reader);
+    } else if (argument.starts_with("--")) {
+        throw UsageError("opzione sconosciuta: " + inQuotes(argument));
+    } else {
+        setTransitPath(options, argument);
+    }
+}
+
+} // namespace
+
+Options parseOptions(std::span<const char* const> arguments) {
+    Options options;
+    Reader reader(arguments);
+    while (!reader.done()) {
+        readArgument(options, reader.next(), reader);
+    }
+    if (!options.help && options.transitPath.empty()) {
+        throw UsageError("manca il file di transito");
+    }
+    return options;
+}
+
+const char* const HelpText = R"(Uso: planner-dump TRANSITO [--oggi AAAAMMGG]
+
+Legge la richiesta nel file TRANSITO e gli archivi della stessa cartella come il
+planner, e scrive sull'uscita un oggetto JSON con tutto ciò che la finestra
+mostrerebbe. Non apre finestre e non scrive alcun file.
+
+  --oggi AAAAMMGG  la data da prendere come oggi; altrimenti quella del sistema
+  --help           questo testo
+
+Esito: 0 richiesta letta, 1 file di transito illeggibile o altro errore,
+2 argomenti errati.
+)";
+
+} // namespace planner

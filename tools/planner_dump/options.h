@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/session/dates.h"
+
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+
+namespace planner {
+
+/// The arguments cannot be understood. `what()` says why, Italian, UTF-8.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What the program is asked to do.
+struct Options {
+    bool help = false;
+    std::string transitPath; // as the host's command line would give it
+    std::optional<Data> oggi;
+};
+
+/// Reads the arguments that follow the program's name. Throws UsageError.
+Options parseOptions(std::span<const char* const> arguments);
+
+/// The text of --help.
+extern const char* const HelpText;
+
+} // namespace planner

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "snapshot.h"
+
+#include "engine/clsplg.h"
+#include "platform/posix/file_descriptor.h"
+#include "quiet_ports.h"
+
+#include <array>
+#include <bit>
+#include <fcntl.h>
+
+namespace planner {
+
+TransitRequest readTransitFile(const std::string& path) {
+    std::array<char, sizeof(TransitRequest)> bytes;
+    bytes.fill(' ');
+    const FileDescriptor file(nativePath(path), O_RDONLY);
+    file.regularFileLength();
+    file.readAll(bytes);
+    return std::bit_cast<TransitRequest>(bytes);
+}
+
+void serveRequest(const TransitRequest& richiesta, const std::string& folder, Data oggi, Snapshot& snapshot) {
+    snapshot.richiesta = richiesta;
+    HiddenWindow window;
+    ReadOnlyFileSystem files;
+    MessageLog messages(snapshot.messaggi);
+    ImmediateEnd events(snapshot.sessione);
+    const FixedClock clock(oggi);
+    clsplg engine({snapshot.sessione, snapshot.controlli, window, files, messages, events, clock});
+
+    std::string tipoplanner = richiesta.tipoplanner.text();
+    std::string collab = richiesta.collab.text();
+    std::string valret = richiesta.valret.text();
+    std::string Windowcaption = richiesta.Windowcaption.text();
+    std::string planrichiesto = richiesta.planrichiesto.text();
+    engine.WPlanner(tipoplanner, richiesta.startdate.text(), richiesta.enddate.text(), folder,
+                    richiesta.tipocall.text(), collab, valret, Windowcaption, planrichiesto);
+}
+
+} // namespace planner
