@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "small_office.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+namespace planner::test {
+
+namespace {
+
+struct GoldenCase {
+    const char* kind;
+    const char* file;
+};
+
+void PrintTo(const GoldenCase& golden, std::ostream* out) {
+    *out << golden.file;
+}
+
+class GoldenDump : public testing::TestWithParam<GoldenCase> {};
+
+} // namespace
+
+TEST_P(GoldenDump, IsExactlyTheRecordedOne) {
+    SmallOffice office;
+    office.richiesta = request(GetParam().kind);
+    office.write();
+    const DumpRun run = runDump({office.transitPath(), "--oggi", "20251120"});
+    ASSERT_EQ(run.exitCode, 0) << run.err;
+    const std::string golden = readFile(std::filesystem::path(DUMP_DATA_FOLDER) / GetParam().file);
+    EXPECT_EQ(nlohmann::json::diff(nlohmann::json::parse(golden), nlohmann::json::parse(run.out)),
+              nlohmann::json::array());
+    EXPECT_TRUE(run.out == golden) << "same contents, written otherwise";
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, GoldenDump,
+                         testing::Values(GoldenCase{"M", "mensile.json"}, GoldenCase{"G", "giornaliero.json"},
+                                         GoldenCase{"A", "annuale.json"}),
+                         [](const auto& golden) { return std::string(golden.param.kind); });
+
+} // namespace planner::test

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "small_office.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace planner::test {
+
+namespace {
+
+template <typename Record>
+std::string_view bytesOf(const Record& record) {
+    return {reinterpret_cast<const char*>(&record), sizeof record};
+}
+
+template <typename Records>
+std::string joined(const Records& records) {
+    std::string bytes;
+    for (const auto& record : records) {
+        bytes += bytesOf(record);
+    }
+    return bytes;
+}
+
+std::vector<RigaPlanner> marchEntries() {
+    RigaPlanner mixed = entry("RM", "20060315");
+    setHours(setCounter(setCounter(mixed, 1, "00002"), 7, "00001"), "0930", "0001:30");
+    RigaPlanner withoutHour = entry("BL", "20060315");
+    setCounter(setCounter(withoutHour, 6, "00003"), 10, "00001");
+    RigaPlanner unknownCode = entry("ZZ", "20060315");
+    setHours(setCounter(unknownCode, 8, "00004"), "2345", "0005:00");
+    RigaPlanner concludedOnly = entry("RM", "20060331");
+    setCounter(concludedOnly, 9, "00001");
+    RigaPlanner otherMonth = entry("RM", "20060401");
+    setCounter(otherMonth, 5, "00009");
+    return {mixed, withoutHour, unknownCode, concludedOnly, otherMonth};
+}
+
+} // namespace
+
+TransitRequest request(std::string_view kind) {
+    TransitRequest richiesta;
+    richiesta.riservato1.assign("HOST0001");
+    richiesta.tipoplanner.assign(kind);
+    richiesta.startdate.assign("20060301");
+    richiesta.enddate.assign("20060630");
+    richiesta.collab.assign("BL");
+    richiesta.valret.assign("20060315");
+    richiesta.Windowcaption.assign(" Studio Rossi");
+    return richiesta;
+}
+
+Collaboratore person(std::string_view codice, std::string_view nome, std::string_view mansione) {
+    Collaboratore collaboratore;
+    collaboratore.codice.assign(codice);
+    collaboratore.nome.assign(nome);
+    collaboratore.mansione.assign(mansione);
+    return collaboratore;
+}
+
+RigaPlanner entry(std::string_view codice, std::string_view yyyymmdd) {
+    RigaPlanner riga;
+    riga.codice.assign(codice);
+    riga.anno.assign(yyyymmdd.substr(0, 4));
+    riga.mese.assign(yyyymmdd.substr(4, 2));
+    riga.giorno.assign(yyyymmdd.substr(6, 2));
+    for (auto& contatore : riga.contatori) {
+        contatore.assign("00000");
+    }
+    return riga;
+}
+
+RigaPlanner& setCounter(RigaPlanner& riga, std::size_t number, std::string_view value) {
+    riga.contatori.at(number - 1).assign(value);
+    return riga;
+}
+
+RigaPlanner& setHours(RigaPlanner& riga, std::string_view hhmm, std::string_view durata) {
+    riga.oraInizio.assign(hhmm.substr(0, 2));
+    riga.minutoInizio.assign(hhmm.substr(2, 2));
+    riga.durata.assign(durata);
+    return riga;
+}
+
+SmallOffice::SmallOffice()
+    : collaboratori{person("RM", "Rossi Mario", "Avvocato"), person("BL", "Bianchi Lucia", "Segretaria"),
+                    person("VG", "Verdi Gino", "")},
+      righe(marchEntries()) {
+    for (MesePlanner& mese : mesi) {
+        mese.anno.assign("2006");
+    }
+    mesi.at(2).segni.at(16).assign("*"); // 15 March
+    mesi.at(0).segni.at(41).assign("*"); // beyond the grid's columns
+}
+
+void SmallOffice::write() const {
+    writeFile("transito", bytesOf(richiesta));
+    writeFile("wcollab", joined(collaboratori));
+    writeFile("wrighipl", joined(righe));
+    writeFile("wplanner", joined(mesi));
+}
+
+void SmallOffice::writeFile(std::string_view name, std::string_view bytes) const {
+    std::ofstream file(m_folder.path() / name, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    ASSERT_TRUE(file) << name;
+}
+
+void SmallOffice::removeFile(std::string_view name) const {
+    ASSERT_TRUE(std::filesystem::remove(m_folder.path() / name)) << name;
+}
+
+nlohmann::ordered_json SmallOffice::dump() const {
+    write();
+    return dumpAsItIs();
+}
+
+nlohmann::ordered_json SmallOffice::dumpAsItIs() const {
+    const DumpRun run = runDump({transitPath(), "--oggi", "20251120"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    return run.json();
+}
+
+std::optional<nlohmann::ordered_json> findCell(const nlohmann::ordered_json& dump, int row, int column) {
+    for (const auto& cell : dump.at("griglia").at("celle")) {
+        if (cell.at("r") == row && cell.at("c") == column) {
+            return cell;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace planner::test

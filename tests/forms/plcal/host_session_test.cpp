@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "host/mtavtrmpl.h"
+#include "plcal_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace planner::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* Transito = "C:\\arch\\trans.dat";
+
+/// Host link, engine and window logic together: only files, widgets, user and host are faked.
+class HostSessionTest : public PlcalFixture {
+protected:
+    HostSessionTest() { bench.files.put(Transito, bytesOf(richiesta())); }
+
+    std::string answer() const { return recordOf<TransitRequest>(bench.files.get(Transito)).valret.text(); }
+    /// The user chooses a command that answers with `letter`.
+    Action command(char letter) {
+        return [this, letter] {
+            sessione.collab = "RB";
+            sessione.valret = controlli.calendario.testoRisposta() + sessione.collab + letter;
+            sessione.FinePlanner = true;
+        };
+    }
+    Action escape() {
+        return [this] { form.Form_KeyDown(plcal::TastoEscape); };
+    }
+    /// The user chooses the filters: the answer is set, then the window closes.
+    Action filters() {
+        return [this] {
+            sessione.valret = controlli.calendario.testoRisposta() + sessione.collab + "F";
+            form.unload();
+        };
+    }
+
+    RecordingIpc ipc{bench.journal};
+    mtavtrmpl link{parseCommandLine("C:\\arch\\trans.dat 1 EV"),
+                   {bench.files, bench.messaggi, bench.eventi, ipc},
+                   [this] { return makeEngine(); }};
+};
+
+TEST_F(HostSessionTest, ClosingTheWindowEndsTheProgram) {
+    bench.eventi.actions = {escape()};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20060315  E");
+    EXPECT_FALSE(form.isLoaded());
+    EXPECT_EQ(bench.journal.back(), "remove [EV]");
+}
+
+TEST_F(HostSessionTest, TheHostReceivesTheDAlthoughUnloadingRewritesIt) {
+    bench.eventi.actions = {command('D'), escape()};
+    ipc.hostActions = {[this] {
+        EXPECT_EQ(answer(), "20060315RBD");
+        EXPECT_EQ(sessione.valret, "20060315RBE");
+        EXPECT_FALSE(form.isLoaded());
+    }};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20060315  E");
+}
+
+TEST_F(HostSessionTest, FiltersThenCloseKeepTheFAndTheWindowForTheNextRequest) {
+    bench.eventi.actions = {filters(), escape()};
+    ipc.hostActions = {[this] {
+        EXPECT_EQ(answer(), "20060315  F");
+        EXPECT_TRUE(form.isLoaded());
+        bench.journal.clear();
+    }};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20060315  E");
+    EXPECT_THAT(bench.journal, ElementsAre("update", "show", "lock", "place period buttons", "unlock",
+                                           "bring to front", "wait for the user", "hide", "hide",
+                                           "write trans.dat", "flush", "signal [EV]", "remove [EV]"));
+}
+
+TEST_F(HostSessionTest, AnUnloadedWindowIsLoadedAgainByTheNextRequest) {
+    bench.eventi.actions = {command('A'), escape()};
+    ipc.hostActions = {[this] { bench.journal.clear(); }};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(bench.journal.front(), "lay out");
+}
+
+TEST_F(HostSessionTest, TheWindowIsOutOfSightBeforeTheHostIsTold) {
+    bench.eventi.actions = {command('D')};
+    const auto firstRequest = [&] { link.eventLoop(); };
+    EXPECT_THROW(firstRequest(), ScriptEnded); // the host says nothing more
+    const std::vector<std::string> tail(bench.journal.end() - 6, bench.journal.end());
+    EXPECT_THAT(tail,
+                ElementsAre("hide", "write trans.dat", "flush", "create [EV]", "signal [EV]", "wait [EV]"));
+}
+
+TEST_F(HostSessionTest, EachKindInTurn) {
+    bench.eventi.actions = {command('P'), command('S'), escape()};
+    const auto hostAsksFor = [this](const char* tipo, const char* title) {
+        return [this, tipo, title] {
+            EXPECT_EQ(controlli.lbldescr, title);
+            bench.files.put(Transito, bytesOf(richiesta(tipo)));
+        };
+    };
+    ipc.hostActions = {hostAsksFor("A", "Mese di Marzo 2006"), hostAsksFor("G", "Anno 2006 Impegni di: ")};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(controlli.lbldescr, "Dal 15 Marzo 2006 al 31 Dicembre 2006");
+    EXPECT_THAT(bench.messaggi.shown, IsEmpty());
+}
+
+TEST_F(HostSessionTest, AnUnknownKindIsSaidAndTheWindowClosesAsEver) {
+    bench.files.put(Transito, bytesOf(richiesta("?")));
+    bench.eventi.actions = {escape()};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20060315  E");
+    EXPECT_EQ(bench.messaggi.shown.size(), 1u);
+}
+
+} // namespace
+} // namespace planner::test

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/plcal.h"
+#include "support/planner_bench.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace planner::test {
+
+/// The planner window's logic over faked widgets, with the real engine on archives in memory.
+class PlcalFixture : public testing::Test {
+protected:
+    /// An engine on this window.
+    std::unique_ptr<clsplg> makeEngine() {
+        return std::make_unique<clsplg>(Ambiente{bench.sessione, bench.controlli, form, bench.files,
+                                                 bench.messaggi, bench.eventi, bench.orologio});
+    }
+
+    /// Sets the window up for a request, as the engine does before it shows it.
+    void open(std::string_view tipo, std::string_view giorno = "20060315") {
+        sessione.PathArchivi = PlannerBench::Cartella;
+        sessione.tipoplanner = tipo;
+        makeEngine()->Init_planner(std::string(tipo) + std::string(giorno), "20060101", "20061231", "  ");
+        bench.journal.clear();
+    }
+
+    PlannerBench bench;
+    modpl& sessione = bench.sessione;
+    ControlliPlcal& controlli = bench.controlli;
+    FakeVista vista{bench.journal};
+    int enginesMade = 0;
+    plcal form{sessione, controlli, vista, bench.messaggi, [this] {
+                   ++enginesMade;
+                   return makeEngine();
+               }};
+};
+
+} // namespace planner::test

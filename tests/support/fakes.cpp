@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "support/fakes.h"
+
+namespace planner::test {
+
+namespace {
+
+void runNext(std::deque<Action>& actions, const char* whoWaits) {
+    if (actions.empty()) {
+        throw ScriptEnded(whoWaits);
+    }
+    const Action action = actions.front();
+    actions.pop_front();
+    action();
+}
+
+} // namespace
+
+void RecordingMessages::show(const Message& message) {
+    shown.push_back(message);
+    m_journal.push_back("message");
+}
+
+void FakeWindow::load() {
+    m_journal.push_back(m_loaded ? "load again" : "load");
+    m_loaded = true;
+}
+
+void FakeWindow::unload() {
+    m_journal.push_back("unload");
+    m_loaded = false;
+}
+
+void ScriptedPump::waitAndProcess() {
+    m_journal.push_back("wait for the user");
+    runNext(actions, "the planner waits for a user who does nothing more");
+}
+
+void RecordingIpc::TvIpcWaitEvento(const std::string& nome) {
+    note("wait", nome);
+    runNext(hostActions, "the planner waits for a host that does nothing more");
+}
+
+void FakeMotore::WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
+                          const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
+                          std::string& valret, std::string& Windowcaption, std::string& planrichiesto) {
+    m_journal.push_back("WPlanner");
+    WPlannerCall call{tipoplanner, startdate, enddate,       PathArchivi,  tipocall,
+                      collab,      valret,    Windowcaption, planrichiesto};
+    m_serve(call);
+    tipoplanner = call.tipoplanner;
+    collab = call.collab;
+    valret = call.valret;
+    Windowcaption = call.Windowcaption;
+    planrichiesto = call.planrichiesto;
+}
+
+void FakeVista::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {
+    m_journal.push_back("lay out");
+    placed = controlli;
+    placedScale = scala;
+}
+
+} // namespace planner::test

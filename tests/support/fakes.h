@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/motore.h"
+#include "engine/session/dates.h"
+#include "forms/plcal/vista_plcal.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/event_pump.h"
+#include "platform/ports/host_ipc.h"
+#include "platform/ports/message_boxes.h"
+#include "platform/ports/periodic_timer.h"
+#include "platform/ports/planner_window.h"
+
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace planner::test {
+
+/// What happened in a test, across all its fakes, in order.
+using Journal = std::vector<std::string>;
+
+/// Something that the user or the host does when its turn comes.
+using Action = std::function<void()>;
+
+/// Thrown where the planner would wait for ever.
+struct ScriptEnded : std::logic_error {
+    using std::logic_error::logic_error;
+};
+
+class RecordingMessages : public MessageBoxes {
+public:
+    explicit RecordingMessages(Journal& journal) : m_journal(journal) {}
+    void show(const Message& message) override;
+
+    std::vector<Message> shown;
+
+private:
+    Journal& m_journal;
+};
+
+class FakeWindow : public PlannerWindow {
+public:
+    explicit FakeWindow(Journal& journal) : m_journal(journal) {}
+    bool isLoaded() const override { return m_loaded; }
+    void load() override;
+    void show() override { m_journal.push_back("show"); }
+    void bringToFront() override { m_journal.push_back("bring to front"); }
+    void unload() override;
+    void hide() override { m_journal.push_back("hide"); }
+
+private:
+    Journal& m_journal;
+    bool m_loaded = false;
+};
+
+/// Each wait for events runs the next action of the user. Throws ScriptEnded when none is left.
+class ScriptedPump : public EventPump {
+public:
+    explicit ScriptedPump(Journal& journal) : m_journal(journal) {}
+    void waitAndProcess() override;
+    void flush() override { m_journal.push_back("flush"); }
+
+    std::deque<Action> actions;
+
+private:
+    Journal& m_journal;
+};
+
+class FixedClock : public Clock {
+public:
+    explicit FixedClock(Data today) : m_today(today) {}
+    Data today() const override { return m_today; }
+
+private:
+    Data m_today;
+};
+
+/// Each wait for the host runs the host's next action. Throws ScriptEnded when none is left.
+class RecordingIpc : public HostIpc {
+public:
+    explicit RecordingIpc(Journal& journal) : m_journal(journal) {}
+    void TvIpcCreazioneEvento(const std::string& nome) override { note("create", nome); }
+    void TvIpcSetEvento(const std::string& nome) override { note("signal", nome); }
+    void TvIpcWaitEvento(const std::string& nome) override;
+    void TvIpcRimozioneEvento(const std::string& nome) override { note("remove", nome); }
+
+    std::deque<Action> hostActions;
+
+private:
+    void note(const std::string& call, const std::string& nome) {
+        m_journal.push_back(call + " [" + nome + "]");
+    }
+
+    Journal& m_journal;
+};
+
+class RecordingTimer : public PeriodicTimer {
+public:
+    explicit RecordingTimer(Journal& journal) : m_journal(journal) {}
+    void setEnabled(bool on) override {
+        enabled = on;
+        m_journal.push_back(on ? "timer on" : "timer off");
+    }
+
+    bool enabled = false;
+
+private:
+    Journal& m_journal;
+};
+
+/// What a call of WPlanner passed on, and what it answers.
+struct WPlannerCall {
+    std::string tipoplanner, startdate, enddate, PathArchivi, tipocall, collab, valret, Windowcaption,
+        planrichiesto;
+};
+
+/// An engine whose user answers at once; `serve` may change the in/out texts and may throw.
+class FakeMotore : public Motore {
+public:
+    using Serve = std::function<void(WPlannerCall&)>;
+
+    FakeMotore(Journal& journal, Serve serve) : m_journal(journal), m_serve(std::move(serve)) {
+        m_journal.push_back("engine made");
+    }
+    ~FakeMotore() override { m_journal.push_back("engine released"); }
+
+    void WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
+                  const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
+                  std::string& valret, std::string& Windowcaption, std::string& planrichiesto) override;
+
+private:
+    Journal& m_journal;
+    Serve m_serve;
+};
+
+/// The planner window's widgets: they note what they are told.
+class FakeVista : public VistaPlcal {
+public:
+    explicit FakeVista(Journal& journal) : m_journal(journal) {}
+    Dimensioni schermo() const override { return screen; }
+    void disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) override;
+    void aggiorna() override { m_journal.push_back("update"); }
+    void disponiPulsantiPeriodo() override { m_journal.push_back("place period buttons"); }
+    void scorriA(int colonna) override { m_journal.push_back("scroll to " + std::to_string(colonna)); }
+    void mostra() override { m_journal.push_back("show"); }
+    void nascondi() override { m_journal.push_back("hide"); }
+    void portaDavanti() override { m_journal.push_back("bring to front"); }
+    void LockWindowUpdate(bool locked) override { m_journal.push_back(locked ? "lock" : "unlock"); }
+
+    Dimensioni screen = ProgettoPlcal;
+    std::vector<ControlloProgetto> placed;
+    Scala placedScale;
+
+private:
+    Journal& m_journal;
+};
+
+} // namespace planner::test

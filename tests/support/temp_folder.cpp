@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "support/temp_folder.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <stdlib.h>
+#include <sys/stat.h>
+
+namespace planner::test {
+
+TempFolder::TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "planner-test-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder");
+    }
+    m_folder = pattern;
+}
+
+TempFolder::~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_folder, ignored);
+}
+
+std::string TempFolder::path(std::string_view name) const {
+    return name.empty() ? m_folder.string() : (m_folder / name).string();
+}
+
+void TempFolder::write(std::string_view name, std::string_view bytes) const {
+    std::ofstream file(path(name), std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    ASSERT_TRUE(file.flush()) << name;
+}
+
+std::string TempFolder::read(std::string_view name) const {
+    std::ifstream file(path(name), std::ios::binary);
+    EXPECT_TRUE(file) << name;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool TempFolder::exists(std::string_view name) const {
+    return std::filesystem::exists(path(name));
+}
+
+void TempFolder::writeSparse(std::string_view name, std::uint64_t length) const {
+    write(name, {});
+    std::filesystem::resize_file(path(name), length);
+}
+
+void TempFolder::makeFolder(std::string_view name) const {
+    ASSERT_TRUE(std::filesystem::create_directory(path(name)));
+}
+
+void TempFolder::makeFifo(std::string_view name) const {
+    ASSERT_EQ(::mkfifo(path(name).c_str(), 0600), 0);
+}
+
+} // namespace planner::test

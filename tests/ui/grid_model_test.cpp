@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/grid_model.h"
+
+#include "grids/layout.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QColor>
+#include <QSignalSpy>
+
+namespace planner {
+
+namespace {
+
+struct GridModelTest : testing::Test {
+    Griglia griglia{6, 4, 2, Colore::gialloChiaro};
+    GridModel model{griglia};
+    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    QSignalSpy changes{&model, &QAbstractItemModel::dataChanged};
+    QSignalSpy resets{&model, &QAbstractItemModel::modelReset};
+};
+
+} // namespace
+
+TEST_F(GridModelTest, FixedRowsAndTheFirstColumnAreHeadersNotData) {
+    EXPECT_EQ(model.rowCount(), 4);
+    EXPECT_EQ(model.columnCount(), 3);
+    griglia.setText(0, 1, "L");
+    griglia.setText(1, 1, "6");
+    griglia.setText(2, 0, "Nicol\xF2");
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("L 6"));
+    EXPECT_EQ(model.headerData(0, Qt::Vertical, Qt::DisplayRole).toString(), QStringLiteral("Nicolò"));
+}
+
+TEST_F(GridModelTest, ACellsTextAndColoursAreThoseOfTheGrid) {
+    griglia.setText(3, 2, "x");
+    griglia.setCellForeColor(3, 2, Colore::rosso);
+    const QModelIndex index = model.index(1, 1);
+    EXPECT_EQ(index.data(Qt::DisplayRole).toString(), QStringLiteral("x"));
+    EXPECT_EQ(index.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_EQ(index.data(Qt::BackgroundRole).value<QColor>(), QColor(255, 255, 215));
+}
+
+TEST_F(GridModelTest, OneChangedCellIsAnnouncedAloneAndOnce) {
+    griglia.setCellBackColor(3, 2, Colore::ciano);
+    ASSERT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes[0][0].toModelIndex(), model.index(1, 1));
+    EXPECT_EQ(changes[0][1].toModelIndex(), model.index(1, 1));
+    EXPECT_EQ(resets.size(), 0);
+}
+
+TEST_F(GridModelTest, AFillIsAnnouncedOnceWhenItsLockGoes) {
+    {
+        const Griglia::LockWindowUpdate lock(griglia);
+        griglia.setText(2, 1, "a");
+        griglia.setText(5, 3, "b");
+        EXPECT_EQ(changes.size(), 0);
+    }
+    ASSERT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes[0][0].toModelIndex(), model.index(0, 0));
+    EXPECT_EQ(changes[0][1].toModelIndex(), model.index(3, 2));
+}
+
+TEST_F(GridModelTest, ClearingARowCountThatComesBackKeepsTheViewsState) {
+    clearRows(griglia);
+    EXPECT_EQ(resets.size(), 0);
+    EXPECT_EQ(changes.size(), 1);
+}
+
+TEST_F(GridModelTest, AnotherNumberOfRowsResetsTheModel) {
+    griglia.setRows(9);
+    EXPECT_EQ(resets.size(), 1);
+    EXPECT_EQ(model.rowCount(), 7);
+}
+
+TEST_F(GridModelTest, HeadersAreAnnouncedApartFromData) {
+    QSignalSpy headers(&model, &GridModel::headersChanged);
+    griglia.setText(3, 2, "data");
+    EXPECT_EQ(headers.size(), 0);
+    griglia.setText(3, 0, "name");
+    griglia.setText(0, 2, "day");
+    EXPECT_EQ(headers.size(), 2);
+    EXPECT_EQ(changes.size(), 1);
+}
+
+} // namespace planner

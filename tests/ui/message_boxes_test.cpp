@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "platform/qt/qt_message_boxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace planner {
+
+namespace {
+
+struct SeenBox {
+    QString title, text, button;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    Qt::TextFormat format = Qt::AutoText;
+};
+
+/// Shows the message and closes its box with the Enter key as soon as it stands.
+SeenBox showAndConfirm(const Message& message) {
+    SeenBox seen;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            poll.stop();
+            seen = {box->windowTitle(), box->text(), box->button(QMessageBox::Ok)->text(), box->icon(), box->textFormat()};
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+    });
+    poll.start(1);
+    QtMessageBoxes().show(message);
+    return seen;
+}
+
+} // namespace
+
+TEST(MessageBoxesTest, TitleTextAndIconAreThoseOfTheMessage) {
+    const SeenBox seen = showAndConfirm({MessageIcon::Information, "Planner", "Errore su File :C:\\arch\\wrighipl"});
+    EXPECT_EQ(seen.title, QStringLiteral("Planner"));
+    EXPECT_EQ(seen.text, QStringLiteral("Errore su File :C:\\arch\\wrighipl"));
+    EXPECT_EQ(seen.icon, QMessageBox::Information);
+    EXPECT_EQ(showAndConfirm({MessageIcon::Critical, "Planner", "x"}).icon, QMessageBox::Critical);
+}
+
+TEST(MessageBoxesTest, MarkupInAMessageIsShownAsItIs) {
+    const SeenBox seen = showAndConfirm({MessageIcon::Critical, "Planner", "<img src=\"/dev/stdin\"> %1 &A"});
+    EXPECT_EQ(seen.text, QStringLiteral("<img src=\"/dev/stdin\"> %1 &A"));
+    EXPECT_EQ(seen.format, Qt::PlainText);
+}
+
+} // namespace planner

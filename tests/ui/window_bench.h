@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/grid_view.h"
+#include "forms/plcal/plcal.h"
+#include "forms/plcal/plcal_window.h"
+#include "support/planner_bench.h"
+
+#include <QString>
+
+namespace planner::test {
+
+/// The real planner window over archives in memory: what `main` wires, without host and transit file.
+struct WindowBench {
+    PlannerBench base;
+    PlcalWindow vista{base.sessione, base.controlli};
+    plcal finestra{base.sessione, base.controlli, vista, base.messaggi, [this] { return newEngine(); }};
+
+    WindowBench() { vista.setForm(finestra); }
+
+    std::unique_ptr<clsplg> newEngine();
+
+    /// Prepares a request of the year 2006 and shows the window, as WPlanner does before it waits.
+    void open(std::string_view tipo, std::string_view giorno = "20060315",
+              std::string_view windowcaption = "                    ");
+
+    /// The widget of the given object name; a failed expectation when there is none.
+    template <typename Widget = QWidget>
+    Widget& widget(const char* name) {
+        auto* found = vista.findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) {
+            throw std::runtime_error(std::string("no widget ") + name);
+        }
+        return *found;
+    }
+};
+
+} // namespace planner::test
