@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "engine/clsplg.h"
+#include "grids/today.h"
 
 namespace planner {
 
@@ -11,6 +12,7 @@ void clsplg::Dayofweek() {
 
 void clsplg::showgrid() {
     planner::showgrid(m.sessione, m.controlli.calendario, m.controlli.Flxm);
+    markTodayMonthly(m.controlli.Flxm, m.controlli.calendario, m.orologio.today());
 }
 
 void clsplg::showgrid2() {
@@ -19,6 +21,7 @@ void clsplg::showgrid2() {
 
 void clsplg::showgrid3() {
     planner::showgrid3(m.sessione, m.controlli.calendario, m.controlli.flxa);
+    markTodayYearly(m.controlli.flxa, m.controlli.calendario, m.orologio.today());
 }
 
 void clsplg::PopolaGrid1() {
@@ -28,6 +31,7 @@ void clsplg::PopolaGrid1() {
 
 void clsplg::PopolaGrid2() {
     Dayofweek();
+    markTodayDaily(m.controlli.flxg, m.controlli.calendario, m.orologio.today());
     announce(planner::PopolaGrid2(m.sessione, m.controlli.calendario, m.controlli.flxg,
                                   m.controlli.Toolbar1.dettagliato()));
 }

@@ -4,19 +4,12 @@
 
 namespace planner {
 
-int immagineImpegno(const ValoriContatori& valori, bool dettagliato) {
-    const unsigned tipi = tipiPresenti(valori);
-    if (tipi == 0) {
-        return 0;
-    }
-    return dettagliato ? immagineTipi(tipi) : ImmaginePresenza;
-}
-
 Impegno leggiImpegno(const RigaPlanner& riga, const modpl& sessione, bool dettagliato) {
     Impegno impegno{sessione.indiceCodici.IndCollaboratore(riga.codice.view()),
                     dateFromTexts(riga.giorno.view(), riga.mese.view(), riga.anno.view()),
-                    valoriContatori(riga), /*immagine=*/0};
-    impegno.immagine = immagineImpegno(impegno.valori, dettagliato);
+                    valoriContatori(riga), /*tipi=*/0, /*immagine=*/0};
+    impegno.tipi = immagineTipi(tipiPresenti(impegno.valori));
+    impegno.immagine = impegno.tipi == 0 || dettagliato ? impegno.tipi : ImmaginePresenza;
     return impegno;
 }
 

@@ -13,14 +13,12 @@ struct Impegno {
     int indice; // staff index
     Data data;
     ValoriContatori valori;
-    int immagine; // 0 for none
+    int tipi;     // number of the picture of the kinds present, 0 for none
+    int immagine; // the picture to show, 0 for none
 };
 
 /// Reads the record. Throws DateError or OverflowError.
 Impegno leggiImpegno(const RigaPlanner& riga, const modpl& sessione, bool dettagliato);
-
-/// The picture for the counters: 0 when none of them marks the day.
-int immagineImpegno(const ValoriContatori& valori, bool dettagliato);
 
 /// Runs `fill` on every record before the table's last element, which lies beyond the file's end, that
 /// `wanted` takes. A record that raises a run-time error is noted and the next one follows.

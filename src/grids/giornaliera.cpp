@@ -39,9 +39,12 @@ int numberUpTo(std::string_view text, int maximum) {
 void paintEntry(Griglia& flxg, int row, const Impegno& impegno, IntervalloColonne columns) {
     if (impegno.immagine != 0) {
         flxg.setCellPicture(row, columns.prima, impegno.immagine);
+        flxg.setCellKinds(row, columns.prima, impegno.tipi);
     }
     for (int column = std::max(columns.prima, 1); column <= columns.ultima; ++column) {
         flxg.setCellBackColor(row, column, Colore::azzurro);
+        flxg.setCellEntry(row, column, true);
+        flxg.setCellKinds(row, column, impegno.tipi);
     }
 }
 

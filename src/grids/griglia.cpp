@@ -60,34 +60,52 @@ void Griglia::setCurrent(int row, int col) {
     m_col = col;
 }
 
-void Griglia::setText(int row, int col, std::string_view text) {
-    changed(row, col).testo = intern(text);
+template <typename Change>
+void Griglia::change(int row, int col, Change apply) {
+    Cella& cell = m_cells[index(row, col)];
+    const Cella before = cell;
+    apply(cell);
+    if (cell == before) {
+        return; // what looks as before needs no repainting
+    }
+    m_dirty.include(row, col);
     notify();
+}
+
+void Griglia::setText(int row, int col, std::string_view text) {
+    change(row, col, [&](Cella& cell) { cell.testo = intern(text); });
 }
 
 void Griglia::setCellForeColor(int row, int col, Colore colore) {
-    changed(row, col).colore = colore;
-    notify();
+    change(row, col, [=](Cella& cell) { cell.colore = colore; });
 }
 
 void Griglia::setCellBackColor(int row, int col, Colore colore) {
-    changed(row, col).sfondo = colore;
-    notify();
+    change(row, col, [=](Cella& cell) { cell.sfondo = colore; });
 }
 
 void Griglia::setCellPicture(int row, int col, int immagine) {
-    changed(row, col).immagine = static_cast<std::uint8_t>(std::clamp(immagine, 0, 16));
-    notify();
+    change(row, col, [=](Cella& cell) { cell.immagine = std::clamp(immagine, 0, 16) & 0x1F; });
 }
 
 void Griglia::setCellFont(int row, int col, Carattere carattere) {
-    changed(row, col).carattere = carattere;
-    notify();
+    change(row, col, [=](Cella& cell) { cell.carattere = carattere; });
 }
 
 void Griglia::setCellAlignment(int row, int col, Allineamento allineamento) {
-    changed(row, col).allineamento = allineamento;
-    notify();
+    change(row, col, [=](Cella& cell) { cell.allineamento = allineamento; });
+}
+
+void Griglia::setCellKinds(int row, int col, int tipi) {
+    change(row, col, [=](Cella& cell) { cell.tipi = std::clamp(tipi, 0, 15) & 0xF; });
+}
+
+void Griglia::setCellEntry(int row, int col, bool impegno) {
+    change(row, col, [=](Cella& cell) { cell.impegno = impegno; });
+}
+
+void Griglia::setCellToday(int row, int col, bool oggi) {
+    change(row, col, [=](Cella& cell) { cell.oggi = oggi; });
 }
 
 int Griglia::RowHeight(int row) const {
@@ -135,12 +153,6 @@ std::size_t Griglia::index(int row, int col) const {
         throw SubscriptError();
     }
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_cols) + static_cast<std::size_t>(col);
-}
-
-Cella& Griglia::changed(int row, int col) {
-    Cella& cell = m_cells[index(row, col)];
-    m_dirty.include(row, col);
-    return cell;
 }
 
 std::uint32_t Griglia::intern(std::string_view text) {

@@ -16,11 +16,14 @@ namespace planner {
 /// One cell, small because a grid has up to three million of them.
 struct Cella {
     std::uint32_t testo = 0; // place in the grid's text pool; 0 is the empty text
-    Colore colore = Colore::predefinito;
-    Colore sfondo = Colore::predefinito;
-    std::uint8_t immagine = 0; // 1 to 16, 0 for none
-    Carattere carattere : 4 = Carattere::normale;
-    Allineamento allineamento : 4 = Allineamento::centro;
+    Colore colore : 4 = Colore::predefinito;
+    Colore sfondo : 4 = Colore::predefinito;
+    std::uint8_t immagine : 5 = 0; // 1 to 16, 0 for none
+    Carattere carattere : 3 = Carattere::normale;
+    std::uint8_t tipi : 4 = 0; // kinds of entries present, as the number of their picture; 0 for none
+    Allineamento allineamento : 1 = Allineamento::centro;
+    bool impegno : 1 = false; // part of an appointment's span
+    bool oggi : 1 = false;    // stands for today
 
     friend bool operator==(const Cella&, const Cella&) = default;
 };
@@ -72,6 +75,9 @@ public:
     void setCellBackColor(int row, int col, Colore colore);
     void setCellPicture(int row, int col, int immagine);
     void setCellFont(int row, int col, Carattere carattere);
+    void setCellKinds(int row, int col, int tipi);
+    void setCellEntry(int row, int col, bool impegno);
+    void setCellToday(int row, int col, bool oggi);
     void setCellAlignment(int row, int col, Allineamento allineamento);
 
     /// The back colour that the cell shows: its own, or that of the grid's fixed or data cells.
@@ -100,7 +106,8 @@ public:
 
 private:
     std::size_t index(int row, int col) const;
-    Cella& changed(int row, int col);
+    template <typename Change>
+    void change(int row, int col, Change apply);
     std::uint32_t intern(std::string_view text);
     void notify();
 

@@ -32,7 +32,8 @@ void writeDay(Griglia& Flxm, int column, int day, int month) {
     }
 }
 
-/// The first column whose day number is exactly 1. Throws SubscriptError when the header has none.
+} // namespace
+
 int columnOfFirstDay(const Griglia& Flxm) {
     int column = 0;
     while (numericValue(Flxm.TextMatrix(1, column)) != 1) {
@@ -40,8 +41,6 @@ int columnOfFirstDay(const Griglia& Flxm) {
     }
     return column;
 }
-
-} // namespace
 
 void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm) {
     const Griglia::LockWindowUpdate lock(Flxm);
@@ -73,8 +72,10 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
             const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
             sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
             if (impegno.immagine != 0) {
-                Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
-                                    impegno.immagine);
+                const int row = impegno.indice + PrimaRigaMensile;
+                const int column = firstDay + dayOf(impegno.data) - 1;
+                Flxm.setCellPicture(row, column, impegno.immagine);
+                Flxm.setCellKinds(row, column, impegno.tipi);
             }
         });
     Flxm.setCurrent(PrimaRigaMensile, 1);

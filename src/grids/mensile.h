@@ -19,6 +19,9 @@ void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm);
 /// run-time error are left out and counted.
 EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Griglia& Flxm, bool dettagliato);
 
+/// The first column of the header whose day number is exactly 1. Throws SubscriptError when it has none.
+int columnOfFirstDay(const Griglia& Flxm);
+
 /// Empties the data rows.
 void PulisciGrid1(Griglia& Flxm, bool dettagliato);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/plcal_window.h"
+#include "forms/plfimp/plfimp_dialog.h"
 #include "host/ftavtrmpl.h"
 #include "host/mtavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
@@ -65,7 +66,9 @@ int main(int argc, char* argv[]) {
     ControlliPlcal controlli;
     PlcalWindow vista(sessione, controlli);
     std::function<std::unique_ptr<clsplg>()> newEngine;
-    plcal finestra(sessione, controlli, vista, messaggi, [&newEngine] { return newEngine(); });
+    PlfimpDialog finestraImpegno;
+    plcal finestra(sessione, controlli, {vista, messaggi, finestraImpegno},
+                   [&newEngine] { return newEngine(); });
     vista.setForm(finestra);
     newEngine = [&] {
         return std::make_unique<clsplg>(

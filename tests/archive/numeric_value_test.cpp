@@ -45,6 +45,12 @@ TEST(NumericValueTest, ReadsTheNumberThatATextBeginsWith) {
         {"123456789", 1.23456789e8},
         {"4294967296", 4294967296.0},
         {"99999", 99999},
+        {"999999999", 999999999},
+        {"1234567890", 1234567890},
+        {"123456789 0", 123456789},
+        {"0000000000012", 12},
+        {"            7", 7},
+        {"      12 3", 12},
     };
     for (const auto& [text, value] : table) {
         EXPECT_EQ(numericValue(text), value) << '"' << text << '"';

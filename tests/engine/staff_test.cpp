@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -115,6 +116,17 @@ TEST(EvalImagedisplayTest, TheFourDigitsNameTheKindsOfEntries) {
         EXPECT_EQ(std::make_pair(TipiImpegno[i].cifra, TipiImpegno[i].nome), table[i]);
     }
     EXPECT_EQ(ImmaginePresenza, 16);
+}
+
+TEST(EvalImagedisplayTest, ASetOfKindsHasThePictureOfItsKey) {
+    for (unsigned kinds = 0; kinds < 16; ++kinds) {
+        std::string key;
+        for (unsigned digit = 0; digit < 4; ++digit) {
+            key += (kinds >> digit & 1u) != 0 ? std::string(1, static_cast<char>('1' + digit)) : "";
+        }
+        EXPECT_EQ(immagineTipi(kinds), Eval_imagedisplay(key)) << key;
+    }
+    EXPECT_EQ(immagineTipi(16), 0);
 }
 
 TEST(EvalImagedisplayTest, TheEmptyKeyHasNoPicture) {

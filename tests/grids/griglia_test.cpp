@@ -148,6 +148,15 @@ TEST_F(GrigliaObserverTest, IsToldOnceOfAllThatHappenedUnderALock) {
     EXPECT_THAT(observer.told, ElementsAre("1,1-3,2"));
 }
 
+TEST_F(GrigliaObserverTest, IsToldNothingOfWhatChangedBeforeItCame) {
+    griglia.setOsservatore(nullptr);
+    griglia.setRows(9);
+    griglia.setText(3, 2, "x");
+    griglia.setOsservatore(&observer);
+    griglia.setText(1, 1, "x");
+    EXPECT_THAT(observer.told, ElementsAre("1,1-1,1"));
+}
+
 TEST_F(GrigliaObserverTest, IsToldNothingWhenNothingChangedUnderALock) {
     {
         const Griglia::LockWindowUpdate lock(griglia);

@@ -5,6 +5,7 @@
 #include "engine/motore.h"
 #include "engine/session/dates.h"
 #include "forms/plcal/vista_plcal.h"
+#include "forms/plfimp/plfimp.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/event_pump.h"
 #include "platform/ports/host_ipc.h"
@@ -150,6 +151,7 @@ public:
     void nascondi() override { m_journal.push_back("hide"); }
     void portaDavanti() override { m_journal.push_back("bring to front"); }
     void LockWindowUpdate(bool locked) override { m_journal.push_back(locked ? "lock" : "unlock"); }
+    void mostraInformazioni() override { m_journal.push_back("information"); }
 
     Dimensioni screen = ProgettoPlcal;
     std::vector<ControlloProgetto> placed;
@@ -157,6 +159,20 @@ public:
 
 private:
     Journal& m_journal;
+};
+
+/// The appointment-type dialog: `user` presses its buttons, and without one closes it otherwise.
+class FakeFinestraImpegno : public FinestraImpegno {
+public:
+    void chiedi(plfimp& form) override {
+        ++asked;
+        if (user) {
+            user(form);
+        }
+    }
+
+    std::function<void(plfimp&)> user;
+    int asked = 0;
 };
 
 } // namespace planner::test

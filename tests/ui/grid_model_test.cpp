@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/grid_model.h"
-
 #include "grids/layout.h"
-
-#include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
 #include <QColor>
 #include <QSignalSpy>
+
+#include <gtest/gtest.h>
 
 namespace planner {
 
@@ -16,7 +15,9 @@ namespace {
 
 struct GridModelTest : testing::Test {
     Griglia griglia{6, 4, 2, Colore::gialloChiaro};
-    GridModel model{griglia};
+    GridModel model{griglia, [](int riga, int colonna) {
+                        return "<b>cella " + std::to_string(riga) + " " + std::to_string(colonna);
+                    }};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
     QSignalSpy changes{&model, &QAbstractItemModel::dataChanged};
     QSignalSpy resets{&model, &QAbstractItemModel::modelReset};
@@ -41,6 +42,12 @@ TEST_F(GridModelTest, ACellsTextAndColoursAreThoseOfTheGrid) {
     EXPECT_EQ(index.data(Qt::DisplayRole).toString(), QStringLiteral("x"));
     EXPECT_EQ(index.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
     EXPECT_EQ(index.data(Qt::BackgroundRole).value<QColor>(), QColor(255, 255, 215));
+}
+
+TEST_F(GridModelTest, TheSentenceIsReadAloudAsItIsAndNoToolTipIsMarkup) {
+    const QModelIndex index = model.index(1, 1);
+    EXPECT_EQ(index.data(Qt::AccessibleTextRole).toString(), QStringLiteral("<b>cella 3 2"));
+    EXPECT_TRUE(index.data(Qt::ToolTipRole).toString().contains(QStringLiteral("&lt;b&gt;cella 3 2")));
 }
 
 TEST_F(GridModelTest, OneChangedCellIsAnnouncedAloneAndOnce) {

@@ -7,8 +7,8 @@
 namespace planner::test {
 
 std::unique_ptr<clsplg> WindowBench::newEngine() {
-    return std::make_unique<clsplg>(Ambiente{base.sessione, base.controlli, finestra, base.files, base.messaggi,
-                                             base.eventi, base.orologio});
+    return std::make_unique<clsplg>(Ambiente{base.sessione, base.controlli, finestra, base.files,
+                                             base.messaggi, base.eventi, base.orologio});
 }
 
 void WindowBench::open(std::string_view tipo, std::string_view giorno, std::string_view windowcaption) {
@@ -22,6 +22,36 @@ void WindowBench::open(std::string_view tipo, std::string_view giorno, std::stri
     if (!QTest::qWaitForWindowExposed(&vista)) {
         throw std::runtime_error("the window is not shown");
     }
+}
+
+GridView& WindowBench::view() {
+    const std::string name(base.controlli.nomeGrigliaVisibile());
+    return widget<GridView>(name.c_str());
+}
+
+namespace {
+
+QPoint centreOf(GridView& view, const Griglia& griglia, int riga, int colonna) {
+    const QModelIndex index = view.model()->index(riga - griglia.FixedRows(), colonna - Griglia::FixedCols());
+    view.scrollTo(index);
+    return view.visualRect(index).center();
+}
+
+} // namespace
+
+void WindowBench::click(int riga, int colonna) {
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier,
+                      centreOf(view(), *base.controlli.grigliaVisibile(), riga, colonna));
+}
+
+void WindowBench::doubleClick(int riga, int colonna) {
+    const QPoint centre = centreOf(view(), *base.controlli.grigliaVisibile(), riga, colonna);
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+}
+
+void WindowBench::key(int key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&view(), static_cast<Qt::Key>(key), modifiers);
 }
 
 } // namespace planner::test

@@ -5,6 +5,7 @@
 #include "forms/plcal/grid_view.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/plcal_window.h"
+#include "forms/plfimp/plfimp_dialog.h"
 #include "support/planner_bench.h"
 
 #include <QString>
@@ -15,7 +16,10 @@ namespace planner::test {
 struct WindowBench {
     PlannerBench base;
     PlcalWindow vista{base.sessione, base.controlli};
-    plcal finestra{base.sessione, base.controlli, vista, base.messaggi, [this] { return newEngine(); }};
+    PlfimpDialog finestraImpegno;
+    plcal finestra{base.sessione, base.controlli, {vista, base.messaggi, finestraImpegno}, [this] {
+                       return newEngine();
+                   }};
 
     WindowBench() { vista.setForm(finestra); }
 
@@ -24,6 +28,16 @@ struct WindowBench {
     /// Prepares a request of the year 2006 and shows the window, as WPlanner does before it waits.
     void open(std::string_view tipo, std::string_view giorno = "20060315",
               std::string_view windowcaption = "                    ");
+
+    /// Presses the left button on a cell of the visible grid, in the grid's own rows and columns.
+    void click(int riga, int colonna);
+    void doubleClick(int riga, int colonna);
+    /// The view of the visible grid.
+    GridView& view();
+    /// Sends a key to the visible grid.
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    const std::string& reply() const { return base.sessione.valret; }
+    std::string shownDay() const { return formatDate(base.controlli.calendario.Value()); }
 
     /// The widget of the given object name; a failed expectation when there is none.
     template <typename Widget = QWidget>

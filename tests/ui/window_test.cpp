@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/window_bench.h"
-
 #include "forms/plcal/grid_corner.h"
 #include "platform/qt/text.h"
-
-#include <gtest/gtest.h>
+#include "ui/window_bench.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -16,6 +13,8 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QWheelEvent>
+
+#include <gtest/gtest.h>
 
 namespace planner::test {
 
@@ -45,7 +44,9 @@ bool hasColour(QWidget& widget, QRgb colour) {
 
 TEST_F(WindowTest, EachKindShowsItsOwnGridAndCaption) {
     const std::vector<std::tuple<const char*, const char*, const char*>> kinds{
-        {"M", "Flxm", "Planner Mensile"}, {"G", "flxg", "Planner Giornaliero"}, {"A", "flxa", "Planner Annuale"}};
+        {"M", "Flxm", "Planner Mensile"},
+        {"G", "flxg", "Planner Giornaliero"},
+        {"A", "flxa", "Planner Annuale"}};
     for (const auto& [kind, name, caption] : kinds) {
         bench.open(kind);
         for (const char* other : {"Flxm", "flxg", "flxa"}) {
@@ -122,23 +123,27 @@ TEST_F(WindowTest, TheCalendarShowsTheDayAndTheWheelDoesNotMoveIt) {
     auto& calendar = bench.widget<QCalendarWidget>("calendario");
     EXPECT_EQ(calendar.selectedDate(), QDate(2006, 3, 15));
     QWidget* days = calendar.findChild<QTableView*>()->viewport();
-    QWheelEvent wheel(QPointF(5, 5), days->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -240), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(QPointF(5, 5), days->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -240),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(days, &wheel);
     EXPECT_EQ(calendar.monthShown(), 3);
     EXPECT_EQ(calendar.firstDayOfWeek(), Qt::Monday);
 }
 
 TEST_F(WindowTest, VariantBHidesTheDeadlinesAndMovesTheCaseFilesUp) {
+    const auto top = [&](const char* name) { return bench.widget(name).mapTo(&bench.vista, QPoint()).y(); };
     bench.open("M");
-    const int deadlinesTop = bench.widget("Lblscad").y();
+    bench.finestra.SelChange(3, 17);
+    const int deadlinesTop = top("Lblscad");
     EXPECT_TRUE(shows("Lblscad"));
+    EXPECT_GT(top("lblpra"), deadlinesTop);
     bench.open("M", "20060315", "                   B");
+    bench.finestra.SelChange(3, 17);
     EXPECT_FALSE(shows("Lblscad"));
     EXPECT_FALSE(shows("Lblscadeva"));
     EXPECT_TRUE(shows("lblpra"));
-    EXPECT_EQ(bench.widget("lblpra").y(), deadlinesTop);
-    EXPECT_EQ(bench.widget("Lblpraeva").y(), deadlinesTop);
+    EXPECT_EQ(top("lblpra"), deadlinesTop);
+    EXPECT_EQ(top("Lblpraeva"), deadlinesTop);
 }
 
 TEST_F(WindowTest, TheYearlyPanelHasItsOwnTotals) {
@@ -171,8 +176,8 @@ TEST_F(WindowTest, ThePeriodButtonsStandInsideTheCornerCell) {
     const std::vector<std::pair<const char*, int>> kinds{{"M", 4}, {"G", 2}, {"A", 2}};
     for (const auto& [kind, count] : kinds) {
         bench.open(kind);
-        auto* view = qobject_cast<GridView*>(bench.vista.findChild<QTableView*>(
-            fromUtf8(bench.base.controlli.nomeGrigliaVisibile())));
+        auto* view = qobject_cast<GridView*>(
+            bench.vista.findChild<QTableView*>(fromUtf8(bench.base.controlli.nomeGrigliaVisibile())));
         auto* corner = view->findChild<GridCorner*>();
         const auto buttons = corner->findChildren<QToolButton*>();
         ASSERT_EQ(buttons.size(), count) << kind;

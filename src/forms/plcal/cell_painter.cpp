@@ -15,6 +15,9 @@ namespace {
 
 constexpr QRgb LineColor = qRgb(200, 200, 188);
 constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
+constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
+constexpr QRgb TodayColor = qRgb(0, 110, 60);
+constexpr int BarMargin = 3;
 constexpr int TextMargin = 4;
 constexpr int QuartersPerHour = 4;
 
@@ -42,14 +45,22 @@ void CellPainter::setFontFactor(double fontFactor) {
 
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
     const Cella& cella = griglia.cella(row, col);
-    painter.fillRect(rect, qtColor(griglia.sfondoVisibile(row, col)));
+    painter.fillRect(rect, qtColor(cella.impegno && cella.sfondo == Colore::azzurro
+                                       ? Colore::gialloChiaro // the span is a bar on the plain row
+                                       : griglia.sfondoVisibile(row, col)));
+    paintLines(painter, rect, griglia, row, col);
+    if (cella.impegno) {
+        paintEntry(painter, rect, griglia, row, col);
+    }
     if (cella.immagine != 0) {
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
         paintText(painter, rect, griglia, row, col);
     }
-    paintLines(painter, rect, griglia, row, col);
+    if (cella.oggi) {
+        paintToday(painter, rect);
+    }
 }
 
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
@@ -74,6 +85,28 @@ void CellPainter::paintText(QPainter& painter, const QRect& rect, const Griglia&
                      static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
                                       (centred ? Qt::AlignHCenter : Qt::AlignLeft)),
                      shown);
+}
+
+void CellPainter::paintEntry(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+    // The bar stays in sight whatever colour a highlighted row or a marked cell has.
+    const QRect bar = rect.adjusted(0, BarMargin, 0, -1 - BarMargin);
+    const bool marked = griglia.cella(row, col).sfondo == Colore::ciano;
+    painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
+    painter.setPen(QColor(BarBorderColor));
+    painter.drawLine(bar.topLeft(), bar.topRight());
+    painter.drawLine(bar.bottomLeft(), bar.bottomRight());
+    if (!griglia.cella(row, col - 1).impegno || griglia.cella(row, col).immagine != 0) {
+        painter.drawLine(bar.topLeft(), bar.bottomLeft());
+    }
+    if (col + 1 == griglia.Cols() || !griglia.cella(row, col + 1).impegno) {
+        painter.drawLine(bar.topRight(), bar.bottomRight());
+    }
+}
+
+void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
+    constexpr int frame = 2;
+    painter.setPen(QPen(QColor(TodayColor), frame));
+    painter.drawRect(rect.adjusted(1, 1, -frame, -frame));
 }
 
 void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {

@@ -29,6 +29,8 @@ public:
 private:
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
     void paintText(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    void paintEntry(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    void paintToday(QPainter& painter, const QRect& rect);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
 
     std::array<QFont, Caratteri.size()> m_fonts;

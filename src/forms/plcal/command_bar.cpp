@@ -54,9 +54,20 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
     action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
     widgetForAction(action)->setAccessibleName(fromUtf8(described.didascalia));
     widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
-    connect(action, &QAction::triggered, this,
-            [this, &described] { Q_EMIT ButtonClick(described.posizione); });
+    connect(action, &QAction::triggered, this, [this, &described] {
+        Q_EMIT ButtonClick(
+            QByteArray(described.chiave.data(), static_cast<qsizetype>(described.chiave.size())));
+    });
     m_comandi.push_back({described.posizione, action, false});
+}
+
+QAction* CommandBar::command(Pulsante pulsante) const {
+    for (const Comando& comando : m_comandi) {
+        if (comando.pulsante == pulsante) {
+            return comando.action;
+        }
+    }
+    return nullptr;
 }
 
 void CommandBar::update(const StatoToolbar& stato) {

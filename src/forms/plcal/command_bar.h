@@ -20,9 +20,10 @@ public:
 
     /// Shows which commands can be used.
     void update(const StatoToolbar& stato);
+    QAction* command(Pulsante pulsante) const;
 
 Q_SIGNALS:
-    void ButtonClick(planner::Pulsante pulsante);
+    void ButtonClick(const QByteArray& chiave);
 
 private:
     void addCommand(const DescrizionePulsante& described);

@@ -37,12 +37,13 @@ Rettangolo posizioneNumero(const EtichettaTotale& etichetta, bool varianteRidott
 }
 
 std::vector<ControlloProgetto> controlliPlcal() {
-    constexpr Rettangolo grid{60, 2500, 15240, 9480};
+    constexpr Rettangolo grid{60, 2500, 15240, 9460};
     std::vector<ControlloProgetto> controls{
         {"Toolbar1", {0, 0, 12600, 1170}},
         {"calendario", {12660, 60, 2640, 2380}},
         {"lbldescr", {180, 1210, 4500, 480}},
         {"lblcollab", {180, 1720, 4500, 400}},
+        {"stato", {180, 11970, 15000, 330}},
         {"Flxm", grid},
         {"flxg", grid},
         {"flxa", grid},

@@ -56,17 +56,24 @@ struct PulsantePeriodo {
     bool successivo;
     std::string_view suggerimento; // tool tip
     std::string_view immagine;
+    std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
 };
 
 inline constexpr std::array PulsantiPeriodo{
-    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente"},
-    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo"},
-    PulsantePeriodo{"bselm", 2, TipoPlanner::Mensile, 1, false, "Anno precedente", "anno_precedente"},
-    PulsantePeriodo{"bselm", 3, TipoPlanner::Mensile, 1, true, "Anno successivo", "anno_successivo"},
-    PulsantePeriodo{"bselg", 1, TipoPlanner::Giornaliero, 0, false, "Giorno precedente", "precedente"},
-    PulsantePeriodo{"bselg", 2, TipoPlanner::Giornaliero, 0, true, "Giorno successivo", "successivo"},
-    PulsantePeriodo{"bselA", 1, TipoPlanner::Annuale, 0, false, "Anno precedente", "anno_precedente"},
-    PulsantePeriodo{"bselA", 2, TipoPlanner::Annuale, 0, true, "Anno successivo", "anno_successivo"},
+    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente", "Alt+Left"},
+    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo", "Alt+Right"},
+    PulsantePeriodo{"bselm", 2, TipoPlanner::Mensile, 1, false, "Anno precedente", "anno_precedente",
+                    "Ctrl+Alt+Left"},
+    PulsantePeriodo{"bselm", 3, TipoPlanner::Mensile, 1, true, "Anno successivo", "anno_successivo",
+                    "Ctrl+Alt+Right"},
+    PulsantePeriodo{"bselg", 1, TipoPlanner::Giornaliero, 0, false, "Giorno precedente", "precedente",
+                    "Alt+Left"},
+    PulsantePeriodo{"bselg", 2, TipoPlanner::Giornaliero, 0, true, "Giorno successivo", "successivo",
+                    "Alt+Right"},
+    PulsantePeriodo{"bselA", 1, TipoPlanner::Annuale, 0, false, "Anno precedente", "anno_precedente",
+                    "Alt+Left; Ctrl+Alt+Left"},
+    PulsantePeriodo{"bselA", 2, TipoPlanner::Annuale, 0, true, "Anno successivo", "anno_successivo",
+                    "Alt+Right; Ctrl+Alt+Right"},
 };
 
 /// The first column in sight when the daily grid is shown: eight o'clock.

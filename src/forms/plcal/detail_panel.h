@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plcal/design.h"
+#include "forms/plcal/panel.h"
 
 #include <QObject>
 
 #include <vector>
 
+class QFrame;
 class QLabel;
 class QWidget;
 
@@ -20,13 +21,16 @@ public:
     /// Makes the labels as children of `parent`.
     explicit DetailPanel(QWidget* parent);
 
-    /// Shows the panel of the kind and window variant, its labels in their places.
+    /// Puts the captions and boxes of the kind and window variant in their places.
     void arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta, const Scala& scala);
+    /// Shows the totals.
+    void show(const PannelloDettagli& contents);
 
 private:
     struct Coppia {
         const EtichettaTotale* etichetta;
         QLabel* didascalia;
+        QFrame* riquadro; // stays in sight when there is no number to show
         QLabel* numero;
     };
     std::vector<Coppia> m_coppie;

@@ -4,6 +4,7 @@
 
 #include "platform/qt/text.h"
 
+#include <QKeySequence>
 #include <QPainter>
 #include <QToolButton>
 
@@ -18,6 +19,11 @@ QPalette lightButtonPalette() {
     QPalette palette(QColor(240, 240, 240));
     palette.setColor(QPalette::ButtonText, Qt::black);
     return palette;
+}
+
+QString shortcutText(const PulsantePeriodo& described) {
+    return QKeySequence::listToString(QKeySequence::listFromString(fromUtf8(described.scorciatoia)),
+                                      QKeySequence::NativeText);
 }
 
 } // namespace
@@ -36,9 +42,12 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
     button->setObjectName(fromUtf8(described.gruppo) + QString::number(described.indice));
     button->setIcon(qtIcon(described.immagine));
     button->setPalette(lightButtonPalette());
-    button->setToolTip(fromUtf8(described.suggerimento));
+    button->setToolTip(fromUtf8(described.suggerimento) + QStringLiteral(" (") + shortcutText(described) +
+                       QLatin1Char(')'));
     button->setAccessibleName(fromUtf8(described.suggerimento));
-    button->setEnabled(false);
+    button->setFocusPolicy(Qt::TabFocus);
+    connect(button, &QToolButton::clicked, this,
+            [this, &described] { Q_EMIT periodButtonClicked(described); });
     m_buttons.emplace_back(&described, button);
 }
 
@@ -52,6 +61,12 @@ void GridCorner::placeButtons(float scalaX) {
         const Rettangolo place = pulsantePeriodo(cellOf(described->riga), described->successivo, scalaX);
         button->setGeometry(place.Left, place.Top, place.Width, place.Height);
         button->setIconSize(QSize(place.Width, place.Height) - QSize(6, 6));
+    }
+}
+
+void GridCorner::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
+    for (const auto& [described, button] : m_buttons) {
+        button->setEnabled(active(*described));
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class QToolButton;
@@ -23,6 +24,11 @@ public:
     void setRowHeights(const std::vector<int>& heights);
     /// Puts the period buttons into their cells.
     void placeButtons(float scalaX);
+    /// Disables the buttons that would do nothing.
+    void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
+
+Q_SIGNALS:
+    void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -4,6 +4,7 @@
 
 #include "forms/plcal/grid_model.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <numeric>
@@ -29,6 +30,13 @@ void GridHeader::setThickness(const std::vector<int>& sizes) {
 QSize GridHeader::sizeHint() const {
     const int thickness = std::accumulate(m_sizes.begin(), m_sizes.end(), 0);
     return orientation() == Qt::Horizontal ? QSize(0, thickness) : QSize(thickness, 0);
+}
+
+void GridHeader::mousePressEvent(QMouseEvent* event) {
+    const int section = logicalIndexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && section >= 0) {
+        Q_EMIT pressed(section);
+    }
 }
 
 void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {

@@ -22,7 +22,12 @@ public:
 
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /// A section was pressed with the left button.
+    void pressed(int section);
+
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:

@@ -9,8 +9,9 @@
 
 namespace planner {
 
-GridModel::GridModel(Griglia& griglia, QObject* parent)
-    : QAbstractTableModel(parent), m_griglia(griglia), m_rows(griglia.Rows()), m_cols(griglia.Cols()) {
+GridModel::GridModel(Griglia& griglia, Frase frase, QObject* parent)
+    : QAbstractTableModel(parent), m_griglia(griglia), m_frase(std::move(frase)), m_rows(griglia.Rows()),
+      m_cols(griglia.Cols()) {
     m_griglia.setOsservatore(this);
 }
 
@@ -39,6 +40,11 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return qtColor(m_griglia.cella(row, col).colore);
     case Qt::BackgroundRole:
         return qtColor(m_griglia.sfondoVisibile(row, col));
+    case Qt::AccessibleTextRole:
+    case Qt::StatusTipRole:
+        return fromUtf8(m_frase(row, col));
+    case Qt::ToolTipRole:
+        return plainToolTip(fromUtf8(m_frase(row, col)));
     default:
         return {};
     }

@@ -6,14 +6,20 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
+#include <string>
+
 namespace planner {
 
 /// A grid's data cells for the view: the fixed rows and the first column are its headers.
 class GridModel : public QAbstractTableModel, public OsservatoreGriglia {
     Q_OBJECT
 public:
+    /// One sentence on a cell, in the grid's own rows and columns; UTF-8.
+    using Frase = std::function<std::string(int riga, int colonna)>;
+
     /// Watches the grid until it goes; the grid must live longer.
-    explicit GridModel(Griglia& griglia, QObject* parent = nullptr);
+    GridModel(Griglia& griglia, Frase frase, QObject* parent = nullptr);
     ~GridModel() override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -37,6 +43,7 @@ Q_SIGNALS:
 
 private:
     Griglia& m_griglia;
+    Frase m_frase;
     int m_rows, m_cols; // what the views know
 };
 

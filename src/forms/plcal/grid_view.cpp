@@ -6,6 +6,8 @@
 #include "forms/plcal/grid_corner.h"
 #include "forms/plcal/grid_header.h"
 
+#include <QContextMenuEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -38,8 +40,9 @@ float fittingScale(int available, int twips) {
 
 } // namespace
 
-GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, this)),
+GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, GridModel::Frase frase,
+                   QWidget* parent)
+    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, std::move(frase), this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(new GridCorner(griglia, tipo, painter, this)) {
@@ -48,12 +51,88 @@ GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, QWi
     setModel(m_model);
     setItemDelegate(new CellDelegate(*m_model, painter, this));
     setUpBehaviour();
+    connectEvents();
+}
+
+void GridView::connectEvents() {
     connect(m_model, &GridModel::measuresChanged, this, &GridView::applyMeasures);
     connect(m_model, &GridModel::headersChanged, this, [this] {
         m_columns->viewport()->update();
         m_names->viewport()->update();
         m_corner->update();
     });
+    connect(this, &QAbstractItemView::clicked, this, &GridView::emitClicked);
+    connect(this, &QAbstractItemView::doubleClicked, this, &GridView::cellActivated);
+    connect(m_names, &GridHeader::pressed, this, [this](int row) {
+        setFocus();
+        setCurrentIndex(m_model->index(row, std::max(currentIndex().column(), 0)));
+        emitClicked({});
+    });
+    connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
+}
+
+void GridView::emitClicked(const QModelIndex& index) {
+    const QModelIndex current = currentIndex();
+    if (current.isValid()) {
+        // A click on the cell that is current already selects it all the same.
+        Q_EMIT cellSelected(m_model->gridRow(current.row()), GridModel::gridCol(current.column()), true);
+    }
+    if (index.isValid()) {
+        Q_EMIT cellClicked(m_model->gridRow(index.row()), GridModel::gridCol(index.column()));
+    }
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!m_byCode && current.isValid()) {
+        Q_EMIT cellSelected(m_model->gridRow(current.row()), GridModel::gridCol(current.column()), m_byMouse);
+    }
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    const QScopedValueRollback byMouse(m_byMouse, true);
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT cellActivated();
+        break;
+    case Qt::Key_Space:
+        emitClicked(currentIndex());
+        break;
+    default:
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    const QModelIndex under = indexAt(viewport()->mapFromGlobal(event->globalPos()));
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    if (byMouse && !under.isValid()) {
+        return;
+    }
+    const QPoint atCell = viewport()->mapToGlobal(visualRect(currentIndex()).center());
+    Q_EMIT menuRequested(byMouse ? event->globalPos() : atCell);
+}
+
+void GridView::showCurrentCell() {
+    const Griglia& griglia = m_model->griglia();
+    const QModelIndex wanted =
+        m_model->index(griglia.Row() - griglia.FixedRows(), griglia.Col() - Griglia::FixedCols());
+    if (wanted == currentIndex()) {
+        return;
+    }
+    const QScopedValueRollback byCode(m_byCode, true);
+    setAutoScroll(false);
+    setCurrentIndex(wanted);
+    setAutoScroll(true);
+}
+
+void GridView::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
+    m_corner->updateButtons(active);
 }
 
 void GridView::setUpBehaviour() {
@@ -125,7 +204,9 @@ void GridView::applyRowMeasures() {
     m_columns->setThickness(header);
     m_corner->setRowHeights(header);
     if (griglia.Rows() > griglia.FixedRows()) { // all data rows are of one height
-        m_names->setDefaultSectionSize(pixels(griglia.RowHeight(griglia.FixedRows()), scale));
+        const auto height =
+            static_cast<float>(griglia.RowHeight(griglia.FixedRows())) * scale / TwipsPerPixel;
+        m_names->setDefaultSectionSize(static_cast<int>(height)); // cut, so that what is to fit does fit
     }
 }
 

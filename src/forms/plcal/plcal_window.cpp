@@ -5,13 +5,21 @@
 #include "forms/plcal/command_bar.h"
 #include "forms/plcal/detail_panel.h"
 #include "forms/plcal/grid_view.h"
+#include "forms/plcal/info_dialog.h"
+#include "forms/plcal/period_moves.h"
+#include "forms/plcal/sentences.h"
 #include "forms/plcal/shown_calendar.h"
 #include "platform/qt/plain_label.h"
 #include "platform/qt/text.h"
 
+#include <QAction>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QScreen>
 #include <QShortcut>
+
+#include <set>
 
 namespace planner {
 
@@ -24,33 +32,92 @@ constexpr double TitleFontFactor = 1.5;
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli),
       m_Toolbar1(new CommandBar(&plcal::comandoDisponibile, this)), m_calendario(new ShownCalendar(this)),
-      m_lbldescr(new PlainLabel(this)), m_lblcollab(new PlainLabel(this)), m_panel(new DetailPanel(this)),
-      m_Flxm(new GridView(controlli.Flxm, TipoPlanner::Mensile, m_painter, this)),
-      m_flxg(new GridView(controlli.flxg, TipoPlanner::Giornaliero, m_painter, this)),
-      m_flxa(new GridView(controlli.flxa, TipoPlanner::Annuale, m_painter, this)) {
-    setObjectName(QStringLiteral("plcal"));
-    makeLabels();
-    makeGrids();
-    connect(m_Toolbar1, &CommandBar::ButtonClick, this,
-            [this](Pulsante pulsante) { m_form->Toolbar1_ButtonClick(pulsante); });
-    auto* escape = new QShortcut(Qt::Key_Escape, this);
-    connect(escape, &QShortcut::activated, this, [this] { m_form->Form_KeyDown(plcal::TastoEscape); });
+      m_lbldescr(new PlainLabel(this)), m_lblcollab(new PlainLabel(this)), m_stato(new PlainLabel(this)),
+      m_panel(new DetailPanel(this)) {
+    const auto frase = [this](int riga, int colonna) {
+        return fraseCella(m_controlli, m_sessione, riga, colonna);
+    };
+    m_Flxm = new GridView(controlli.Flxm, TipoPlanner::Mensile, m_painter, frase, this);
+    m_flxg = new GridView(controlli.flxg, TipoPlanner::Giornaliero, m_painter, frase, this);
+    m_flxa = new GridView(controlli.flxa, TipoPlanner::Annuale, m_painter, frase, this);
+    nameControls();
+    connectEvents();
 }
 
 PlcalWindow::~PlcalWindow() = default;
 
-void PlcalWindow::makeLabels() {
+void PlcalWindow::nameControls() {
+    setObjectName(QStringLiteral("plcal"));
     m_lbldescr->setObjectName(QStringLiteral("lbldescr"));
     m_lblcollab->setObjectName(QStringLiteral("lblcollab"));
-}
-
-void PlcalWindow::makeGrids() {
+    m_stato->setObjectName(QStringLiteral("stato"));
     m_Flxm->setObjectName(QStringLiteral("Flxm"));
     m_Flxm->setAccessibleName(QStringLiteral("Planner mensile"));
     m_flxg->setObjectName(QStringLiteral("flxg"));
     m_flxg->setAccessibleName(QStringLiteral("Planner giornaliero"));
     m_flxa->setObjectName(QStringLiteral("flxa"));
     m_flxa->setAccessibleName(QStringLiteral("Planner annuale"));
+}
+
+void PlcalWindow::connectEvents() {
+    connect(m_Toolbar1, &CommandBar::ButtonClick, this, [this](const QByteArray& chiave) {
+        m_form->Toolbar1_ButtonClick({chiave.constData(), static_cast<std::size_t>(chiave.size())});
+    });
+    connect(m_calendario, &ShownCalendar::dayPicked, this,
+            [this](Data giorno) { m_form->calendario_DateClick(giorno); });
+    addPeriodShortcuts();
+    for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
+        connectGrid(*grid);
+    }
+}
+
+void PlcalWindow::connectGrid(GridView& grid) {
+    connect(&grid, &GridView::cellSelected, this, [this](int riga, int colonna, bool conMouse) {
+        m_form->SelChange(riga, colonna);
+        m_form->RowColChange(riga, colonna, /*tastoTenuto=*/!conMouse);
+    });
+    connect(&grid, &GridView::cellClicked, this,
+            [this](int riga, int colonna) { m_form->Click(riga, colonna); });
+    connect(&grid, &GridView::cellActivated, m_Toolbar1->command(Pulsante::consult), &QAction::trigger);
+    connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
+    connect(&grid, &GridView::periodButtonClicked, this,
+            [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
+}
+
+void PlcalWindow::addPeriodShortcuts() {
+    std::set<QKeySequence> known;
+    for (const PulsantePeriodo& pulsante : PulsantiPeriodo) {
+        for (const QKeySequence& keys : QKeySequence::listFromString(fromUtf8(pulsante.scorciatoia))) {
+            if (!known.insert(keys).second) {
+                continue; // the same keys move every kind of planner
+            }
+            auto* shortcut = new QShortcut(keys, this);
+            connect(shortcut, &QShortcut::activated, this, [this, keys] { pressPeriodKeys(keys); });
+        }
+    }
+}
+
+void PlcalWindow::pressPeriodKeys(const QKeySequence& keys) {
+    for (const PulsantePeriodo& pulsante : PulsantiPeriodo) {
+        const bool meant = pulsante.tipo == m_controlli.tipoVisibile &&
+                           QKeySequence::listFromString(fromUtf8(pulsante.scorciatoia)).contains(keys);
+        if (meant && m_form->pulsantePeriodoAttivo(pulsante)) {
+            m_form->pulsantePeriodo_Click(pulsante);
+            return;
+        }
+    }
+}
+
+void PlcalWindow::showMenu(const QPoint& globalPosition) {
+    QMenu menu(this);
+    for (const Pulsante pulsante :
+         {Pulsante::consult, Pulsante::insimp, Pulsante::agenda, Pulsante::dettno, Pulsante::dettsi}) {
+        QAction* action = m_Toolbar1->command(pulsante);
+        if (action->isEnabled() && action->isVisible()) {
+            menu.addAction(action);
+        }
+    }
+    menu.exec(globalPosition);
 }
 
 Dimensioni PlcalWindow::schermo() const {
@@ -85,15 +152,41 @@ void PlcalWindow::place(QWidget& widget, const Rettangolo& twips) const {
 void PlcalWindow::aggiorna() {
     setWindowTitle(fromCp1252(m_controlli.Caption));
     m_lbldescr->setText(fromCp1252(m_controlli.lbldescr));
-    m_calendario->update(m_controlli.calendario);
-    m_Toolbar1->update(m_controlli.Toolbar1);
+    const PannelloDettagli& panel = m_form->pannello();
+    m_lblcollab->setText(fromCp1252(panel.lblcollab));
+    m_lblcollab->setVisible(panel.lblcollabVisibile);
     m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
+    m_panel->show(panel);
+    m_stato->setText(fromUtf8(m_form->stato()));
+    m_Toolbar1->update(m_controlli.Toolbar1);
+    updateCalendar();
+    updateGrid();
+}
+
+void PlcalWindow::updateCalendar() {
+    const Calendario& calendario = m_controlli.calendario;
+    const auto year = std::chrono::year{calendario.Year()};
+    Data first{year, std::chrono::January, std::chrono::day{1}};
+    Data last{year, std::chrono::December, std::chrono::day{31}};
+    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        first = firstOfMonth(m_sessione.periodo.inizio());
+        last = lastOfMonth(m_sessione.periodo.fine());
+    } else if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
+        first = m_sessione.periodo.inizio();
+        last = m_sessione.periodo.fine();
+    }
+    m_calendario->update(calendario, first, last);
+}
+
+void PlcalWindow::updateGrid() {
     GridView* visible = visibleGrid();
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
         grid->setVisible(grid == visible);
     }
     if (visible != nullptr) {
-        visible->setFocus();
+        visible->showCurrentCell();
+        visible->updateButtons(
+            [this](const PulsantePeriodo& pulsante) { return m_form->pulsantePeriodoAttivo(pulsante); });
     }
 }
 
@@ -119,6 +212,9 @@ void PlcalWindow::scorriA(int colonna) {
 
 void PlcalWindow::mostra() {
     showMaximized();
+    if (GridView* grid = visibleGrid()) {
+        grid->setFocus();
+    }
 }
 
 void PlcalWindow::nascondi() {
@@ -134,9 +230,21 @@ void PlcalWindow::LockWindowUpdate(bool locked) {
     setUpdatesEnabled(!locked);
 }
 
+void PlcalWindow::mostraInformazioni() {
+    showInfoDialog(this);
+}
+
 void PlcalWindow::closeEvent(QCloseEvent* event) {
     event->ignore(); // the form takes the window off the screen
     m_form->unload();
+}
+
+void PlcalWindow::keyPressEvent(QKeyEvent* event) {
+    // No shortcut: those are deaf until the window system has made the window the active one.
+    const int key = event->key() == Qt::Key_Escape ? plcal::TastoEscape : 0;
+    if (!m_form->Form_KeyDown(key)) {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void PlcalWindow::resizeEvent(QResizeEvent*) {
@@ -146,8 +254,10 @@ void PlcalWindow::resizeEvent(QResizeEvent*) {
 void PlcalWindow::fillRemainingSpace() {
     // Positions were scaled once, at load; what is left of the window belongs to the grid.
     const int margin = m_Flxm->x();
+    m_stato->move(m_stato->x(), height() - m_stato->height());
+    m_stato->resize(width() - 2 * m_stato->x(), m_stato->height());
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
-        grid->resize(width() - 2 * margin, height() - grid->y() - margin);
+        grid->resize(width() - 2 * margin, m_stato->y() - grid->y());
     }
     m_calendario->move(width() - m_calendario->width() - margin, m_calendario->y());
     m_Toolbar1->resize(m_calendario->x() - margin, m_Toolbar1->height());

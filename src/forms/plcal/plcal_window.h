@@ -18,8 +18,8 @@ class DetailPanel;
 class GridView;
 class ShownCalendar;
 
-/// The planner window's widgets. It decides nothing: events go to `plcal`, contents come from the controls'
-/// data.
+/// The planner window's widgets. It decides nothing: events go to `plcal`, contents come from its data and
+/// from the controls'.
 class PlcalWindow : public QWidget, public VistaPlcal {
     Q_OBJECT
 public:
@@ -38,14 +38,22 @@ public:
     void nascondi() override;
     void portaDavanti() override;
     void LockWindowUpdate(bool locked) override;
+    void mostraInformazioni() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void makeLabels();
-    void makeGrids();
+    void nameControls();
+    void connectEvents();
+    void connectGrid(GridView& grid);
+    void addPeriodShortcuts();
+    void pressPeriodKeys(const QKeySequence& keys);
+    void showMenu(const QPoint& globalPosition);
+    void updateCalendar();
+    void updateGrid();
     void place(QWidget& widget, const Rettangolo& twips) const;
     void fillRemainingSpace();
     GridView* visibleGrid() const;
@@ -60,6 +68,7 @@ private:
     ShownCalendar* m_calendario;
     QLabel* m_lbldescr;
     QLabel* m_lblcollab;
+    QLabel* m_stato;
     DetailPanel* m_panel;
     GridView* m_Flxm;
     GridView* m_flxg;

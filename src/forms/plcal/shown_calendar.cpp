@@ -8,11 +8,17 @@
 #include <QTextCharFormat>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
 
 constexpr int SmallestRow = 12; // pixels
+
+QDate qtDate(Data data) {
+    return {yearOf(data), monthOf(data), dayOf(data)};
+}
 
 } // namespace
 
@@ -22,8 +28,6 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
     setFirstDayOfWeek(Qt::Monday);
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
-    setDateRange(QDate(AnnoMinimo, 1, 1), QDate(AnnoMassimo, 12, 31));
-    setSelectionMode(QCalendarWidget::NoSelection);
     setFocusPolicy(Qt::NoFocus);
     hideNavigation();
     for (QTableView* days : findChildren<QTableView*>()) {
@@ -32,6 +36,11 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
         days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
     }
     colourDays();
+    connect(this, &QCalendarWidget::clicked, this, [this](QDate day) {
+        if (const auto picked = makeDate(day.year(), day.month(), day.day())) {
+            Q_EMIT dayPicked(*picked);
+        }
+    });
 }
 
 void ShownCalendar::hideNavigation() {
@@ -59,8 +68,11 @@ void ShownCalendar::colourDays() {
     setWeekdayTextFormat(Qt::Sunday, weekend);
 }
 
-void ShownCalendar::update(const Calendario& calendario) {
-    setSelectedDate(QDate(calendario.Year(), calendario.Month(), calendario.Day()));
+void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
+    const Data shown = calendario.Value();
+    setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
+    setSelectedDate(qtDate(shown));
+    setCurrentPage(calendario.Year(), calendario.Month());
 }
 
 bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {

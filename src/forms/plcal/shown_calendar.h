@@ -14,7 +14,11 @@ class ShownCalendar : public QCalendarWidget {
 public:
     explicit ShownCalendar(QWidget* parent);
 
-    void update(const Calendario& calendario);
+    /// Shows the date; days outside the bounds cannot be picked.
+    void update(const Calendario& calendario, Data primo, Data ultimo);
+
+Q_SIGNALS:
+    void dayPicked(planner::Data giorno);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,7 +8,8 @@
 
 namespace planner {
 
-/// The planner window's widgets, as its logic drives them. What they show is in `ControlliPlcal`.
+/// The planner window's widgets, as its logic drives them. What they show is in `ControlliPlcal` and in the
+/// form's own data.
 class VistaPlcal {
 public:
     virtual ~VistaPlcal() = default;
@@ -16,7 +17,8 @@ public:
     virtual Dimensioni schermo() const = 0;
     /// Puts the controls where they belong, in twips.
     virtual void disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) = 0;
-    /// Shows the present contents of all controls: captions, calendar, toolbar, panel, visible grid.
+    /// Shows the present contents of all controls: captions, calendar, toolbar, panel, visible grid and its
+    /// current cell.
     virtual void aggiorna() = 0;
     /// Puts the period buttons into the corner of the visible grid.
     virtual void disponiPulsantiPeriodo() = 0;
@@ -27,6 +29,8 @@ public:
     virtual void portaDavanti() = 0;
     /// Suspends and resumes the window's repainting.
     virtual void LockWindowUpdate(bool locked) = 0;
+    /// Shows the program's name and version and what each picture means, until the user closes it.
+    virtual void mostraInformazioni() = 0;
 };
 
 } // namespace planner

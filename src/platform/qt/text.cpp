@@ -19,4 +19,10 @@ QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+QString plainToolTip(const QString& text) {
+    return text.isEmpty() ? text
+                          : QStringLiteral("<p style='white-space:pre'>") + text.toHtmlEscaped() +
+                                QStringLiteral("</p>");
+}
+
 } // namespace planner

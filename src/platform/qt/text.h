@@ -14,4 +14,7 @@ QString fromCp1252(std::string_view bytes);
 /// The program's own texts and messages, UTF-8.
 QString fromUtf8(std::string_view text);
 
+/// The text for a tool tip, which the toolkit would otherwise examine for markup.
+QString plainToolTip(const QString& text);
+
 } // namespace planner

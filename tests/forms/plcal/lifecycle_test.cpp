@@ -142,7 +142,7 @@ TEST_F(PlcalLifecycleTest, TheEngineIsMadeOnFirstUseAndReleasedAtUnload) {
 
 TEST_F(PlcalLifecycleTest, TheExitButtonClosesTheWindow) {
     open("M");
-    form.Toolbar1_ButtonClick(Pulsante::exit);
+    form.Toolbar1_ButtonClick("exit");
     EXPECT_FALSE(form.isLoaded());
     EXPECT_EQ(sessione.valret, "20060315  E");
 }

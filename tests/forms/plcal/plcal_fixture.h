@@ -32,7 +32,8 @@ protected:
     ControlliPlcal& controlli = bench.controlli;
     FakeVista vista{bench.journal};
     int enginesMade = 0;
-    plcal form{sessione, controlli, vista, bench.messaggi, [this] {
+    FakeFinestraImpegno finestraImpegno;
+    plcal form{sessione, controlli, {vista, bench.messaggi, finestraImpegno}, [this] {
                    ++enginesMade;
                    return makeEngine();
                }};

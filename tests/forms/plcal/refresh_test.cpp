@@ -24,19 +24,19 @@ TEST_F(PlcalRefreshTest, TheLevelOfDetailFollowsTheButtons) {
     controlli.Toolbar1.setDettagliato(false);
     form.refreshGrid();
     EXPECT_EQ(sessione.LivelloDettaglio, 1);
-    form.Toolbar1_ButtonClick(Pulsante::dettsi);
+    form.Toolbar1_ButtonClick("dettsi");
     EXPECT_EQ(sessione.LivelloDettaglio, 4);
-    form.Toolbar1_ButtonClick(Pulsante::dettno);
+    form.Toolbar1_ButtonClick("dettno");
     EXPECT_EQ(sessione.LivelloDettaglio, 1);
 }
 
 TEST_F(PlcalRefreshTest, TheMonthlyGridIsRefilledInItsForm) {
     open("M");
     EXPECT_EQ(controlli.Flxm.cella(3, 17).immagine, 10);
-    form.Toolbar1_ButtonClick(Pulsante::dettno);
+    form.Toolbar1_ButtonClick("dettno");
     EXPECT_EQ(controlli.Flxm.cella(3, 17).immagine, 16);
     EXPECT_EQ(controlli.Flxm.RowHeight(3), 300);
-    form.Toolbar1_ButtonClick(Pulsante::dettsi);
+    form.Toolbar1_ButtonClick("dettsi");
     EXPECT_EQ(controlli.Flxm.cella(3, 17).immagine, 10);
     EXPECT_EQ(controlli.Flxm.RowHeight(3), 1200);
     EXPECT_EQ(controlli.Flxm.TextMatrix(3, 0), "Rossi Bruno");
@@ -45,18 +45,18 @@ TEST_F(PlcalRefreshTest, TheMonthlyGridIsRefilledInItsForm) {
 
 TEST_F(PlcalRefreshTest, TheDailyGridIsRefilledInItsForm) {
     open("G");
-    form.Toolbar1_ButtonClick(Pulsante::dettno);
+    form.Toolbar1_ButtonClick("dettno");
     EXPECT_EQ(elencoRiga(controlli.flxg, 2), "0 \"Rossi Bruno\" | 37 #16= | 38-40 =");
-    form.Toolbar1_ButtonClick(Pulsante::dettsi);
+    form.Toolbar1_ButtonClick("dettsi");
     EXPECT_EQ(elencoRiga(controlli.flxg, 2), "0 \"Rossi Bruno\" | 37 #10= | 38-40 =");
 }
 
 TEST_F(PlcalRefreshTest, DettnoThenDettsiReturnsTheToolbarToItsFirstState) {
     open("M");
-    form.Toolbar1_ButtonClick(Pulsante::dettno);
+    form.Toolbar1_ButtonClick("dettno");
     EXPECT_TRUE(controlli.Toolbar1.visible(Pulsante::dettsi));
     EXPECT_FALSE(controlli.Toolbar1.visible(Pulsante::dettno));
-    form.Toolbar1_ButtonClick(Pulsante::dettsi);
+    form.Toolbar1_ButtonClick("dettsi");
     EXPECT_TRUE(controlli.Toolbar1.visible(Pulsante::dettno));
     EXPECT_TRUE(controlli.Toolbar1.enabled(Pulsante::dettno));
     EXPECT_FALSE(controlli.Toolbar1.visible(Pulsante::dettsi));

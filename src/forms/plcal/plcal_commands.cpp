@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/yearly_day.h"
+
+namespace planner {
+
+bool plcal::comandoDisponibile(Pulsante pulsante) {
+    return pulsante != Pulsante::coll && pulsante != Pulsante::grafici;
+}
+
+void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
+    if (chiave == "exit") {
+        unload();
+    } else if (chiave == "filtri") {
+        m_sessione.valret = composedReply("F");
+        unload();
+    } else if (chiave == "agenda") {
+        if (m_sessione.tipocall != "A") {
+            reply("A");
+        }
+    } else if (chiave == "consult") {
+        esegui([&] { consult(); });
+    } else if (chiave == "insimp") {
+        insimp();
+    } else if (chiave == "dettno" || chiave == "dettsi") {
+        setDettagliato(chiave == "dettsi");
+    } else if (chiave == "info") {
+        m_porte.vista.mostraInformazioni();
+    }
+}
+
+std::string plcal::composedReply(std::string_view azione) const {
+    return m_controlli.calendario.testoRisposta() + m_sessione.collab + std::string(azione);
+}
+
+void plcal::reply(std::string_view azione) {
+    m_sessione.valret = composedReply(azione);
+    m_sessione.FinePlanner = true;
+}
+
+void plcal::consult() {
+    if (canConsult()) {
+        reply("D");
+    } else {
+        m_stato = "Qui non ci sono scadenze o pratiche da consultare.";
+    }
+}
+
+bool plcal::canConsult() const {
+    if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+        return giornoSegnato(m_sessione.archivi, m_controlli.flxa.Row(), m_controlli.flxa.Col());
+    }
+    const bool monthly = m_controlli.tipoVisibile == TipoPlanner::Mensile;
+    const int indice = monthly ? m_sessione.IndiceCollab : m_controlli.flxg.Row() - PrimaRigaGiornaliera;
+    if (!m_controlli.tipoVisibile || indice < 0) {
+        return false;
+    }
+    return m_sessione.TotaliImpegni.at(indice, 0) >= 1 || m_sessione.TotaliImpegni.at(indice, 1) >= 1;
+}
+
+void plcal::insimp() {
+    if (m_sessione.varianteRidotta()) {
+        reply("T");
+        return;
+    }
+    plfimp form;
+    m_porte.finestraImpegno.chiedi(form);
+    if (!form.risposta().empty()) {
+        reply(form.risposta());
+    }
+}
+
+void plcal::setDettagliato(bool dettagliato) {
+    m_controlli.Toolbar1.setDettagliato(dettagliato);
+    refreshGrid();
+}
+
+void plcal::refreshGrid() {
+    m_sessione.LivelloDettaglio = m_controlli.Toolbar1.dettagliato() ? 4 : 1;
+    Griglia* griglia = m_controlli.grigliaVisibile();
+    if (griglia == nullptr || m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+        return;
+    }
+    esegui([&] {
+        const Griglia::LockWindowUpdate lock(*griglia);
+        const int row = griglia->Row();
+        const int column = griglia->Col();
+        if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+            motore().PulisciGrid1();
+            griglia->setRows(righeMensile(m_sessione.archivi.NumCollab));
+            motore().PopolaGrid1();
+        } else {
+            motore().PulisciGrid2();
+            griglia->setRows(righeGiornaliera(m_sessione.archivi.NumCollab));
+            motore().PopolaGrid2();
+        }
+        afterRefill(row, column);
+    });
+}
+
+} // namespace planner

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "engine/session/modpl.h"
+
+#include <string>
+
+namespace planner {
+
+/// "mercoledì 15 marzo 2006", UTF-8.
+std::string dataEstesa(Data data);
+
+/// One sentence on a cell of the visible grid, for tool tip, status line and screen reader alike, UTF-8: the
+/// staff member, the day (and quarter of an hour) and the kinds of entries present; in the yearly grid the
+/// day and its totals. Only the name where the cell stands for no day, empty where it stands for nothing.
+std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna);
+
+} // namespace planner

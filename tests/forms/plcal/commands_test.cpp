@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "plcal_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace planner::test {
+namespace {
+
+using testing::IsEmpty;
+
+class CommandsTest : public PlcalFixture {
+protected:
+    void SetUp() override {
+        bench.putRighe({riga("RB", "20060315", {{1, "00002"}}), riga("BI", "20060310", {{7, "00001"}}),
+                        riga("7 ", "20060310", {{6, "00001"}}), RigaPlanner{}});
+    }
+    void press(std::string_view chiave) { form.Toolbar1_ButtonClick(chiave); }
+    const std::string& reply() { return sessione.valret; }
+};
+
+TEST_F(CommandsTest, ExitAnswersE) {
+    open("M");
+    press("exit");
+    EXPECT_EQ(reply(), "20060315  E");
+    EXPECT_TRUE(sessione.FinePlanner);
+    EXPECT_FALSE(form.isLoaded());
+}
+
+TEST_F(CommandsTest, FiltriAnswersFAndTheUnloadKeepsIt) {
+    open("M");
+    form.SelChange(3, 17);
+    press("filtri");
+    EXPECT_EQ(reply(), "20060315RBF");
+    EXPECT_TRUE(sessione.FinePlanner);
+    EXPECT_TRUE(form.isLoaded()) << "kept for the next request";
+}
+
+TEST_F(CommandsTest, AgendaAnswersAUnlessTheCallIsOfModeA) {
+    open("M");
+    sessione.tipocall = "A";
+    press("agenda");
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_FALSE(sessione.FinePlanner);
+    sessione.tipocall = " ";
+    press("agenda");
+    EXPECT_EQ(reply(), "20060315  A") << "a code of two blanks is written as two blanks";
+}
+
+TEST_F(CommandsTest, ConsultWithoutASelectedStaffMemberDoesNothing) {
+    open("M");
+    press("consult");
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_FALSE(sessione.FinePlanner);
+}
+
+TEST_F(CommandsTest, ConsultNeedsADeadlineOrACaseFile) {
+    open("M");
+    form.SelChange(2, 12); // Bianchi: a note only
+    press("consult");
+    EXPECT_THAT(reply(), IsEmpty());
+    form.SelChange(3, 17); // Rossi: deadlines
+    press("consult");
+    EXPECT_EQ(reply(), "20060315RBD");
+    form.SelChange(4, 12); // Verdi: a case file
+    press("consult");
+    EXPECT_EQ(reply(), "200603157 D");
+}
+
+TEST_F(CommandsTest, ConsultInTheDailyPlannerTakesTheCurrentRow) {
+    open("G");
+    form.SelChange(2, 40);
+    press("consult");
+    EXPECT_EQ(reply(), "20060315RBD");
+    sessione.valret.clear();
+    form.SelChange(1, 40);
+    press("consult");
+    EXPECT_THAT(reply(), IsEmpty());
+}
+
+TEST_F(CommandsTest, ConsultInTheYearlyPlannerNeedsAMarkedDay) {
+    bench.putAnnuale(annoPlanner("2006", {{3, 17}}));
+    open("A");
+    form.SelChange(3, 18);
+    press("consult");
+    EXPECT_THAT(reply(), IsEmpty());
+    form.SelChange(3, 17);
+    press("consult");
+    EXPECT_EQ(reply(), "20060315  D");
+}
+
+TEST_F(CommandsTest, ConsultOnTheYearlyHeaderIsASubscriptErrorThatIsSaid) {
+    open("A");
+    controlli.flxa.setCurrent(0, 0);
+    press("consult");
+    ASSERT_EQ(bench.messaggi.shown.size(), 1U);
+    EXPECT_EQ(bench.messaggi.shown[0].icon, MessageIcon::Critical);
+    EXPECT_THAT(reply(), IsEmpty());
+}
+
+TEST_F(CommandsTest, InsimpInVariantBAnswersTAndNeverAsks) {
+    open("M");
+    sessione.FlagFinestra = "B";
+    press("insimp");
+    EXPECT_EQ(reply(), "20060315  T");
+    EXPECT_EQ(finestraImpegno.asked, 0);
+}
+
+TEST_F(CommandsTest, InsimpAnswersWhatTheDialogChose) {
+    open("M");
+    form.SelChange(3, 17);
+    finestraImpegno.user = [](plfimp& dialog) { dialog.conferma_Click(); };
+    press("insimp");
+    EXPECT_EQ(reply(), "20060315RBI");
+    finestraImpegno.user = [](plfimp& dialog) {
+        dialog.Option1_Click(1);
+        dialog.conferma_Click();
+    };
+    press("insimp");
+    EXPECT_EQ(reply(), "20060315RBT");
+}
+
+TEST_F(CommandsTest, CancellingTheDialogLeavesTheReplyUntouched) {
+    open("M");
+    finestraImpegno.user = [](plfimp& dialog) { dialog.annulla_Click(); };
+    press("insimp");
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_FALSE(sessione.FinePlanner);
+    EXPECT_EQ(finestraImpegno.asked, 1);
+}
+
+TEST_F(CommandsTest, DettnoThenDettsiReturnsTheToolbarToItsFirstStateAndRefillsTwice) {
+    open("M");
+    const auto pictureOfRossi = [&] { return static_cast<int>(controlli.Flxm.cella(3, 17).immagine); };
+    const int detailed = pictureOfRossi();
+    press("dettno");
+    EXPECT_FALSE(controlli.Toolbar1.visible(Pulsante::dettno));
+    EXPECT_FALSE(controlli.Toolbar1.enabled(Pulsante::dettno));
+    EXPECT_TRUE(controlli.Toolbar1.visible(Pulsante::dettsi));
+    EXPECT_TRUE(controlli.Toolbar1.enabled(Pulsante::dettsi));
+    EXPECT_EQ(pictureOfRossi(), ImmaginePresenza);
+    EXPECT_EQ(sessione.LivelloDettaglio, 1);
+    press("dettsi");
+    EXPECT_TRUE(controlli.Toolbar1.enabled(Pulsante::dettno));
+    EXPECT_FALSE(controlli.Toolbar1.visible(Pulsante::dettsi));
+    EXPECT_EQ(pictureOfRossi(), detailed);
+    EXPECT_EQ(sessione.LivelloDettaglio, 4);
+}
+
+TEST_F(CommandsTest, ASwitchOfDetailKeepsSelectionAndPanel) {
+    open("M");
+    form.SelChange(3, 17);
+    press("dettno");
+    EXPECT_EQ(controlli.Flxm.cella(3, 1).sfondo, Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.cella(3, 17).sfondo, Colore::ciano);
+    EXPECT_EQ(form.pannello()["Lblscad"].testo, "2");
+    EXPECT_EQ(controlli.Flxm.Row(), 3);
+    EXPECT_EQ(controlli.Flxm.Col(), 17);
+}
+
+TEST_F(CommandsTest, InfoShowsTheInformationAndMakesNoReply) {
+    open("M");
+    bench.journal.clear();
+    press("info");
+    EXPECT_THAT(bench.journal, testing::Contains("information"));
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_FALSE(sessione.FinePlanner);
+}
+
+TEST_F(CommandsTest, AnUnknownKeyOrOneInAnotherCaseDoesNothing) {
+    open("M");
+    for (const char* key : {"", "EXIT", "Exit", "esci", "consult ", "13"}) {
+        press(key);
+    }
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_TRUE(form.isLoaded());
+}
+
+TEST_F(CommandsTest, ALaterReplyWins) {
+    open("M");
+    form.SelChange(3, 17);
+    press("consult");
+    press("agenda");
+    EXPECT_EQ(reply(), "20060315RBA");
+}
+
+TEST_F(CommandsTest, TheDateOfAReplyIsTheCalendarsAtTheMomentOfTheCommand) {
+    open("M");
+    form.SelChange(3, 3);
+    form.Click(3, 3);
+    press("consult");
+    EXPECT_EQ(reply(), "20060301RBD");
+}
+
+} // namespace
+} // namespace planner::test
