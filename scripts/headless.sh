@@ -1,3 +1,7 @@
+# SPDX-FileCopyrightText: 2026 The planner authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash disable=SC2034
+
 # Sourced by scripts/demo: a virtual display with a window manager, and windows photographed on it.
 
 # start_display WxH

@@ -1,8 +1,12 @@
+# SPDX-FileCopyrightText: 2026 The planner authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash disable=SC2034
+
 # Sourced by the other scripts: the Debian packages that the project needs, and how to get them.
 
-PACKAGES_BUILD="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev"
+PACKAGES_BUILD="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev nlohmann-json3-dev"
 PACKAGES_QT="qt6-base-dev libqt6opengl6-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-liberation"
-PACKAGES_DISPLAY="xvfb openbox xdotool x11-utils imagemagick"
+PACKAGES_DISPLAY="xvfb openbox xdotool x11-utils imagemagick python3-pyatspi at-spi2-core dbus-daemon dbus-bin"
 
 # Installs those of the named packages that are missing, as root or with sudo.
 install_packages() {

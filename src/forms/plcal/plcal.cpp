@@ -21,6 +21,7 @@ void plcal::load() {
 }
 
 void plcal::show() {
+    m_stato = m_controlli.tipoVisibile ? StatoIniziale : std::string_view{};
     m_porte.vista.aggiorna();
     m_porte.vista.mostra();
     Form_Activate();

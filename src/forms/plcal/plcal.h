@@ -75,6 +75,7 @@ public:
     void refreshGrid();
 
     // What the widgets show besides the controls.
+    static constexpr std::string_view StatoIniziale = "Scegliere una casella: qui se ne legge il contenuto.";
     const PannelloDettagli& pannello() const { return m_pannello; }
     /// The status line: a sentence on the current cell, UTF-8.
     const std::string& stato() const { return m_stato; }

@@ -1,0 +1,134 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The planner authors
+# SPDX-License-Identifier: MIT
+"""Finds and uses the controls of a running program as a screen reader does: over the accessibility bus.
+
+    at_spi.py [--deadline SECONDS] PID press NAME                do the first action of the control
+    at_spi.py [--deadline SECONDS] PID where NAME                print where it is: x y width height
+    at_spi.py [--deadline SECONDS] PID cell TABLE ROW COL NAME   the same for the table's cell of that name
+    at_spi.py [--deadline SECONDS] PID list                      print role, tab, name of all but cells
+
+Only what shows on the screen counts, and a place only once it has settled. What is not there yet is waited for;
+at the deadline the exit code is 1. A control that opens a dialog is no case for "press", which would wait until
+the dialog is closed.
+"""
+
+import argparse
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PAUSE = 0.05  # seconds between two looks: what comes late gives no event
+TABLES = (Atspi.Role.TABLE, Atspi.Role.TREE_TABLE)
+
+
+def application(pid):
+    """The program's own node; None while it is not on the bus."""
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        child = desktop.get_child_at_index(index)
+        if child is not None and child.get_process_id() == pid:
+            child.set_cache_mask(Atspi.Cache.NONE)  # nobody is here to hear of changes
+            return child
+    return None
+
+
+def shows(node):
+    states = node.get_state_set()
+    return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
+
+
+def controls(node):
+    """All that shows below the node, tables without their cells."""
+    for index in range(node.get_child_count()):
+        child = node.get_child_at_index(index)
+        if child is None or not shows(child):
+            continue
+        yield child
+        if child.get_role() not in TABLES:
+            yield from controls(child)
+
+
+def named(program, name, roles=None):
+    for node in controls(program):
+        if node.get_name() == name and (roles is None or node.get_role() in roles):
+            return node
+    return None
+
+
+def place(node):
+    area = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+    return f"{area.x} {area.y} {area.width} {area.height}"
+
+
+def press(program, wanted):
+    """A control that cannot be used yet is waited for as one that is not there."""
+    node = named(program, wanted.name)
+    if node is None or not node.get_state_set().contains(Atspi.StateType.ENABLED):
+        return None
+    actions = node.get_action_iface()
+    return "" if actions is not None and actions.do_action(0) else None
+
+
+def where(program, wanted):
+    node = named(program, wanted.name)
+    return None if node is None else place(node)
+
+
+def cell(program, wanted):
+    table = named(program, wanted.table, TABLES)
+    found = None if table is None else table.get_table_iface().get_accessible_at(wanted.row, wanted.column)
+    return place(found) if found is not None and found.get_name() == wanted.name else None
+
+
+def everything(program, _):
+    found = [f"{node.get_role_name()}\t{node.get_name()}" for node in controls(program)]
+    return "\n".join(found) if found else None
+
+
+def command_line():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--deadline", type=float, default=20.0)
+    parser.add_argument("pid", type=int)
+    commands = parser.add_subparsers(required=True)
+    for look, name, arguments in (
+        (press, "press", ["name"]),
+        (where, "where", ["name"]),
+        (cell, "cell", ["table", "row", "column", "name"]),
+        (everything, "list", []),
+    ):
+        command = commands.add_parser(name)
+        command.set_defaults(look=look, settles=look is not press)
+        for argument in arguments:
+            command.add_argument(argument, type=int if argument in ("row", "column") else str)
+    return parser.parse_args()
+
+
+def look_once(wanted):
+    try:
+        program = application(wanted.pid)
+        return None if program is None else wanted.look(program, wanted)
+    except GLib.Error:  # something went while it was looked at
+        return None
+
+
+def main():
+    wanted = command_line()
+    end = time.monotonic() + wanted.deadline
+    before = None
+    while time.monotonic() < end:
+        answer = look_once(wanted)
+        if answer is not None and (not wanted.settles or answer == before):
+            print(answer)
+            return 0
+        before = answer
+        time.sleep(PAUSE)
+    return 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "e2e/support/schermo.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace planner::e2e {
+
+/// The accessibility bus of a screen; it ends with the object. Controls are found on it as a screen reader
+/// finds them: by their names, and only those that show. Names are UTF-8.
+class Accessibilita {
+public:
+    explicit Accessibilita(const Schermo& schermo);
+    ~Accessibilita();
+    Accessibilita(const Accessibilita&) = delete;
+    Accessibilita& operator=(const Accessibilita&) = delete;
+
+    /// For a program that is to be found on the bus.
+    const Environment& environment() const { return m_environment; }
+
+    struct Cella {
+        std::string tabella;
+        int riga = 0; // counted from 0, without headers, as the column is
+        int colonna = 0;
+        std::string nome;
+    };
+
+    // All wait for a control of that name, and throw at the deadline.
+    /// Has the control do what a press on it does.
+    void press(const Processo& owner, const std::string& name) const;
+    /// Clicks with the real mouse on the control's centre.
+    void click(const Processo& owner, const std::string& name) const;
+    /// The same for the cell that has that name in its place.
+    void click(const Processo& owner, const Cella& cella) const;
+    void waitFor(const Processo& owner, const std::string& name) const;
+
+    struct Controllo {
+        std::string ruolo; // in English, as in "push button"
+        std::string nome;
+    };
+    /// Every control of the program that shows, the cells of tables left out.
+    std::vector<Controllo> controls(const Processo& owner) const;
+
+private:
+    Esito look(const Processo& owner, const std::vector<std::string>& words) const;
+    std::string find(const Processo& owner, const std::vector<std::string>& words) const;
+    void clickAt(const std::string& place) const;
+
+    const Schermo* m_schermo;
+    Environment m_environment;
+    std::unique_ptr<Processo> m_bus;
+    std::unique_ptr<Processo> m_launcher;
+};
+
+} // namespace planner::e2e

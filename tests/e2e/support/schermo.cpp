@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "e2e/support/schermo.h"
+
+#include <stdexcept>
+
+namespace planner::e2e {
+
+Schermo::Schermo(const Size& size, Environment environment)
+    : m_size(size), m_environment(std::move(environment)) {
+    const std::string geometry = std::to_string(size.width) + "x" + std::to_string(size.height) + "x24";
+    m_server =
+        startQuietly({"Xvfb", "-displayfd", "1", "-screen", "0", geometry, "-nolisten", "tcp", "-noreset"});
+    m_environment["DISPLAY"] = ":" + m_server->readLine();
+    m_manager = startQuietly({"openbox", "--sm-disable"});
+    waitForWindowManager();
+    // The first key has the server announce its keyboard anew, and for a moment the window manager lets go of
+    // its shortcuts: better now than when a scenario presses one.
+    tool({"xdotool", "key", "shift"});
+}
+
+Schermo::~Schermo() {
+    m_manager->terminate();
+    m_server->terminate(); // a killed one would leave its socket behind
+}
+
+std::unique_ptr<Processo> Schermo::startQuietly(const std::vector<std::string>& words) const {
+    return std::make_unique<Processo>(words, m_environment, Errors::Dropped);
+}
+
+void Schermo::waitForWindowManager() const {
+    const bool ready = comesTrue([this] {
+        return tryTool({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).output.find("window id") !=
+               std::string::npos;
+    });
+    if (!ready) {
+        throw std::runtime_error("the window manager does not start");
+    }
+}
+
+Esito Schermo::tryTool(const std::vector<std::string>& words) const {
+    return runTool(words, m_environment);
+}
+
+std::string Schermo::tool(const std::vector<std::string>& words) const {
+    Esito esito = tryTool(words);
+    if (esito.exitCode != 0) {
+        std::string command;
+        for (const std::string& word : words) {
+            command += word + " ";
+        }
+        throw std::runtime_error(command + "ended with " + std::to_string(esito.exitCode));
+    }
+    return std::move(esito.output);
+}
+
+void Schermo::savePicture(const std::string& file) const {
+    tool({"import", "-silent", "-window", "root", "png:" + file});
+}
+
+} // namespace planner::e2e

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "e2e/support/processo.h"
+
+#include <memory>
+
+namespace planner::e2e {
+
+/// A screen of its own with a window manager; both end with the object.
+class Schermo {
+public:
+    struct Size {
+        int width = 1366;
+        int height = 768;
+    };
+
+    /// `environment` is what the programs on this screen get; DISPLAY is added to it.
+    Schermo(const Size& size, Environment environment);
+    ~Schermo();
+
+    const Environment& environment() const { return m_environment; }
+    const Size& size() const { return m_size; }
+
+    /// Runs a tool on this screen and returns its output; throws when it does not end with 0.
+    std::string tool(const std::vector<std::string>& words) const;
+    /// The same for a tool whose failure is an answer.
+    Esito tryTool(const std::vector<std::string>& words) const;
+
+    /// Saves what the screen shows as a PNG file.
+    void savePicture(const std::string& file) const;
+
+private:
+    std::unique_ptr<Processo> startQuietly(const std::vector<std::string>& words) const;
+    void waitForWindowManager() const;
+
+    Size m_size;
+    Environment m_environment;
+    std::unique_ptr<Processo> m_server;
+    std::unique_ptr<Processo> m_manager;
+};
+
+} // namespace planner::e2e
