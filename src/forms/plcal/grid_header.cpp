@@ -19,6 +19,11 @@ GridHeader::GridHeader(Qt::Orientation orientation, const GridModel& model, Cell
     setSectionResizeMode(QHeaderView::Fixed);
     setSectionsClickable(false);
     setHighlightSections(false);
+    // Where there are no sections it is as light as they are, on a dark desktop too.
+    QPalette light = palette();
+    light.setColor(QPalette::Button, qtColor(Colore::intestazione));
+    light.setColor(QPalette::Window, qtColor(Colore::intestazione));
+    setPalette(light);
 }
 
 void GridHeader::setThickness(const std::vector<int>& sizes) {
