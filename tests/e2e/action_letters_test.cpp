@@ -79,9 +79,11 @@ TEST_F(ActionLetters, ANewCaseFileAnswersT) {
 TEST_F(ActionLetters, ADialogGivenUpAnswersNothing) {
     pickInMonth();
     click("Inserimento impegni");
+    const Finestra dialog = window(planner(), "Inserimento Impegni");
     click("Pratica");
     click("Annulla");
-    press("Consultazione"); // waits until the dialog is gone
+    EXPECT_TRUE(dialog.disappears());
+    press("Consultazione");
     checkAnswer("D", march);
 }
 

@@ -8,9 +8,9 @@
     at_spi.py [--deadline SECONDS] PID cell TABLE ROW COL NAME   the same for the table's cell of that name
     at_spi.py [--deadline SECONDS] PID list                      print role, tab, name of all but cells
 
-Only what shows on the screen counts, and a place only once it has settled. What is not there yet is waited for;
-at the deadline the exit code is 1. A control that opens a dialog is no case for "press", which would wait until
-the dialog is closed.
+Only what shows on the screen counts, and a place only once it has settled. What is not there yet is waited
+for; at the deadline the exit code is 1. A control that opens a dialog is no case for "press", which would wait
+until the dialog is closed.
 """
 
 import argparse

@@ -14,6 +14,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace planner::test {
@@ -176,9 +177,11 @@ TEST_F(WindowTest, ThePeriodButtonsStandInsideTheCornerCell) {
     const std::vector<std::pair<const char*, int>> kinds{{"M", 4}, {"G", 2}, {"A", 2}};
     for (const auto& [kind, count] : kinds) {
         bench.open(kind);
-        auto* view = qobject_cast<GridView*>(
-            bench.vista.findChild<QTableView*>(fromUtf8(bench.base.controlli.nomeGrigliaVisibile())));
-        auto* corner = view->findChild<GridCorner*>();
+        const auto corners = bench.vista.findChildren<GridCorner*>();
+        const auto shown =
+            std::find_if(corners.begin(), corners.end(), [](auto* c) { return c->isVisible(); });
+        ASSERT_NE(shown, corners.end()) << kind;
+        auto* corner = *shown;
         const auto buttons = corner->findChildren<QToolButton*>();
         ASSERT_EQ(buttons.size(), count) << kind;
         for (const QToolButton* button : buttons) {

@@ -45,7 +45,8 @@ GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, Gri
     : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, std::move(frase), this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
-      m_corner(new GridCorner(griglia, tipo, painter, this)) {
+      m_corner(
+          new GridCorner(griglia, tipo, painter, parent)) { // in a table a screen reader finds only cells
     setHorizontalHeader(m_columns);
     setVerticalHeader(m_names);
     setModel(m_model);
@@ -213,7 +214,7 @@ void GridView::applyRowMeasures() {
 void GridView::updateGeometries() {
     QTableView::updateGeometries();
     const QPoint origin(frameWidth(), frameWidth());
-    m_corner->setGeometry(QRect(origin, QSize(m_names->width(), m_columns->height())));
+    m_corner->setGeometry(QRect(pos() + origin, QSize(m_names->width(), m_columns->height())));
     m_corner->raise();
     placeButtons();
 }
@@ -221,6 +222,16 @@ void GridView::updateGeometries() {
 void GridView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     applyMeasures();
+}
+
+void GridView::moveEvent(QMoveEvent* event) {
+    QTableView::moveEvent(event);
+    updateGeometries();
+}
+
+void GridView::setVisible(bool visible) {
+    QTableView::setVisible(visible);
+    m_corner->setVisible(visible);
 }
 
 void GridView::placeButtons() {

@@ -31,6 +31,8 @@ public:
     void showCurrentCell();
     /// Disables the period buttons that would do nothing.
     void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
+    /// Shows or hides the corner too.
+    void setVisible(bool visible) override;
 
 Q_SIGNALS:
     // Rows and columns are the grid's own.
@@ -49,6 +51,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
 private:
     void setUpBehaviour();

@@ -51,6 +51,8 @@ void PlcalWindow::nameControls() {
     m_lbldescr->setObjectName(QStringLiteral("lbldescr"));
     m_lblcollab->setObjectName(QStringLiteral("lblcollab"));
     m_stato->setObjectName(QStringLiteral("stato"));
+    m_Toolbar1->setAccessibleName(QStringLiteral("Comandi"));
+    m_calendario->setAccessibleName(QStringLiteral("Calendario"));
     m_Flxm->setObjectName(QStringLiteral("Flxm"));
     m_Flxm->setAccessibleName(QStringLiteral("Planner mensile"));
     m_flxg->setObjectName(QStringLiteral("flxg"));
