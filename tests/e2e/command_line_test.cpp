@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/support/scenario.h"
 
-#include <algorithm>
-#include <filesystem>
-
 namespace planner::e2e {
 
 namespace {
@@ -19,6 +16,25 @@ protected:
         escape(planner);
         EXPECT_EQ(ospite.answer(), closedOn("20060315", requestBytes('M')));
         EXPECT_EQ(planner.exitCode(), 0);
+    }
+    /// The same with the transit file and the archives in a folder of that name, whose words arrive one by
+    /// one.
+    void checkPieces(const std::vector<std::string>& words) {
+        std::string name;
+        for (const std::string& word : words) {
+            name += name.empty() ? word : " " + word;
+        }
+        archivio.moveInto(name);
+        const std::string transit = name + "/" + std::string(Archivio::Transit);
+        archivio.write(transit, requestBytes('M'));
+        std::vector<std::string> arguments = words;
+        arguments.front() = archivio.path(arguments.front());
+        arguments.back() += "/" + std::string(Archivio::Transit);
+        arguments.insert(arguments.end(), {"1", evento});
+        Programma& planner = start(arguments);
+        escape(planner);
+        EXPECT_EQ(planner.exitCode(), 0);
+        EXPECT_EQ(archivio.read(transit), closedOn("20060315", requestBytes('M')));
     }
 };
 
@@ -64,18 +80,11 @@ TEST_F(CommandLine, ANetworkPathKeepsItsTwoSeparators) {
 }
 
 TEST_F(CommandLine, APathMayHoldBlanksAndArriveInPieces) {
-    const std::string folder = archivio.path("archivio di prova");
-    std::filesystem::create_directory(folder);
-    for (const char* file : {"wrighipl", "wcollab"}) {
-        std::filesystem::copy_file(archivio.path(file), folder + "/" + file);
-    }
-    const std::string transit = "archivio di prova/" + std::string(Archivio::Transit);
-    archivio.write(transit, requestBytes('M'));
-    Programma& planner =
-        start({archivio.path("archivio"), "di", "prova/" + std::string(Archivio::Transit) + " 1", evento});
-    escape(planner);
-    EXPECT_EQ(planner.exitCode(), 0);
-    EXPECT_EQ(archivio.read(transit), closedOn("20060315", requestBytes('M')));
+    checkPieces({"archivio", "di", "prova"});
+}
+
+TEST_F(CommandLine, TheToolkitTakesNoSwitchFromIt) {
+    checkPieces({"archivio", "-platform", "nessuna"});
 }
 
 TEST_F(CommandLine, TheStartFlagMeansNothingInEventMode) {
@@ -85,14 +94,6 @@ TEST_F(CommandLine, TheStartFlagMeansNothingInEventMode) {
     escape(planner);
     EXPECT_EQ(ospite.answer(), closedOn("20060315", requestBytes('M')));
     EXPECT_TRUE(archivio.exists(Archivio::TvPlaOK));
-}
-
-TEST_F(CommandLine, TheToolkitTakesNoSwitchFromIt) {
-    const std::string name = "-style";
-    archivio.writeTransit(requestBytes('M'));
-    Programma& planner = start({archivio.transitPath(), "1", name});
-    escape(planner);
-    EXPECT_EQ(Ospite(name, archivio.transitPath()).answer(), closedOn("20060315", requestBytes('M')));
 }
 
 } // namespace planner::e2e

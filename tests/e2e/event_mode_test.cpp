@@ -111,7 +111,9 @@ TEST_F(EventMode, AMissingTransitFileIsMadeAndAnsweredAsARequestOfNoKind) {
     Programma& planner = startWithEvent();
     confirmMessage(planner, "critical", "Richiesta non valida: il tipo di planner \" \" non è M, G o A.");
     EXPECT_EQ(archivio.transit(), "");
-    escape(planner, "Planner grafico");
+    const Finestra finestra = window(planner, "Planner grafico");
+    EXPECT_EQ(finestra.title(), "Planner grafico");
+    finestra.press("Escape");
     const std::string answer = ospite.answer();
     const std::string blanks(RequestLength, ' ');
     EXPECT_TRUE(answer == closedOn(before, blanks) || answer == closedOn(today(), blanks)) << answer;
@@ -119,7 +121,7 @@ TEST_F(EventMode, AMissingTransitFileIsMadeAndAnsweredAsARequestOfNoKind) {
 }
 
 TEST_F(EventMode, AWindowOfNoKindShowsNoGrid) {
-    const auto coloursOfLowerHalf = [this](char tipoplanner, const std::string& title) {
+    const auto coloursBelowTheMiddle = [this](char tipoplanner, const std::string& title) {
         archivio.writeTransit(requestBytes(tipoplanner));
         Programma& planner = startWithEvent();
         const Finestra finestra = windowAfterMessages(planner, title);
@@ -128,7 +130,7 @@ TEST_F(EventMode, AWindowOfNoKindShowsNoGrid) {
         const bool painted = comesTrue([&] {
             const Immagine picture = finestra.picture();
             const int half = picture.height() / 2;
-            colours = picture.colours({0, half, picture.width(), half}).size();
+            colours = picture.colours({0, half, picture.width(), half / 2}).size();
             return picture.colours({0, 0, picture.width(), half}).size() > 1;
         });
         EXPECT_TRUE(painted);
@@ -136,8 +138,8 @@ TEST_F(EventMode, AWindowOfNoKindShowsNoGrid) {
         ospite.answer();
         return colours;
     };
-    EXPECT_GT(coloursOfLowerHalf('M', "Planner Mensile"), 1U);
-    EXPECT_EQ(coloursOfLowerHalf('Z', "Planner grafico"), 1U);
+    EXPECT_GT(coloursBelowTheMiddle('M', "Planner Mensile"), 1U);
+    EXPECT_EQ(coloursBelowTheMiddle('Z', "Planner grafico"), 1U);
 }
 
 } // namespace planner::e2e

@@ -28,6 +28,7 @@ TEST_P(Window, HasItsKindAsTitleAndFillsTheScreen) {
     archivio.writeTransit(requestBytes(tested.tipoplanner));
     Programma& planner = startWithEvent();
     const Finestra finestra = window(planner, tested.title);
+    EXPECT_EQ(finestra.title(), tested.title);
     const Area wholeScreen{0, 0, tested.screen.width, tested.screen.height};
     comesTrue([&] { return finestra.frame() == wholeScreen; });
     EXPECT_EQ(finestra.frame(), wholeScreen);

@@ -17,6 +17,13 @@ void Archivio::remove(std::string_view name) const {
     std::filesystem::remove(path(name));
 }
 
+void Archivio::moveInto(std::string_view name) const {
+    m_folder.makeFolder(name);
+    for (const char* file : {"wrighipl", "wplanner", "wcollab", "wgrafici"}) {
+        std::filesystem::rename(path(file), path(name) + "/" + file);
+    }
+}
+
 void Archivio::writeStaff(const std::vector<std::string>& names) const {
     std::string bytes;
     int number = 0;

@@ -33,6 +33,8 @@ public:
     bool exists(std::string_view name) const { return m_folder.exists(name); }
     void putMarker(std::string_view name) const { write(name, {}); }
     void remove(std::string_view name) const;
+    /// Moves the archive files into a new folder of that name, inside this one.
+    void moveInto(std::string_view name) const;
     /// Makes staff members of these names the only ones; their codes are "01", "02", ...
     void writeStaff(const std::vector<std::string>& names) const;
 

@@ -65,6 +65,11 @@ void Finestra::click(int x, int y) const {
         {"xdotool", "mousemove", "--window", m_id, std::to_string(x), std::to_string(y), "click", "1"});
 }
 
+std::string Finestra::title() const {
+    const std::string line = m_schermo->tool({"xdotool", "getwindowname", m_id});
+    return line.substr(0, line.find('\n'));
+}
+
 bool Finestra::isVisible() const {
     const Esito info = m_schermo->tryTool({"xwininfo", "-id", m_id});
     return info.exitCode == 0 && info.output.find("IsViewable") != std::string::npos;

@@ -13,7 +13,8 @@ namespace planner::e2e {
 /// A window on the screen, acted upon as a user does: with real keys and a real mouse.
 class Finestra {
 public:
-    /// The visible window of that process with exactly that title; waits for it, and throws at the deadline.
+    /// The visible window of that process with that title, in whatever letter case; waits for it, and throws
+    /// at the deadline.
     Finestra(const Schermo& schermo, const Processo& owner, const std::string& title);
 
     /// The same if it is on the screen at this moment.
@@ -28,6 +29,7 @@ public:
     /// Activates the window and clicks on a point of it, counted from its corner inside the frame.
     void click(int x, int y) const;
 
+    std::string title() const;
     bool isVisible() const;
     bool isActive() const;
     /// Waits until the window is no longer on the screen; false at the deadline.

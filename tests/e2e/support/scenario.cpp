@@ -55,6 +55,7 @@ void Scenario::confirmMessage(const Programma& planner, const std::string& icon,
                               const std::string& text) const {
     const Finestra box = window(planner, "Planner");
     box.activate();
+    EXPECT_EQ(box.title(), "Planner");
     EXPECT_TRUE(looksLikeMessage(box, icon, text)) << icon << ": " << text;
     box.press("Return");
     EXPECT_TRUE(box.disappears());
