@@ -44,7 +44,8 @@ TEST(HostIntegrationTest, EveryFieldOfTheArchiveRecordsIsDocumented) {
 TEST(HostIntegrationTest, EveryActionLetterIsDocumented) {
     const std::string document = hostIntegration();
     for (const AzioneRisposta& azione : AzioniRisposta) {
-        const std::string cell = azione.lettera == ' ' ? "| blank |" : std::string("`") + azione.lettera + "`";
+        const std::string cell =
+            azione.lettera == ' ' ? "| blank |" : std::string("`") + azione.lettera + "`";
         EXPECT_NE(document.find(cell), std::string::npos) << cell;
     }
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/appearance.h"
 
-#include <gmock/gmock.h>
-
 #include <QApplication>
+
+#include <gmock/gmock.h>
 
 int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);

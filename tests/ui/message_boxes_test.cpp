@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/qt_message_boxes.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+
+#include <gtest/gtest.h>
 
 namespace planner {
 
@@ -27,7 +27,8 @@ SeenBox showAndConfirm(const Message& message) {
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             poll.stop();
-            seen = {box->windowTitle(), box->text(), box->button(QMessageBox::Ok)->text(), box->icon(), box->textFormat()};
+            seen = {box->windowTitle(), box->text(), box->button(QMessageBox::Ok)->text(), box->icon(),
+                    box->textFormat()};
             QTest::keyClick(box, Qt::Key_Return);
         }
     });
@@ -39,7 +40,8 @@ SeenBox showAndConfirm(const Message& message) {
 } // namespace
 
 TEST(MessageBoxesTest, TitleTextAndIconAreThoseOfTheMessage) {
-    const SeenBox seen = showAndConfirm({MessageIcon::Information, "Planner", "Errore su File :C:\\arch\\wrighipl"});
+    const SeenBox seen =
+        showAndConfirm({MessageIcon::Information, "Planner", "Errore su File :C:\\arch\\wrighipl"});
     EXPECT_EQ(seen.title, QStringLiteral("Planner"));
     EXPECT_EQ(seen.text, QStringLiteral("Errore su File :C:\\arch\\wrighipl"));
     EXPECT_EQ(seen.icon, QMessageBox::Information);

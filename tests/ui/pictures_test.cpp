@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/pictures.h"
-
 #include "engine/session/staff.h"
-
-#include <gtest/gtest.h>
+#include "platform/qt/pictures.h"
 
 #include <QImage>
 
+#include <gtest/gtest.h>
 #include <set>
 
 namespace planner {
@@ -49,7 +47,8 @@ TEST(PicturesTest, TheSixteenPicturesDiffer) {
     Pictures pictures;
     std::set<QByteArray> seen;
     for (int number = 1; number <= 16; ++number) {
-        const QImage image = pictures.picture(number, Side, 1).toImage().convertToFormat(QImage::Format_ARGB32);
+        const QImage image =
+            pictures.picture(number, Side, 1).toImage().convertToFormat(QImage::Format_ARGB32);
         seen.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
     }
     EXPECT_EQ(seen.size(), 16U);

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/text.h"
-
 #include "archive/cp1252.h"
+#include "platform/qt/text.h"
 
 #include <gtest/gtest.h>
 
