@@ -15,13 +15,6 @@ int scaled(int twips, float factor) {
 
 } // namespace
 
-Scala scalaPer(Dimensioni nuova, Dimensioni progetto) {
-    const auto ratio = [](int now, int designed) {
-        return static_cast<float>(std::max(now, 1)) / static_cast<float>(std::max(designed, 1));
-    };
-    return {ratio(nuova.width, progetto.width), ratio(nuova.height, progetto.height)};
-}
-
 std::vector<ControlloProgetto> Ctr_Refresh(std::vector<ControlloProgetto> controlli, const Scala& scala) {
     for (ControlloProgetto& controllo : controlli) {
         if (controllo.pulsanteComando) {

@@ -2,23 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/twips.h"
+
 #include <array>
 #include <string_view>
 #include <vector>
 
 namespace planner {
-
-/// Twips per pixel of a 96 dpi screen, on which all design-time positions rest.
-inline constexpr int TwipsPerPixel = 15;
-
-struct Dimensioni {
-    int width, height;
-};
-
-struct Rettangolo {
-    int Left, Top, Width, Height;
-    friend constexpr bool operator==(const Rettangolo&, const Rettangolo&) = default;
-};
 
 /// A control of the planner window as designed, in twips. Names starting with "didascalia" are static
 /// captions.
@@ -28,19 +18,8 @@ struct ControlloProgetto {
     bool pulsanteComando = false; // not scaled: it is placed when the window is activated
 };
 
-/// The planner window's size as designed, in twips.
-inline constexpr Dimensioni ProgettoPlcal{15360, 12300};
-
-/// The factors that turn design-time positions into screen positions.
-struct Scala {
-    float ScalaX = 1, ScalaY = 1;
-
-    /// The smaller of the two.
-    float ScalaMin() const { return ScalaX < ScalaY ? ScalaX : ScalaY; }
-};
-
-/// The ratios of a window's new size to its design-time size. Sizes below one twip count as one.
-Scala scalaPer(Dimensioni nuova, Dimensioni progetto);
+/// The planner window's size as designed: it fills the screen.
+inline constexpr Dimensioni ProgettoPlcal = ProgettoSchermo;
 
 /// Rescales every control but the command buttons.
 std::vector<ControlloProgetto> Ctr_Refresh(std::vector<ControlloProgetto> controlli, const Scala& scala);
