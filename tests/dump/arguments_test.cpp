@@ -31,7 +31,7 @@ TEST(DumpArguments, HelpIsPrintedInItalian) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_TRUE(contains(run.out, "Uso: planner-dump TRANSITO")) << run.out;
     EXPECT_EQ(run.err, "");
-    EXPECT_FALSE(contains(run.out, "--grafico"));
+    EXPECT_TRUE(contains(run.out, "--grafico N")) << run.out;
 }
 
 TEST(DumpArguments, WrongOnesAreExplained) {
@@ -44,10 +44,11 @@ TEST(DumpArguments, WrongOnesAreExplained) {
     expectUsageError({"a", "--\xE8"}, "opzione sconosciuta: \"--\uFFFD\"");
 }
 
-TEST(DumpArguments, ChartsAreRefused) {
-    const SmallOffice office;
-    office.write();
-    expectUsageError({office.transitPath(), "--grafico", "1"}, "opzione sconosciuta: \"--grafico\"");
+TEST(DumpArguments, TheChartsStaffIndexIsAWholeNumberOfSixteenBits) {
+    expectUsageError({"a", "--grafico"}, "dopo --grafico manca l'indice");
+    for (const std::string index : {"", "x", "1x", "1.5", " 1", "+1", "--oggi", "32768", "-32769", "1e3"}) {
+        expectUsageError({"a", "--grafico", index}, "\"" + index + "\" non è un indice");
+    }
 }
 
 TEST(DumpArguments, MissingTransitFileIsAnError) {

@@ -27,6 +27,7 @@ std::map<std::string, FileState> stateOf(const std::filesystem::path& folder) {
 void expectUntouched(const SmallOffice& office, int exitCode) {
     const auto before = stateOf(office.folder());
     EXPECT_EQ(runDump({office.transitPath(), "--oggi", "20251120"}).exitCode, exitCode);
+    EXPECT_EQ(runDump({office.transitPath(), "--grafico", "0"}).exitCode, exitCode);
     EXPECT_EQ(stateOf(office.folder()), before);
 }
 

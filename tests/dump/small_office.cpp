@@ -37,6 +37,13 @@ std::vector<RigaPlanner> marchEntries() {
     return {mixed, withoutHour, unknownCode, concludedOnly, otherMonth};
 }
 
+std::vector<RigaGrafico> springHours() {
+    return {hours("RM", "20060301", "0007:30"), hours("RM", "20060315", "0004:00"),
+            hours("RM", "20060315", "0008:15"), hours("BL", "20060315", "0004:45"),
+            hours("ZZ", "20060315", "0012:00"), hours("VG", "20060403", "0006:00"),
+            hours("RM", "20050315", "0020:00")};
+}
+
 } // namespace
 
 TransitRequest request(std::string_view kind) {
@@ -83,10 +90,20 @@ RigaPlanner& setHours(RigaPlanner& riga, std::string_view hhmm, std::string_view
     return riga;
 }
 
+RigaGrafico hours(std::string_view codice, std::string_view yyyymmdd, std::string_view ore) {
+    RigaGrafico riga;
+    riga.codice.assign(codice);
+    riga.anno.assign(yyyymmdd.substr(0, 4));
+    riga.mese.assign(yyyymmdd.substr(4, 2));
+    riga.giorno.assign(yyyymmdd.substr(6, 2));
+    riga.ore.front().assign(ore);
+    return riga;
+}
+
 SmallOffice::SmallOffice()
     : collaboratori{person("RM", "Rossi Mario", "Avvocato"), person("BL", "Bianchi Lucia", "Segretaria"),
                     person("VG", "Verdi Gino", "")},
-      righe(marchEntries()) {
+      righe(marchEntries()), grafici(springHours()) {
     for (MesePlanner& mese : mesi) {
         mese.anno.assign("2006");
     }
@@ -99,6 +116,7 @@ void SmallOffice::write() const {
     writeFile("wcollab", joined(collaboratori));
     writeFile("wrighipl", joined(righe));
     writeFile("wplanner", joined(mesi));
+    writeFile("wgrafici", joined(grafici));
 }
 
 void SmallOffice::writeFile(std::string_view name, std::string_view bytes) const {
@@ -118,10 +136,24 @@ nlohmann::ordered_json SmallOffice::dump() const {
 }
 
 nlohmann::ordered_json SmallOffice::dumpAsItIs() const {
-    const DumpRun run = runDump({transitPath(), "--oggi", "20251120"});
-    EXPECT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(run.err, "");
-    return run.json();
+    return run({});
+}
+
+nlohmann::ordered_json SmallOffice::dumpWithChart(std::string_view index) const {
+    write();
+    return dumpWithChartAsItIs(index);
+}
+
+nlohmann::ordered_json SmallOffice::dumpWithChartAsItIs(std::string_view index) const {
+    return run({"--grafico", std::string(index)});
+}
+
+nlohmann::ordered_json SmallOffice::run(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {transitPath(), "--oggi", "20251120"});
+    const DumpRun result = runDump(arguments);
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    return result.json();
 }
 
 std::optional<nlohmann::ordered_json> findCell(const nlohmann::ordered_json& dump, int row, int column) {

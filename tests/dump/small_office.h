@@ -27,6 +27,9 @@ RigaPlanner& setCounter(RigaPlanner& riga, std::size_t number, std::string_view 
 /// Start as hhmm and length as seven characters.
 RigaPlanner& setHours(RigaPlanner& riga, std::string_view hhmm, std::string_view durata);
 
+/// The hours that one staff member worked on one day, as seven characters.
+RigaGrafico hours(std::string_view codice, std::string_view yyyymmdd, std::string_view ore);
+
 /// An office of three people with a few entries in March 2006, in a folder of its own.
 class SmallOffice {
 public:
@@ -36,6 +39,7 @@ public:
     std::vector<Collaboratore> collaboratori;
     std::vector<RigaPlanner> righe;
     std::array<MesePlanner, 12> mesi;
+    std::vector<RigaGrafico> grafici;
 
     /// The folder, with a separator at its end, as it stands in messages.
     std::string folder() const { return m_folder.path().string() + "/"; }
@@ -52,8 +56,13 @@ public:
     nlohmann::ordered_json dump() const;
     /// The same on the files as they stand.
     nlohmann::ordered_json dumpAsItIs() const;
+    /// Writes everything and runs planner-dump with a chart, `index` being the staff member selected.
+    nlohmann::ordered_json dumpWithChart(std::string_view index) const;
+    nlohmann::ordered_json dumpWithChartAsItIs(std::string_view index) const;
 
 private:
+    nlohmann::ordered_json run(std::vector<std::string> arguments) const;
+
     TemporaryFolder m_folder;
 };
 

@@ -117,6 +117,22 @@ Json describeMessages(const std::vector<Message>& messages) {
     return list;
 }
 
+Json describeSeries(const std::vector<SerieGrafico>& series) {
+    Json list = Json::array();
+    for (const SerieGrafico& each : series) {
+        list.push_back({{"etichetta", utf8FromCp1252(each.etichetta)}, {"valori", each.valori}});
+    }
+    return list;
+}
+
+Json describeTexts(const std::vector<std::string>& texts) {
+    Json list = Json::array();
+    for (const std::string& text : texts) {
+        list.push_back(utf8FromCp1252(text));
+    }
+    return list;
+}
+
 } // namespace
 
 Json describe(const Snapshot& snapshot) {
@@ -131,6 +147,16 @@ Json describe(const Snapshot& snapshot) {
         {"totali", snapshot.sessione.TotaliImpegni.righe()},
         {"pulsanti", describeButtons(controlli.Toolbar1)},
         {"messaggi", describeMessages(snapshot.messaggi)}};
+}
+
+Json describeChart(const std::optional<Grafico>& grafico) {
+    if (!grafico) {
+        return nullptr;
+    }
+    return {{"titolo", utf8FromCp1252(grafico->TitleText)},   {"asseX", utf8FromCp1252(grafico->asseX)},
+            {"asseY", utf8FromCp1252(grafico->asseY.titolo)}, {"serie", describeSeries(grafico->serie)},
+            {"etichette", describeTexts(grafico->etichette)}, {"massimo", grafico->asseY.Maximum},
+            {"divisioni", grafico->asseY.MajorDivision}};
 }
 
 std::string toText(const Json& object) {

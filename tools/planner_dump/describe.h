@@ -12,6 +12,9 @@ namespace planner {
 /// UTF-8; message texts go in as they are, so that a path in one of them may hold any bytes.
 nlohmann::ordered_json describe(const Snapshot& snapshot);
 
+/// The chart as one JSON object, null for none.
+nlohmann::ordered_json describeChart(const std::optional<Grafico>& grafico);
+
 /// The object as text, a new line at its end. Always valid UTF-8: bytes that are not come out as U+FFFD.
 std::string toText(const nlohmann::ordered_json& object);
 

@@ -37,10 +37,14 @@ int dump(const Options& options) {
         return fail("il file di transito " + inQuotes(options.transitPath) + " manca o non si può leggere",
                     ExitFailed);
     }
-    const Data today = options.oggi ? *options.oggi : SystemClock().today();
+    const Utente utente{options.oggi ? *options.oggi : SystemClock().today(), options.grafico};
     const auto snapshot = std::make_unique<Snapshot>(); // too large for a stack
-    serveRequest(richiesta, folderOf(options.transitPath), today, *snapshot);
-    const bool printed = print(stdout, toText(describe(*snapshot)));
+    serveRequest(richiesta, folderOf(options.transitPath), utente, *snapshot);
+    auto object = describe(*snapshot);
+    if (options.grafico) {
+        object["grafico"] = describeChart(snapshot->grafico);
+    }
+    const bool printed = print(stdout, toText(object));
     return printed ? ExitDone : fail("l'uscita non si può scrivere", ExitFailed);
 }
 

@@ -5,7 +5,9 @@
 #include "host/command_line.h"
 #include "in_quotes.h"
 
+#include <charconv>
 #include <string_view>
+#include <system_error>
 
 namespace planner {
 
@@ -39,6 +41,19 @@ Data readToday(Reader& reader) {
     return *data;
 }
 
+std::int16_t readStaffIndex(Reader& reader) {
+    if (reader.done()) {
+        throw UsageError("dopo --grafico manca l'indice del collaboratore");
+    }
+    const std::string_view text = reader.next();
+    std::int16_t index = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), index);
+    if (error != std::errc{} || end != text.data() + text.size()) {
+        throw UsageError(inQuotes(text) + " non è un indice fra -32768 e 32767");
+    }
+    return index;
+}
+
 /// The path passes through the rules of the planner's own command line, and so means the same file.
 void setTransitPath(Options& options, std::string_view argument) {
     if (!options.transitPath.empty()) {
@@ -52,6 +67,8 @@ void readArgument(Options& options, std::string_view argument, Reader& reader) {
         options.help = true;
     } else if (argument == "--oggi") {
         options.oggi = readToday(reader);
+    } else if (argument == "--grafico") {
+        options.grafico = readStaffIndex(reader);
     } else if (argument.starts_with("--")) {
         throw UsageError("opzione sconosciuta: " + inQuotes(argument));
     } else {
@@ -73,12 +90,15 @@ Options parseOptions(std::span<const char* const> arguments) {
     return options;
 }
 
-const char* const HelpText = R"(Uso: planner-dump TRANSITO [--oggi AAAAMMGG]
+const char* const HelpText = R"(Uso: planner-dump TRANSITO [--grafico N] [--oggi AAAAMMGG]
 
 Legge la richiesta nel file TRANSITO e gli archivi della stessa cartella come il
 planner, e scrive sull'uscita un oggetto JSON con tutto ciò che la finestra
 mostrerebbe. Non apre finestre e non scrive alcun file.
 
+  --grafico N      aggiunge il grafico delle ore che si aprirebbe con il
+                   collaboratore N selezionato: il primo è 0, un numero
+                   negativo è nessuno; null se non se ne aprirebbe alcuno
   --oggi AAAAMMGG  la data da prendere come oggi; altrimenti quella del sistema
   --help           questo testo
 

@@ -4,6 +4,7 @@
 
 #include "engine/session/dates.h"
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <stdexcept>
@@ -22,6 +23,7 @@ struct Options {
     bool help = false;
     std::string transitPath; // as the host's command line would give it
     std::optional<Data> oggi;
+    std::optional<std::int16_t> grafico; // the selected staff index, negative for none; nothing: no chart
 };
 
 /// Reads the arguments that follow the program's name. Throws UsageError.

@@ -3,6 +3,8 @@
 #include "snapshot.h"
 
 #include "engine/clsplg.h"
+#include "engine/guard.h"
+#include "forms/plfgraf/visualizza_grafico.h"
 #include "platform/posix/file_descriptor.h"
 #include "quiet_ports.h"
 
@@ -11,6 +13,32 @@
 #include <fcntl.h>
 
 namespace planner {
+
+namespace {
+
+void serve(clsplg& engine, const TransitRequest& richiesta, const std::string& folder) {
+    std::string tipoplanner = richiesta.tipoplanner.text();
+    std::string collab = richiesta.collab.text();
+    std::string valret = richiesta.valret.text();
+    std::string Windowcaption = richiesta.Windowcaption.text();
+    std::string planrichiesto = richiesta.planrichiesto.text();
+    engine.WPlanner(tipoplanner, richiesta.startdate.text(), richiesta.enddate.text(), folder,
+                    richiesta.tipocall.text(), collab, valret, Windowcaption, planrichiesto);
+}
+
+/// What the command for charts does, up to where the chart would appear.
+void openChart(clsplg& engine, std::int16_t collab, MessageBoxes& messages, Snapshot& snapshot) {
+    engine.LeggiDatiPerGrafici();
+    const ControlliPlcal& controlli = snapshot.controlli;
+    plfgraf form(snapshot.sessione.archivi, controlli.calendario);
+    runCommand(messages, [&] {
+        if (visualizzaGrafico(form, controlli.tipoVisibile, collab, messages)) {
+            snapshot.grafico = *form.visibile();
+        }
+    });
+}
+
+} // namespace
 
 TransitRequest readTransitFile(const std::string& path) {
     std::array<char, sizeof(TransitRequest)> bytes;
@@ -21,22 +49,19 @@ TransitRequest readTransitFile(const std::string& path) {
     return std::bit_cast<TransitRequest>(bytes);
 }
 
-void serveRequest(const TransitRequest& richiesta, const std::string& folder, Data oggi, Snapshot& snapshot) {
+void serveRequest(const TransitRequest& richiesta, const std::string& folder, const Utente& utente,
+                  Snapshot& snapshot) {
     snapshot.richiesta = richiesta;
     HiddenWindow window;
     ReadOnlyFileSystem files;
     MessageLog messages(snapshot.messaggi);
     ImmediateEnd events(snapshot.sessione);
-    const FixedClock clock(oggi);
+    const FixedClock clock(utente.oggi);
     clsplg engine({snapshot.sessione, snapshot.controlli, window, files, messages, events, clock});
-
-    std::string tipoplanner = richiesta.tipoplanner.text();
-    std::string collab = richiesta.collab.text();
-    std::string valret = richiesta.valret.text();
-    std::string Windowcaption = richiesta.Windowcaption.text();
-    std::string planrichiesto = richiesta.planrichiesto.text();
-    engine.WPlanner(tipoplanner, richiesta.startdate.text(), richiesta.enddate.text(), folder,
-                    richiesta.tipocall.text(), collab, valret, Windowcaption, planrichiesto);
+    serve(engine, richiesta, folder);
+    if (utente.grafico) {
+        openChart(engine, *utente.grafico, messages, snapshot);
+    }
 }
 
 } // namespace planner

@@ -4,9 +4,12 @@
 
 #include "engine/controls.h"
 #include "engine/session/modpl.h"
+#include "forms/plfgraf/grafico.h"
 #include "host/transit_request.h"
 #include "platform/ports/message_boxes.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,13 +22,21 @@ struct Snapshot {
     modpl sessione;
     ControlliPlcal controlli;
     std::vector<Message> messaggi;
+    std::optional<Grafico> grafico; // nothing when none would be shown
+};
+
+/// The user's part in a request.
+struct Utente {
+    Data oggi;
+    std::optional<std::int16_t> grafico; // opens the charts with this staff member selected
 };
 
 /// Reads the transit file's record without touching the file; a shorter file leaves blanks. Throws FileError.
 TransitRequest readTransitFile(const std::string& path);
 
-/// Serves the request as the planner would, on the archives in `folder` and with `oggi` as today, and leaves
-/// the result in `snapshot`, which must be fresh. No file is written.
-void serveRequest(const TransitRequest& richiesta, const std::string& folder, Data oggi, Snapshot& snapshot);
+/// Serves the request as the planner would, on the archives in `folder`, and leaves the result in `snapshot`,
+/// which must be fresh. No file is written.
+void serveRequest(const TransitRequest& richiesta, const std::string& folder, const Utente& utente,
+                  Snapshot& snapshot);
 
 } // namespace planner

@@ -5,17 +5,21 @@
 #include "sample_archive/digits.h"
 #include "sample_archive/sample_random.h"
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
 
 constexpr int QuartoDora = 15;
+constexpr int MinutiMassimi =
+    9 * 60 + 45; // from ten hours on the yearly chart's axis would go up to a hundred
 
 /// Around the contract's hours; more when a deadline is near, now and then only half a day.
 int minutesWorked(int contratto, int pressione, SampleRandom& random) {
     const bool halfDay = random.chance(10);
-    const int percent = halfDay ? random.between(40, 65) : random.between(80, 120) + pressione / 5;
-    return contratto * percent / 100 / QuartoDora * QuartoDora;
+    const int percent = halfDay ? random.between(40, 65) : random.between(75, 105) + pressione / 8;
+    return std::min(contratto * percent / 100 / QuartoDora * QuartoDora, MinutiMassimi);
 }
 
 RigaGrafico hoursRecord(const Collaboratore& collaboratore, Data data, int minutes) {

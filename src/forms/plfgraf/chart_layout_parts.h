@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plfgraf/chart_layout.h"
+
+namespace planner {
+
+/// Blank space between the parts of a chart, in pixels.
+inline constexpr double ChartGap = 8;
+
+/// What the two kinds of chart are laid out with.
+struct ChartLayoutTask {
+    const Grafico& grafico;
+    const MeasureText& measure;
+    ChartArea body; // what title and legend leave
+    ChartLayout& layout;
+
+    /// Adds a text centred on `centre`, as large as it is.
+    void addText(ChartTextRole role, const std::string& text, ChartPoint centre) const;
+    double lineHeight(ChartTextRole role) const { return measure(role, "0").height; }
+    /// The label of a value along the X axis or beside its slice, UTF-8: the one of its row, or of its series
+    /// where there are several.
+    std::string labelOf(std::size_t number) const;
+};
+
+/// Axes, grid lines, bars and their values.
+void layoutBars(const ChartLayoutTask& task);
+
+/// Slices, and their labels with lines to them.
+void layoutPie(const ChartLayoutTask& task);
+
+/// Every how many labels one can stand, of labels `size` long at places `spacing` apart: 1, 2, 5, 10, 20, …
+std::size_t labelStep(double size, double spacing);
+
+} // namespace planner

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plfgraf/chart_samples.h"
+
+#include <gmock/gmock.h>
+
+namespace planner::test {
+namespace {
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+std::vector<double> workedDays(std::size_t count) {
+    std::vector<double> values;
+    for (std::size_t day = 0; day < count; ++day) {
+        values.push_back(day % 7 < 5 ? 6 + static_cast<double>(day % 5) * 0.75 : 0);
+    }
+    return values;
+}
+
+TEST(BarLayout, GivesEveryValueAnEqualSlotOfThePlot) {
+    const ChartLayout layout = layoutOf(oneSeries({1, 2, 3, 4}, 4));
+    ASSERT_THAT(layout.bars, SizeIs(4));
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_DOUBLE_EQ(layout.bars[i].slot.width, layout.plot.width / 4);
+        EXPECT_DOUBLE_EQ(layout.bars[i].slot.centre().x, layout.bars[i].area.centre().x);
+    }
+    EXPECT_NEAR(layout.bars.back().slot.right(), layout.plot.right(), 1e-6);
+}
+
+TEST(BarLayout, BarsStandOnTheAxisAndAreAsHighAsTheirValues) {
+    const ChartLayout layout = layoutOf(oneSeries({0, 2, 8}, 8));
+    EXPECT_DOUBLE_EQ(layout.bars[0].area.height, 0);
+    EXPECT_DOUBLE_EQ(layout.bars[1].area.height, layout.plot.height / 4);
+    EXPECT_DOUBLE_EQ(layout.bars[2].area.y, layout.plot.y);
+    for (const ChartBar& bar : layout.bars) {
+        EXPECT_NEAR(bar.area.bottom(), layout.plot.bottom(), 1e-6);
+    }
+}
+
+TEST(BarLayout, AValueBeyondTheAxisEndsAtItsTop) {
+    const ChartLayout layout = layoutOf(oneSeries({9.5}, 8));
+    EXPECT_DOUBLE_EQ(layout.bars[0].area.y, layout.plot.y);
+}
+
+TEST(BarLayout, ANegativeValueHasNoHeightAndItsValueWritten) {
+    const ChartLayout layout = layoutOf(oneSeries({-2}, 8));
+    EXPECT_DOUBLE_EQ(layout.bars[0].area.height, 0);
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("-2:00"));
+}
+
+TEST(BarLayout, AnAxisWhoseMaximumIs0IsStillDrawn) {
+    const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(31, 0), 0));
+    EXPECT_THAT(layout.majorLines, ElementsAre(layout.plot.bottom()));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), SizeIs(1 + 31));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), Each("0:00"));
+}
+
+TEST(BarLayout, AValueOnAnAxisThatEndsAt0FillsThePlot) {
+    const ChartLayout layout = layoutOf(oneSeries({0.5}, 0));
+    EXPECT_DOUBLE_EQ(layout.bars[0].area.height, layout.plot.height);
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("0:30"));
+}
+
+TEST(BarLayout, TheValueOfABarThatReachesTheTopStandsAboveItInsideTheFrame) {
+    const ChartLayout layout = layoutOf(oneSeries({8}, 8));
+    ASSERT_EQ(layout.texts.back().text, "8:00");
+    EXPECT_LE(layout.texts.back().area.bottom(), layout.bars[0].area.y);
+    EXPECT_GE(layout.texts.back().area.y, layout.frame.y);
+}
+
+TEST(BarLayout, HasALineAndALabelForEachMajorDivision) {
+    const ChartLayout layout = layoutOf(oneSeries({7.5}, 8));
+    ASSERT_THAT(layout.majorLines, SizeIs(9));
+    EXPECT_DOUBLE_EQ(layout.majorLines.front(), layout.plot.bottom());
+    EXPECT_NEAR(layout.majorLines.back(), layout.plot.y, 1e-6);
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel),
+                ElementsAre("0", "1", "2", "3", "4", "5", "6", "7", "8", "1"));
+}
+
+TEST(BarLayout, LabelsOfTheYearlyAxisAreATenthOfItsMaximumApart) {
+    const std::vector<std::string> labels =
+        textsOf(layoutOf(twelveSeries(std::vector<double>(12, 50))), ChartTextRole::axisLabel);
+    EXPECT_THAT(std::vector(labels.begin(), labels.begin() + 11),
+                ElementsAre("0", "10", "20", "30", "40", "50", "60", "70", "80", "90", "100"));
+}
+
+TEST(BarLayout, DivisionsOfALongAxisThinOut) {
+    const ChartLayout layout = layoutOf(oneSeries({29'000}, 31'900));
+    EXPECT_LE(layout.majorLines.size(), 50U);
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), Contains("2000"));
+    EXPECT_THAT(coveredTexts(layout), IsEmpty());
+}
+
+TEST(BarLayout, OnePartInEachMajorDivisionNeedsNoMinorLine) {
+    EXPECT_THAT(layoutOf(oneSeries({7}, 8)).minorLines, IsEmpty());
+}
+
+TEST(BarLayout, MinorLinesPartTheMajorDivisions) {
+    Grafico grafico = oneSeries({2}, 2);
+    grafico.asseY.MinorDivision = 2;
+    const ChartLayout layout = layoutOf(grafico);
+    const double quarter = layout.plot.height / 4;
+    EXPECT_THAT(layout.minorLines, ElementsAre(testing::DoubleEq(layout.plot.bottom() - quarter),
+                                               testing::DoubleEq(layout.plot.bottom() - 3 * quarter)));
+}
+
+TEST(BarLayout, AMonthShowsEveryDayAndEveryValueOnAnOfficeScreen) {
+    const ChartLayout layout = layoutOf(oneSeries(workedDays(31), 10));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(31));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), SizeIs(11 + 31));
+    EXPECT_THAT(coveredTexts(layout), IsEmpty());
+}
+
+TEST(BarLayout, SeveralSeriesHaveTheirNamesUnderTheirBars) {
+    const ChartLayout layout = layoutOf(twelveSeries(std::vector<double>(12, 50)));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), Contains("M12"));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::legend), SizeIs(12));
+}
+
+TEST(BarLayout, LabelsAndValuesOf500BarsThinOutInsteadOfOverlapping) {
+    const ChartLayout layout = layoutOf(oneSeries(workedDays(500), 10));
+    EXPECT_THAT(layout.bars, SizeIs(500));
+    EXPECT_THAT(coveredTexts(layout), IsEmpty());
+    EXPECT_GE(textsOf(layout, ChartTextRole::value).size(), 20U);
+    EXPECT_GE(textsOf(layout, ChartTextRole::axisLabel).size(), 11U + 20U);
+}
+
+TEST(BarLayout, NoTextCoversAnotherAtAnySizeOfTheWindow) {
+    const Grafico grafico = oneSeries(workedDays(31), 10);
+    for (double width = 460; width < 2000; width += 37) {
+        EXPECT_THAT(coveredTexts(layoutOf(grafico, {width, width * 0.6})), IsEmpty()) << width;
+    }
+}
+
+TEST(BarLayout, ADayWithoutStaffIsAnEmptyPlot) {
+    const ChartLayout layout = layoutOf(oneSeries({}, 0));
+    EXPECT_THAT(layout.bars, IsEmpty());
+    EXPECT_THAT(layout.majorLines, SizeIs(1));
+}
+
+} // namespace
+} // namespace planner::test
