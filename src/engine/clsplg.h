@@ -5,6 +5,7 @@
 #include "engine/controls.h"
 #include "engine/motore.h"
 #include "engine/session/modpl.h"
+#include "engine/staff_list.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/event_pump.h"
 #include "platform/ports/file_system.h"
@@ -51,6 +52,10 @@ public:
     void LeggiDatiAnnuali();
     bool LeggiCollab();
     void LeggiDatiPerGrafici();
+
+    /// Fills the selection list: one row per staff member, in the order of the archive, none checked, none
+    /// selected, not sorted.
+    void PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const;
 
     /// Weekday of the first day of the shown month, into the session.
     void Dayofweek();

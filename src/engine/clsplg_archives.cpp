@@ -5,6 +5,9 @@
 #include "archive/runtime_errors.h"
 #include "engine/clsplg.h"
 
+#include <algorithm>
+#include <span>
+
 namespace planner {
 
 namespace {
@@ -62,6 +65,17 @@ bool clsplg::LeggiCollab() {
 void clsplg::LeggiDatiPerGrafici() {
     const std::string path = archivePath(FileGrafici);
     trap(m.messaggi, "Errore sul File :", path, [&] { readRigheGrafici(m.files, path, m.sessione.archivi); });
+}
+
+void clsplg::PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const {
+    List_Prenotazione.svuota();
+    const std::vector<Collaboratore>& staff = m.sessione.archivi.Collaboratori;
+    // The table's last element lies beyond the file's end.
+    const auto count = std::min(static_cast<std::size_t>(m.sessione.archivi.NumCollab), staff.size());
+    for (const Collaboratore& collaboratore : std::span(staff).first(count)) {
+        List_Prenotazione.aggiungi(collaboratore.codice.view(), collaboratore.nome.view(),
+                                   collaboratore.mansione.view());
+    }
 }
 
 std::int16_t clsplg::IndCollaboratore(std::string_view codice) const {

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/plcal.h"
-#include "forms/plcal/plcal_window.h"
-#include "forms/plfimp/plfimp_dialog.h"
+#include "forms/planner_windows.h"
 #include "host/ftavtrmpl.h"
 #include "host/mtavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
@@ -64,15 +62,11 @@ int main(int argc, char* argv[]) {
 
     modpl sessione;
     ControlliPlcal controlli;
-    PlcalWindow vista(sessione, controlli);
     std::function<std::unique_ptr<clsplg>()> newEngine;
-    PlfimpDialog finestraImpegno;
-    plcal finestra(sessione, controlli, {vista, messaggi, finestraImpegno},
-                   [&newEngine] { return newEngine(); });
-    vista.setForm(finestra);
+    PlannerWindows finestre(sessione, controlli, messaggi, [&newEngine] { return newEngine(); });
     newEngine = [&] {
         return std::make_unique<clsplg>(
-            Ambiente{sessione, controlli, finestra, files, messaggi, eventi, orologio});
+            Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});
     };
 
     const RigaComando riga = parseCommandLine(line);

@@ -56,6 +56,21 @@ void FakeMotore::WPlanner(std::string& tipoplanner, const std::string& startdate
     planrichiesto = call.planrichiesto;
 }
 
+std::optional<std::string> FakeVistaPlfcollab::chiediTesto(std::string_view titolo,
+                                                           const std::string& iniziale) {
+    m_journal.push_back("ask [" + std::string(titolo) + "]");
+    offerti.push_back(iniziale);
+    return risposta;
+}
+
+std::string PlainCollation::folded(std::string_view text) const {
+    std::string lower(text);
+    for (char& c : lower) {
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return lower;
+}
+
 void FakeVista::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {
     m_journal.push_back("lay out");
     placed = controlli;

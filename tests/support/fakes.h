@@ -5,8 +5,12 @@
 #include "engine/motore.h"
 #include "engine/session/dates.h"
 #include "forms/plcal/vista_plcal.h"
+#include "forms/plfcollab/vista_plfcollab.h"
+#include "forms/plfgraf/finestra_grafici.h"
+#include "forms/plfgraf/plfgraf.h"
 #include "forms/plfimp/plfimp.h"
 #include "platform/ports/clock.h"
+#include "platform/ports/collation.h"
 #include "platform/ports/event_pump.h"
 #include "platform/ports/host_ipc.h"
 #include "platform/ports/message_boxes.h"
@@ -173,6 +177,47 @@ public:
 
     std::function<void(plfimp&)> user;
     int asked = 0;
+};
+
+/// The chart window: keeps the charts that it was to show.
+class FakeFinestraGrafici : public FinestraGrafici {
+public:
+    void mostra(plfgraf& form) override { shown.push_back(*form.visibile()); }
+
+    std::vector<Grafico> shown;
+};
+
+/// The staff window's widgets: a list that shows ten rows from `primaRiga` on, and a user who answers the
+/// question for a text with `risposta`.
+class FakeVistaPlfcollab : public VistaPlfcollab {
+public:
+    explicit FakeVistaPlfcollab(Journal& journal) : m_journal(journal) {}
+    void mostra() override { m_journal.push_back("show staff"); }
+    void nascondi() override { m_journal.push_back("hide staff"); }
+    void aggiornaRighe() override { m_journal.push_back("staff rows"); }
+    void aggiorna() override { m_journal.push_back("update staff"); }
+    void portaInVista(int riga) override {
+        m_journal.push_back("staff row in sight " + std::to_string(riga));
+    }
+    int primaRigaVisibile() const override { return primaRiga; }
+    int righePerPagina() const override { return righe; }
+    void scorriA(int riga) override { primaRiga = riga; }
+    std::optional<std::string> chiediTesto(std::string_view titolo, const std::string& iniziale) override;
+
+    int primaRiga = 0;
+    int righe = 10;
+    std::optional<std::string> risposta;
+    std::vector<std::string> offerti; // what each question offered to start from
+
+private:
+    Journal& m_journal;
+};
+
+/// Byte order and no folding but that of ASCII letters.
+class PlainCollation : public Collation {
+public:
+    int compare(std::string_view a, std::string_view b) const override { return a.compare(b); }
+    std::string folded(std::string_view text) const override;
 };
 
 } // namespace planner::test

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "ui/modal_dialog.h"
 #include "ui/window_bench.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -19,20 +19,8 @@ namespace {
 struct DialogsTest : testing::Test {
     WindowBench bench;
 
-    /// Opens a modal dialog with `open` and has `user` act on it as soon as it stands.
-    void withDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& user) {
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                poll.stop();
-                user(*dialog);
-            }
-        });
-        poll.start(1);
-        open();
-    }
     void insertEntry(const std::function<void(QDialog&)>& user) {
-        withDialog([this] { bench.key(Qt::Key_N, Qt::ControlModifier); }, user);
+        whileModal([this] { bench.key(Qt::Key_N, Qt::ControlModifier); }, user);
     }
 };
 
@@ -84,7 +72,7 @@ TEST_F(DialogsTest, TheArrowKeysChooseInTheDialog) {
 TEST_F(DialogsTest, F1ShowsNameVersionAndEveryPicturesMeaning) {
     bench.open("M");
     QStringList texts;
-    withDialog([this] { bench.key(Qt::Key_F1); },
+    whileModal([this] { bench.key(Qt::Key_F1); },
                [&](QDialog& dialog) {
                    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
                        EXPECT_EQ(label->textFormat(), Qt::PlainText);

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/planner_windows.h"
 #include "forms/plcal/grid_view.h"
-#include "forms/plcal/plcal.h"
-#include "forms/plcal/plcal_window.h"
-#include "forms/plfimp/plfimp_dialog.h"
 #include "support/planner_bench.h"
 
 #include <QString>
@@ -15,13 +13,9 @@ namespace planner::test {
 /// The real planner window over archives in memory: what `main` wires, without host and transit file.
 struct WindowBench {
     PlannerBench base;
-    PlcalWindow vista{base.sessione, base.controlli};
-    PlfimpDialog finestraImpegno;
-    plcal finestra{base.sessione, base.controlli, {vista, base.messaggi, finestraImpegno}, [this] {
-                       return newEngine();
-                   }};
-
-    WindowBench() { vista.setForm(finestra); }
+    PlannerWindows finestre{base.sessione, base.controlli, base.messaggi, [this] { return newEngine(); }};
+    PlcalWindow& vista = finestre.vista;
+    plcal& finestra = finestre.finestra;
 
     std::unique_ptr<clsplg> newEngine();
 

@@ -33,14 +33,14 @@ struct DescrizionePulsante {
 /// The buttons in their order; the positions between them are separators.
 inline constexpr std::array PulsantiToolbar{
     DescrizionePulsante{Pulsante::exit, "exit", "Uscita", "Ctrl+Q"},
-    DescrizionePulsante{Pulsante::coll, "coll", "Selezione Collaboratori", ""},
+    DescrizionePulsante{Pulsante::coll, "coll", "Selezione Collaboratori", "Ctrl+L"},
     DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", ""},
     DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", ""},
     DescrizionePulsante{Pulsante::consult, "consult", "Consultazione", ""},
     DescrizionePulsante{Pulsante::insimp, "insimp", "Inserimento impegni", "Ctrl+N"},
     DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", ""},
     DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", ""},
-    DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", ""},
+    DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", "Ctrl+G"},
     DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
 };
 

@@ -2,42 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/command_bar.h"
 
-#include "platform/qt/appearance.h"
 #include "platform/qt/text.h"
+#include "platform/qt/tool_commands.h"
 
 #include <QAction>
-#include <QToolButton>
 
 namespace planner {
 
-namespace {
-
-constexpr int IconSide = 24;
-
-/// A caption of two words stands on two lines, so that the buttons stay narrow.
-QString buttonText(std::string_view caption) {
-    QString text = fromUtf8(caption);
-    const qsizetype blank = text.indexOf(QLatin1Char(' '));
-    return blank < 0 ? text + QLatin1Char('\n') : text.replace(blank, 1, QLatin1Char('\n'));
-}
-
-QString tipText(const DescrizionePulsante& described) {
-    const QString caption = fromUtf8(described.didascalia);
-    return described.scorciatoia.empty()
-               ? caption
-               : caption + QStringLiteral(" (") + fromUtf8(described.scorciatoia) + QLatin1Char(')');
-}
-
-} // namespace
-
-CommandBar::CommandBar(const std::function<bool(Pulsante)>& available, QWidget* parent) : QToolBar(parent) {
+CommandBar::CommandBar(QWidget* parent) : QToolBar(parent) {
     setObjectName(QStringLiteral("Toolbar1"));
-    setMovable(false);
-    setIconSize(QSize(IconSide, IconSide));
-    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setUpToolBar(*this);
     for (const DescrizionePulsante& described : PulsantiToolbar) {
         addCommand(described);
-        m_comandi.back().available = available(described.posizione);
     }
 }
 
@@ -47,18 +23,14 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
     if (afterSeparator && !m_comandi.empty()) {
         addSeparator();
     }
-    QAction* action = addAction(qtIcon(described.chiave), fromUtf8(described.didascalia));
-    action->setObjectName(fromUtf8(described.chiave));
-    action->setIconText(buttonText(described.didascalia));
-    action->setToolTip(tipText(described));
+    QAction* action = addToolCommand(
+        *this, {fromUtf8(described.chiave), described.didascalia, described.chiave, described.scorciatoia});
     action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
-    widgetForAction(action)->setAccessibleName(fromUtf8(described.didascalia));
-    widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     connect(action, &QAction::triggered, this, [this, &described] {
         Q_EMIT ButtonClick(
             QByteArray(described.chiave.data(), static_cast<qsizetype>(described.chiave.size())));
     });
-    m_comandi.push_back({described.posizione, action, false});
+    m_comandi.push_back({described.posizione, action});
 }
 
 QAction* CommandBar::command(Pulsante pulsante) const {
@@ -72,7 +44,7 @@ QAction* CommandBar::command(Pulsante pulsante) const {
 
 void CommandBar::update(const StatoToolbar& stato) {
     for (const Comando& comando : m_comandi) {
-        comando.action->setEnabled(comando.available && stato.enabled(comando.pulsante));
+        comando.action->setEnabled(stato.enabled(comando.pulsante));
         comando.action->setVisible(stato.visible(comando.pulsante));
     }
 }

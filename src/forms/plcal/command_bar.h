@@ -6,7 +6,6 @@
 
 #include <QToolBar>
 
-#include <functional>
 #include <vector>
 
 namespace planner {
@@ -15,8 +14,7 @@ namespace planner {
 class CommandBar : public QToolBar {
     Q_OBJECT
 public:
-    /// `available` tells which commands there are; the others stay disabled.
-    CommandBar(const std::function<bool(Pulsante)>& available, QWidget* parent);
+    explicit CommandBar(QWidget* parent);
 
     /// Shows which commands can be used.
     void update(const StatoToolbar& stato);
@@ -31,7 +29,6 @@ private:
     struct Comando {
         Pulsante pulsante;
         QAction* action;
-        bool available;
     };
     std::vector<Comando> m_comandi;
 };

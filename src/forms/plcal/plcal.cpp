@@ -36,11 +36,13 @@ void plcal::unload() {
         return;
     }
     Form_Unload();
+    m_porte.collaboratori.unload();
     m_loaded = m_sessione.risposta('F'); // the filters keep the window ready for the next request
     m_porte.vista.nascondi();
 }
 
 void plcal::hide() {
+    m_porte.collaboratori.unload();
     m_porte.vista.nascondi();
 }
 

@@ -6,6 +6,8 @@
 #include "forms/plcal/panel.h"
 #include "forms/plcal/row_marks.h"
 #include "forms/plcal/vista_plcal.h"
+#include "forms/plfcollab/plfcollab.h"
+#include "forms/plfgraf/finestra_grafici.h"
 #include "forms/plfimp/plfimp.h"
 #include "platform/ports/planner_window.h"
 
@@ -25,6 +27,8 @@ public:
         VistaPlcal& vista;
         MessageBoxes& messaggi;
         FinestraImpegno& finestraImpegno;
+        plfcollab& collaboratori;
+        FinestraGrafici& finestraGrafici;
     };
 
     plcal(modpl& sessione, ControlliPlcal& controlli, const Porte& porte, FabbricaMotore fabbrica);
@@ -69,8 +73,6 @@ public:
     // Toolbar.
     /// Acts on the key of a button; a key that is not in the table does nothing.
     void Toolbar1_ButtonClick(std::string_view chiave);
-    /// True for the commands that there are.
-    static bool comandoDisponibile(Pulsante pulsante);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
 
@@ -108,6 +110,8 @@ private:
     void consult();
     bool canConsult() const;
     void insimp();
+    void showStaffList();
+    void showChart();
     void setDettagliato(bool dettagliato);
 
     modpl& m_sessione;

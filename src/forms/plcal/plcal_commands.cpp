@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/plcal_guard.h"
 #include "forms/plcal/yearly_day.h"
+#include "forms/plfgraf/plfgraf.h"
+#include "forms/plfgraf/visualizza_grafico.h"
 
 namespace planner {
-
-bool plcal::comandoDisponibile(Pulsante pulsante) {
-    return pulsante != Pulsante::coll && pulsante != Pulsante::grafici;
-}
 
 void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     if (chiave == "exit") {
         unload();
+    } else if (chiave == "coll") {
+        showStaffList();
     } else if (chiave == "filtri") {
         m_sessione.valret = composedReply("F");
         unload();
@@ -25,6 +25,8 @@ void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
         insimp();
     } else if (chiave == "dettno" || chiave == "dettsi") {
         setDettagliato(chiave == "dettsi");
+    } else if (chiave == "grafici") {
+        esegui([&] { showChart(); });
     } else if (chiave == "info") {
         m_porte.vista.mostraInformazioni();
     }
@@ -68,6 +70,19 @@ void plcal::insimp() {
     m_porte.finestraImpegno.chiedi(form);
     if (!form.risposta().empty()) {
         reply(form.risposta());
+    }
+}
+
+void plcal::showStaffList() {
+    motore().PopolaListaCollab(m_porte.collaboratori.List_Prenotazione());
+    m_porte.collaboratori.show();
+}
+
+void plcal::showChart() {
+    motore().LeggiDatiPerGrafici();
+    plfgraf form(m_sessione.archivi, m_controlli.calendario);
+    if (visualizzaGrafico(form, m_controlli.tipoVisibile, m_sessione.IndiceCollab, m_porte.messaggi)) {
+        m_porte.finestraGrafici.mostra(form);
     }
 }
 

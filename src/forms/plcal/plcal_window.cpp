@@ -9,6 +9,7 @@
 #include "forms/plcal/period_moves.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/shown_calendar.h"
+#include "forms/screen_scale.h"
 #include "platform/qt/plain_label.h"
 #include "platform/qt/text.h"
 
@@ -30,10 +31,9 @@ constexpr double TitleFontFactor = 1.5;
 } // namespace
 
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
-    : m_sessione(sessione), m_controlli(controlli),
-      m_Toolbar1(new CommandBar(&plcal::comandoDisponibile, this)), m_calendario(new ShownCalendar(this)),
-      m_lbldescr(new PlainLabel(this)), m_lblcollab(new PlainLabel(this)), m_stato(new PlainLabel(this)),
-      m_panel(new DetailPanel(this)) {
+    : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
+      m_calendario(new ShownCalendar(this)), m_lbldescr(new PlainLabel(this)),
+      m_lblcollab(new PlainLabel(this)), m_stato(new PlainLabel(this)), m_panel(new DetailPanel(this)) {
     const auto frase = [this](int riga, int colonna) {
         return fraseCella(m_controlli, m_sessione, riga, colonna);
     };
@@ -123,8 +123,7 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
 }
 
 Dimensioni PlcalWindow::schermo() const {
-    const QSize size = screen()->availableSize() * TwipsPerPixel;
-    return {size.width(), size.height()};
+    return roomOn(*screen());
 }
 
 void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {

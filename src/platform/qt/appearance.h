@@ -19,6 +19,7 @@ QColor qtColor(Colore colore);
 
 /// The font for a place in a grid, `factor` times its design-time size but never smaller.
 QFont qtFont(Carattere which, double factor);
+QFont qtFont(const DescrizioneCarattere& described, double factor);
 
 /// A picture of the program's resources by its name.
 QIcon qtIcon(std::string_view name);

@@ -192,5 +192,68 @@ TEST_F(CommandsTest, TheDateOfAReplyIsTheCalendarsAtTheMomentOfTheCommand) {
     EXPECT_EQ(reply(), "20060301RBD");
 }
 
+TEST_F(CommandsTest, CollShowsTheWholeStaffAndMakesNoReply) {
+    open("M");
+    press("coll");
+    EXPECT_TRUE(collaboratori.isShown());
+    EXPECT_EQ(collaboratori.conteggio(), "0 selezionati su 3");
+    EXPECT_EQ(collaboratori.List_Prenotazione().riga(1).nome, "Rossi Bruno");
+    EXPECT_THAT(bench.journal, testing::ElementsAre("staff rows", "show staff"));
+    EXPECT_THAT(reply(), IsEmpty());
+    EXPECT_FALSE(sessione.FinePlanner);
+}
+
+TEST_F(CommandsTest, CollAgainBringsTheDeletedRowsBack) {
+    open("M");
+    press("coll");
+    collaboratori.Toolbar_pren_ButtonClick(4);
+    EXPECT_EQ(collaboratori.List_Prenotazione().righe(), 0);
+    press("coll");
+    EXPECT_EQ(collaboratori.List_Prenotazione().righe(), 3);
+}
+
+TEST_F(CommandsTest, ConfirmingAStaffMemberAnswersCAndLeavesThePlannerToTheSession) {
+    open("M");
+    press("coll");
+    collaboratori.List_Prenotazione_ItemClick(1);
+    collaboratori.Toolbar_pren_ButtonClick(11);
+    EXPECT_EQ(reply(), "20060315RBC");
+    EXPECT_TRUE(sessione.FinePlanner);
+    EXPECT_FALSE(collaboratori.isShown());
+    EXPECT_TRUE(form.isLoaded());
+}
+
+TEST_F(CommandsTest, ClosingThePlannerClosesTheStaffWindow) {
+    open("M");
+    press("coll");
+    press("exit");
+    EXPECT_FALSE(collaboratori.isShown());
+    EXPECT_THAT(bench.journal, testing::Contains("hide staff"));
+}
+
+TEST_F(CommandsTest, AnAnswerThatKeepsThePlannerLoadedClosesTheStaffWindowToo) {
+    open("M");
+    press("coll");
+    press("filtri");
+    EXPECT_TRUE(form.isLoaded());
+    EXPECT_FALSE(collaboratori.isShown());
+}
+
+TEST_F(CommandsTest, HidingThePlannerHidesTheStaffWindow) {
+    open("M");
+    press("coll");
+    form.hide();
+    EXPECT_FALSE(collaboratori.isShown());
+}
+
+TEST_F(CommandsTest, ThePlannerStaysUsableBesideTheStaffWindow) {
+    open("M");
+    press("coll");
+    form.SelChange(3, 17);
+    press("consult");
+    EXPECT_EQ(reply(), "20060315RBD");
+    EXPECT_TRUE(collaboratori.isShown());
+}
+
 } // namespace
 } // namespace planner::test

@@ -93,6 +93,23 @@ TEST_F(HostSessionTest, TheWindowIsOutOfSightBeforeTheHostIsTold) {
                 ElementsAre("hide", "write trans.dat", "flush", "create [EV]", "signal [EV]", "wait [EV]"));
 }
 
+TEST_F(HostSessionTest, AConfirmedStaffMemberIsTheAnswerAndNoWindowIsInSightWhenTheHostIsTold) {
+    bench.eventi.actions = {[this] { form.Toolbar1_ButtonClick("coll"); },
+                            [this] {
+                                collaboratori.List_Prenotazione_ItemClick(1);
+                                collaboratori.Toolbar_pren_ButtonClick(11);
+                            },
+                            escape()};
+    ipc.hostActions = {[this] {
+        EXPECT_EQ(answer(), "20060315RBC");
+        EXPECT_EQ(recordOf<TransitRequest>(bench.files.get(Transito)).collab.text(), "RB");
+        EXPECT_FALSE(collaboratori.isShown());
+        EXPECT_FALSE(form.isLoaded());
+    }};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20060315  E");
+}
+
 TEST_F(HostSessionTest, EachKindInTurn) {
     bench.eventi.actions = {command('P'), command('S'), escape()};
     const auto hostAsksFor = [this](const char* tipo, const char* title) {

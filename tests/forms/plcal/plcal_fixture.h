@@ -33,7 +33,14 @@ protected:
     FakeVista vista{bench.journal};
     int enginesMade = 0;
     FakeFinestraImpegno finestraImpegno;
-    plcal form{sessione, controlli, {vista, bench.messaggi, finestraImpegno}, [this] {
+    FakeVistaPlfcollab vistaCollab{bench.journal};
+    PlainCollation alfabeto;
+    plfcollab collaboratori{sessione, controlli.calendario, {vistaCollab, bench.messaggi, alfabeto}};
+    FakeFinestraGrafici finestraGrafici;
+    plcal form{sessione,
+               controlli,
+               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici},
+               [this] {
                    ++enginesMade;
                    return makeEngine();
                }};

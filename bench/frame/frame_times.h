@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace planner {
+
+/// Milliseconds from an event to the painted window, over many times.
+struct FrameTimes {
+    std::string name;
+    bool withinFrame; // must be within a frame of a 60 Hz screen
+    double minimum, median, p95, maximum;
+};
+
+/// What a benchmark has to say.
+struct FrameReport {
+    std::string title;
+    std::vector<FrameTimes> times;
+};
+
+/// Has all that is pending drawn on the screen.
+void paintAll();
+
+/// Times `event` and the painting after it; `prepare` and the painting after that go untimed.
+FrameTimes measureFrames(std::string name, bool withinFrame, int times, const std::function<void()>& prepare,
+                         const std::function<void()>& event);
+
+/// The main program of a benchmark with windows: starts the toolkit, runs `measure`, prints the report, and
+/// writes it as JSON when the arguments are --json FILE. Returns the exit code.
+int frameBenchmark(int argc, char* argv[], const std::function<FrameReport()>& measure);
+
+} // namespace planner

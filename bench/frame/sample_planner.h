@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/clsplg.h"
+#include "forms/planner_windows.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/system_clock.h"
+#include "platform/qt/qt_event_pump.h"
+#include "platform/qt/qt_message_boxes.h"
+
+namespace planner {
+
+/// Makes a sample archive of the year 2006 in an existing folder.
+void makeSample(const std::string& folder, int staff, int records);
+
+/// What `main` wires, without a host, over such an archive.
+class SamplePlanner {
+public:
+    explicit SamplePlanner(const std::string& folder);
+
+    /// Serves a request for January's monthly planner up to where it waits for the user, all painted.
+    void show();
+    PlannerWindows& finestre() { return m_finestre; }
+
+private:
+    std::unique_ptr<clsplg> newEngine();
+
+    PosixFileSystem m_files;
+    SystemClock m_orologio;
+    QtMessageBoxes m_messaggi;
+    QtEventPump m_eventi;
+    modpl m_sessione;
+    ControlliPlcal m_controlli;
+    PlannerWindows m_finestre{m_sessione, m_controlli, m_messaggi, [this] { return newEngine(); }};
+};
+
+} // namespace planner

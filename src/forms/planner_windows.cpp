@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/planner_windows.h"
+
+namespace planner {
+
+PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi,
+                               plcal::FabbricaMotore fabbrica)
+    : vista(sessione, controlli), finestraGrafici(messaggi),
+      collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
+      finestra(sessione, controlli, {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici},
+               std::move(fabbrica)) {
+    vista.setForm(finestra);
+    vistaCollab.setForm(collaboratori);
+}
+
+} // namespace planner

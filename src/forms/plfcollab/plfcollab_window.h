@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plfcollab/plfcollab.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QInputDialog;
+class QLabel;
+
+namespace planner {
+
+class StaffListView;
+class StaffToolbar;
+
+/// The staff window's widgets: a window of its own beside the planner's. It decides nothing: events go to
+/// `plfcollab`, contents come from its list.
+class PlfcollabWindow : public QWidget, public VistaPlfcollab {
+    Q_OBJECT
+public:
+    PlfcollabWindow();
+    ~PlfcollabWindow() override;
+
+    /// Whom the window's events go to; must be set before the window is shown.
+    void setForm(plfcollab& form);
+
+    void mostra() override;
+    void nascondi() override;
+    void aggiornaRighe() override;
+    void aggiorna() override;
+    void portaInVista(int riga) override;
+    int primaRigaVisibile() const override;
+    int righePerPagina() const override;
+    void scorriA(int riga) override;
+    std::optional<std::string> chiediTesto(std::string_view titolo, const std::string& iniziale) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QWidget* makeArrows();
+    void layOut();
+    void connectEvents();
+    void fitToScreen();
+    void pressEnter();
+
+    plfcollab* m_form = nullptr;
+    StaffToolbar* m_toolbar;
+    StaffListView* m_list;
+    QLabel* m_count;
+    QPointer<QInputDialog> m_question;
+    bool m_placed = false;
+};
+
+} // namespace planner

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+#include <functional>
+
+class QPagedPaintDevice;
+class QPainter;
+
+namespace planner {
+
+/// Something to put on a file or on paper: `paint` fills `size` pixels of a 96 dpi screen.
+struct Drawing {
+    QSizeF size;
+    std::function<void(QPainter&)> paint;
+};
+
+/// Writes the drawing to a file, in the format that its name ends with: ".png", ".svg" or ".pdf". An existing
+/// file is replaced only when all is written. Returns what went wrong, in Italian; empty when nothing did.
+QString saveDrawing(const Drawing& drawing, const QString& path);
+
+/// Paints the drawing on a page, as large as the page allows. False when the device does not take it.
+bool paintOnPage(const Drawing& drawing, QPagedPaintDevice& device);
+
+} // namespace planner

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plfgraf/chart_model.h"
+
+#include "forms/plfgraf/chart_texts.h"
+#include "platform/qt/text.h"
+
+#include <climits>
+
+namespace planner {
+
+ChartModel::ChartModel(const Grafico& grafico, QObject* parent)
+    : QAbstractListModel(parent), m_grafico(grafico) {}
+
+int ChartModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(std::min<std::size_t>(m_grafico.numValori(), INT_MAX));
+}
+
+QVariant ChartModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const auto number = static_cast<std::size_t>(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return fromUtf8(testoOre(m_grafico.valore(number)));
+    case Qt::AccessibleTextRole:
+    case Qt::StatusTipRole:
+        return fromUtf8(fraseValore(m_grafico, number));
+    case Qt::ToolTipRole:
+        return plainToolTip(fromUtf8(fraseValore(m_grafico, number)));
+    default:
+        return {};
+    }
+}
+
+} // namespace planner

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plfgraf/grafico.h"
+
+#include <QAbstractListModel>
+
+namespace planner {
+
+/// A chart's values, one row each, for the toolkit's selection, tool tips and screen readers.
+class ChartModel : public QAbstractListModel {
+    Q_OBJECT
+public:
+    ChartModel(const Grafico& grafico, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    const Grafico& m_grafico;
+};
+
+} // namespace planner

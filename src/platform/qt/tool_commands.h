@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+class QAction;
+class QToolBar;
+
+namespace planner {
+
+/// A command of a toolbar.
+struct ToolCommand {
+    QString name; // of the action
+    std::string_view caption;
+    std::string_view picture;
+    std::string_view keys; // empty for none
+};
+
+/// The look that the program's toolbars share: pictures with their captions below.
+void setUpToolBar(QToolBar& bar);
+
+/// Adds a button, reached by Tab too, whose tool tip tells its keys. Whether the keys work everywhere in the
+/// window is the caller's to say.
+QAction* addToolCommand(QToolBar& bar, const ToolCommand& command);
+
+} // namespace planner

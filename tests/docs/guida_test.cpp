@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "engine/session/toolbar.h"
+#include "forms/plfcollab/commands.h"
+#include "forms/plfgraf/plfgraf.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace planner {
+namespace {
+
+std::string guida() {
+    std::ifstream file(PLANNER_DOCS "/guida.md");
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// The keys as an Italian keyboard names them.
+std::string italianKeys(std::string keys) {
+    for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"}, std::pair{"Return", "Invio"}}) {
+        const std::size_t at = keys.find(english);
+        if (at != std::string::npos) {
+            keys.replace(at, std::string_view(english).size(), italian);
+        }
+    }
+    return keys;
+}
+
+/// The table row of a command holds its caption, and its keys in the second column.
+void expectDocumented(std::string_view caption, std::string_view keys) {
+    std::istringstream lines(guida());
+    std::string line;
+    while (std::getline(lines, line)) {
+        const std::size_t second = line.find('|', 1);
+        if (line.starts_with("| ") && line.substr(0, second).find(caption) != std::string::npos) {
+            EXPECT_NE(line.find(italianKeys(std::string(keys)), second), std::string::npos) << line;
+            return;
+        }
+    }
+    ADD_FAILURE() << caption;
+}
+
+TEST(GuidaTest, EveryToolbarCommandHasItsRowAndKeys) {
+    for (const DescrizionePulsante& button : PulsantiToolbar) {
+        expectDocumented(button.didascalia, button.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryCommandOfTheStaffListHasItsRowAndKeys) {
+    for (const DescrizioneComandoCollab& command : ComandiCollab) {
+        expectDocumented(command.didascalia, command.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryKindOfChartIsNamed) {
+    for (const std::string_view option : OpzioniTipoGrafico) {
+        EXPECT_NE(guida().find("«" + std::string(option) + "»"), std::string::npos) << option;
+    }
+}
+
+} // namespace
+} // namespace planner
