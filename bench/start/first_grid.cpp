@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+// Starts as the planner does for its first request, a month, and serves a second one in the same window.
+
+#include "frame/frame_times.h"
+#include "frame/sample_planner.h"
+#include "platform/qt/appearance.h"
+#include "report_line.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        return 2;
+    }
+    int toolkitArguments = 1;
+    QApplication application(toolkitArguments, argv);
+    planner::setUpAppearance(application);
+    planner::SamplePlanner sample(argv[1]);
+    sample.show();
+    planner::waitUntilPainted(sample.finestre().vista);
+    planner::reportPainted();
+    sample.finestre().finestra.hide();
+    planner::paintAll();
+    QElapsedTimer timer;
+    timer.start();
+    sample.show();
+    planner::waitUntilPainted(sample.finestre().vista);
+    planner::reportMilliseconds(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    return 0;
+}
