@@ -28,10 +28,9 @@ long residentKilobytes() {
 } // namespace
 
 void waitUntilPainted(QWidget& window) {
-    while (!window.windowHandle()->isExposed()) {
+    while (!window.windowHandle()->isExposed()) { // the window is painted while it is being exposed
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    QApplication::processEvents();
     QGuiApplication::sync();
 }
 

@@ -296,6 +296,24 @@ TEST_F(ChartWindowTest, ASavedDrawingHoldsTheTextsAsTheyAre) {
         QString::fromUtf8(file.readAll()).contains(QStringLiteral("&lt;b&gt;Rossi&lt;/b&gt; &amp; %1")));
 }
 
+TEST_F(ChartWindowTest, PrintsOnOneLandscapePage) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("stampa.pdf"));
+    openChart("M", [&](QDialog& dialog) {
+        whileModal([&] { trigger(dialog, "stampa"); },
+                   [&](QDialog& printing) {
+                       printing.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(path);
+                       QTest::keyClick(&printing, Qt::Key_Return);
+                   });
+    });
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    EXPECT_TRUE(bytes.startsWith("%PDF"));
+    EXPECT_EQ(bytes.count("/Type /Page\n"), 1);
+    EXPECT_TRUE(bytes.contains("/MediaBox [0 0 842.000000 595.000000]")) << "A4, landscape";
+}
+
 TEST_F(ChartWindowTest, AFileThatCannotBeWrittenIsSaid) {
     const QTemporaryDir folder;
     saveAs(folder.filePath(QStringLiteral("manca/grafico.png")));

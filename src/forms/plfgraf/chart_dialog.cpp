@@ -183,6 +183,7 @@ void ChartDialog::saveChart() {
 void ChartDialog::printChart() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(QStringLiteral("Planner"));
+    printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Landscape);
     QPrintDialog dialog(&printer, this);
     dialog.setObjectName(QStringLiteral("stampaGrafico"));
