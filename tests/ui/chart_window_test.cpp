@@ -339,7 +339,7 @@ TEST_F(ChartWindowTest, AFailedSaveLeavesTheOldFileAsItWas) {
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("old");
     old.close();
-    EXPECT_FALSE(saveDrawing({QSizeF(), [](QPainter&) {}}, path).isEmpty());
+    EXPECT_FALSE(saveDrawing({QSizeF(), [](QPainter&, QSizeF) {}}, path).isEmpty());
     ASSERT_TRUE(old.open(QIODevice::ReadOnly));
     EXPECT_EQ(old.readAll(), "old");
 }

@@ -145,7 +145,7 @@ void ChartDialog::placeControls() {
 }
 
 Drawing ChartDialog::drawing() const {
-    return {m_chart->size(), [this](QPainter& painter) { m_chart->paintChart(painter); }};
+    return {m_chart->size(), [this](QPainter& painter, QSizeF size) { m_chart->paintChart(painter, size); }};
 }
 
 void ChartDialog::copyValues() {

@@ -10,8 +10,6 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 
-#include <algorithm>
-
 namespace planner {
 
 namespace {
@@ -24,7 +22,7 @@ bool writePng(const Drawing& drawing, QIODevice& file) {
     }
     image.setDevicePixelRatio(sharpness);
     QPainter painter(&image);
-    drawing.paint(painter);
+    drawing.paint(painter, drawing.size);
     painter.end();
     return image.save(&file, "PNG");
 }
@@ -40,7 +38,7 @@ bool writeSvg(const Drawing& drawing, QIODevice& file) {
     if (!painter.begin(&generator)) {
         return false;
     }
-    drawing.paint(painter);
+    drawing.paint(painter, drawing.size);
     return painter.end();
 }
 
@@ -84,11 +82,10 @@ bool paintOnPage(const Drawing& drawing, QPagedPaintDevice& device) {
     if (drawing.size.isEmpty() || !painter.begin(&device)) {
         return false;
     }
-    const QRectF page = painter.viewport();
-    const double scale = std::min(page.width() / drawing.size.width(), page.height() / drawing.size.height());
-    painter.translate((page.width() - drawing.size.width() * scale) / 2, 0);
+    const QSizeF page = painter.viewport().size();
+    const double scale = page.width() / drawing.size.width();
     painter.scale(scale, scale);
-    drawing.paint(painter);
+    drawing.paint(painter, page / scale);
     return painter.end();
 }
 

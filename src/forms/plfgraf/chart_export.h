@@ -12,17 +12,19 @@ class QPainter;
 
 namespace planner {
 
-/// Something to put on a file or on paper: `paint` fills `size` pixels of a 96 dpi screen.
+/// Something to put into a file or on paper, in pixels of a 96 dpi screen: `size` on the screen; `paint`
+/// fills any size.
 struct Drawing {
     QSizeF size;
-    std::function<void(QPainter&)> paint;
+    std::function<void(QPainter&, QSizeF)> paint;
 };
 
 /// Writes the drawing to a file, in the format that its name ends with: ".png", ".svg" or ".pdf". An existing
 /// file is replaced only when all is written. Returns what went wrong, in Italian; empty when nothing did.
 QString saveDrawing(const Drawing& drawing, const QString& path);
 
-/// Paints the drawing on a page, as large as the page allows. False when the device does not take it.
+/// Paints the drawing as wide as on the screen on a page, which it fills. False when the device does not take
+/// it.
 bool paintOnPage(const Drawing& drawing, QPagedPaintDevice& device);
 
 } // namespace planner

@@ -37,8 +37,9 @@ void ChartView::refresh() {
     point();
 }
 
-void ChartView::paintChart(QPainter& painter) const {
-    m_painter.paint(painter, layoutChart(m_grafico, m_layout.size, {}, m_painter.measure()));
+void ChartView::paintChart(QPainter& painter, QSizeF size) const {
+    const ChartSize whole{size.width(), size.height()};
+    m_painter.paint(painter, layoutChart(m_grafico, whole, {}, m_painter.measure()));
 }
 
 QRect ChartView::visualRect(const QModelIndex& index) const {

@@ -20,8 +20,8 @@ public:
     void setReserved(const QRect& area);
     /// Shows the chart anew, its kind or contents having changed.
     void refresh();
-    /// The chart alone, as large as on the screen, for files and paper.
-    void paintChart(QPainter& painter) const;
+    /// The chart alone, for files and paper; `size` in pixels of a 96 dpi screen.
+    void paintChart(QPainter& painter, QSizeF size) const;
     const ChartLayout& chartLayout() const { return m_layout; }
 
     QRect visualRect(const QModelIndex& index) const override;
