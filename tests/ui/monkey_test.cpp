@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -27,6 +28,8 @@ public:
     }
 
     void act() {
+        const bool list = m_bench.finestre.vistaCollab.isVisible() && pick(2) == 0;
+        m_target = list ? static_cast<QWidget*>(&m_bench.finestre.vistaCollab) : &m_bench.vista;
         switch (pick(6)) {
         case 0:
             clickAnywhere();
@@ -35,7 +38,7 @@ public:
             pressButton();
             break;
         case 2:
-            m_bench.vista.resize(200 + pick(1600), 150 + pick(1000));
+            m_target->resize(200 + pick(1600), 150 + pick(1000));
             break;
         default:
             pressKey();
@@ -46,7 +49,7 @@ private:
     int pick(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
 
     void clickAnywhere() {
-        QWidget* target = m_bench.vista.childAt(pick(m_bench.vista.width()), pick(m_bench.vista.height()));
+        QWidget* target = m_target->childAt(pick(m_target->width()), pick(m_target->height()));
         if (target != nullptr && target->isEnabled()) {
             const auto button = pick(4) == 0 ? Qt::RightButton : Qt::LeftButton;
             QTest::mouseClick(target, button, Qt::NoModifier,
@@ -54,7 +57,7 @@ private:
         }
     }
     void pressButton() {
-        const auto buttons = m_bench.vista.findChildren<QToolButton*>();
+        const auto buttons = m_target->findChildren<QToolButton*>();
         QToolButton* button = buttons[pick(static_cast<int>(buttons.size()))];
         if (button->isVisible() && button->isEnabled()) {
             QTest::mouseClick(button, Qt::LeftButton);
@@ -64,11 +67,12 @@ private:
         constexpr std::array keys{
             Qt::Key_Left, Qt::Key_Right,  Qt::Key_Up,       Qt::Key_Down,   Qt::Key_Home,  Qt::Key_End,
             Qt::Key_Tab,  Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Space, Qt::Key_F1,
-            Qt::Key_N,    Qt::Key_Q,      Qt::Key_Escape,   Qt::Key_A,      Qt::Key_Menu};
+            Qt::Key_N,    Qt::Key_Q,      Qt::Key_Escape,   Qt::Key_A,      Qt::Key_Menu,  Qt::Key_F,
+            Qt::Key_G,    Qt::Key_L,      Qt::Key_F3};
         constexpr std::array<Qt::KeyboardModifiers, 4> modifiers{
             Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier, Qt::ControlModifier | Qt::AltModifier};
-        QWidget* focus = m_bench.vista.focusWidget();
-        QTest::keyClick(focus != nullptr ? focus : &m_bench.vista,
+        QWidget* focus = m_target->focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : m_target,
                         keys[static_cast<std::size_t>(pick(keys.size()))],
                         modifiers[static_cast<std::size_t>(pick(modifiers.size()))]);
     }
@@ -78,18 +82,32 @@ private:
             menu->close();
         }
         if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            playWith(*dialog);
             QTest::keyClick(dialog, pick(2) == 0 ? Qt::Key_Return : Qt::Key_Escape);
         }
     }
+    /// Options, arrow keys, letters and sizes, as the dialog has use for them.
+    void playWith(QDialog& dialog) {
+        const auto options = dialog.findChildren<QRadioButton*>();
+        if (!options.isEmpty()) {
+            options[pick(static_cast<int>(options.size()))]->click();
+        }
+        constexpr std::array keys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_B};
+        QWidget* focus = dialog.focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : &dialog,
+                        keys[static_cast<std::size_t>(pick(keys.size()))]);
+        dialog.resize(200 + pick(1600), 150 + pick(1000));
+    }
 
     WindowBench& m_bench;
+    QWidget* m_target = &m_bench.vista;
     std::mt19937 m_random{5000};
     QTimer m_closer;
 };
 
 bool validAnswer(const std::string& answer) {
     return answer.size() == 11 && parseDate(answer.substr(0, 8)).has_value() &&
-           std::string_view("EFADITPS").find(answer.back()) != std::string_view::npos;
+           std::string_view("EFADITPSC").find(answer.back()) != std::string_view::npos;
 }
 
 class MonkeyTest : public testing::TestWithParam<const char*> {};
@@ -101,6 +119,8 @@ TEST_P(MonkeyTest, FiveThousandRandomEventsEndWithAValidAnswer) {
     bench.base.putRighe({riga("RB", "20060315", {{1, "00002"}}), riga("BI", "20060310", {{6, "00007"}}),
                          conOrario(riga("7 ", "20060315", {{7, "00001"}}), "23", "45", "0003:00"),
                          RigaPlanner{}});
+    bench.base.putGrafici(
+        {rigaGrafico("RB", "20060315", "0007:30"), rigaGrafico("BI", "20060401", "0004:00")});
     bench.base.putAnnuale(annoPlanner("2006", {{3, 17}, {12, 35}}));
     Monkey monkey(bench);
     bench.open(GetParam());
