@@ -28,7 +28,7 @@ public:
     }
 
     void act() {
-        const bool list = m_bench.finestre.vistaCollab.isVisible() && pick(2) == 0;
+        const bool list = m_bench.finestre.vistaCollab.isVisible() && pick(8) != 0;
         m_target = list ? static_cast<QWidget*>(&m_bench.finestre.vistaCollab) : &m_bench.vista;
         switch (pick(6)) {
         case 0:
