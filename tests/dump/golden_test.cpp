@@ -31,7 +31,7 @@ TEST_P(GoldenDump, IsExactlyTheRecordedOne) {
     arguments.insert(arguments.end(), GetParam().arguments.begin(), GetParam().arguments.end());
     const DumpRun run = runDump(arguments);
     ASSERT_EQ(run.exitCode, 0) << run.err;
-    const std::string golden = readFile(std::filesystem::path(DUMP_DATA_FOLDER) / GetParam().file);
+    const std::string golden = fileBytes(std::filesystem::path(DUMP_DATA_FOLDER) / GetParam().file);
     EXPECT_EQ(nlohmann::json::diff(nlohmann::json::parse(golden), nlohmann::json::parse(run.out)),
               nlohmann::json::array());
     EXPECT_TRUE(run.out == golden) << "same contents, written otherwise";

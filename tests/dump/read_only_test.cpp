@@ -19,7 +19,7 @@ struct FileState {
 std::map<std::string, FileState> stateOf(const std::filesystem::path& folder) {
     std::map<std::string, FileState> state{{".", {"", std::filesystem::last_write_time(folder)}}};
     for (const auto& each : std::filesystem::directory_iterator(folder)) {
-        state[each.path().filename().string()] = {readFile(each.path()), each.last_write_time()};
+        state[each.path().filename().string()] = {fileBytes(each.path()), each.last_write_time()};
     }
     return state;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "run_dump.h"
 
+#include "support/temp_folder.h"
+
 #include <array>
 #include <fcntl.h>
 #include <fstream>
@@ -57,35 +59,14 @@ int runToEnd(std::vector<std::string> words, const Redirections& redirections) {
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "planner-dump-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    m_path = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
 DumpRun runDump(const std::vector<std::string>& arguments) {
-    const TemporaryFolder folder;
-    const auto out = folder.path() / "out";
-    const auto err = folder.path() / "err";
+    const TempFolder folder;
+    const auto out = folder.folder() / "out";
+    const auto err = folder.folder() / "err";
     std::vector<std::string> words{PLANNER_DUMP};
     words.insert(words.end(), arguments.begin(), arguments.end());
     const int exitCode = runToEnd(std::move(words), Redirections(out, err));
-    return {exitCode, readFile(out), readFile(err)};
-}
-
-std::string readFile(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw std::runtime_error("cannot read " + path.string());
-    }
-    return {std::istreambuf_iterator<char>(file), {}};
+    return {exitCode, fileBytes(out), fileBytes(err)};
 }
 
 } // namespace planner::test

@@ -120,14 +120,14 @@ void SmallOffice::write() const {
 }
 
 void SmallOffice::writeFile(std::string_view name, std::string_view bytes) const {
-    std::ofstream file(m_folder.path() / name, std::ios::binary | std::ios::trunc);
+    std::ofstream file(m_folder.folder() / name, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
     ASSERT_TRUE(file) << name;
 }
 
 void SmallOffice::removeFile(std::string_view name) const {
-    ASSERT_TRUE(std::filesystem::remove(m_folder.path() / name)) << name;
+    ASSERT_TRUE(std::filesystem::remove(m_folder.folder() / name)) << name;
 }
 
 nlohmann::ordered_json SmallOffice::dump() const {

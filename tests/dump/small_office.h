@@ -5,6 +5,7 @@
 #include "archive/records.h"
 #include "host/transit_request.h"
 #include "run_dump.h"
+#include "support/temp_folder.h"
 
 #include <optional>
 #include <string_view>
@@ -42,7 +43,7 @@ public:
     std::vector<RigaGrafico> grafici;
 
     /// The folder, with a separator at its end, as it stands in messages.
-    std::string folder() const { return m_folder.path().string() + "/"; }
+    std::string folder() const { return m_folder.path() + "/"; }
     std::string transitPath() const { return folder() + "transito"; }
 
     /// Writes the transit file and the archives.
@@ -63,7 +64,7 @@ public:
 private:
     nlohmann::ordered_json run(std::vector<std::string> arguments) const;
 
-    TemporaryFolder m_folder;
+    TempFolder m_folder;
 };
 
 /// The listed cell at row and column, or nothing.

@@ -34,9 +34,8 @@ void TempFolder::write(std::string_view name, std::string_view bytes) const {
 }
 
 std::string TempFolder::read(std::string_view name) const {
-    std::ifstream file(path(name), std::ios::binary);
-    EXPECT_TRUE(file) << name;
-    return {std::istreambuf_iterator<char>(file), {}};
+    EXPECT_TRUE(exists(name)) << name;
+    return fileBytes(path(name));
 }
 
 bool TempFolder::exists(std::string_view name) const {
@@ -54,6 +53,11 @@ void TempFolder::makeFolder(std::string_view name) const {
 
 void TempFolder::makeFifo(std::string_view name) const {
     ASSERT_EQ(::mkfifo(path(name).c_str(), 0600), 0);
+}
+
+std::string fileBytes(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 } // namespace planner::test

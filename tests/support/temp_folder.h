@@ -17,6 +17,7 @@ public:
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
+    const std::filesystem::path& folder() const { return m_folder; }
     /// The full path of `name` in the folder; the folder's own path without a name.
     std::string path(std::string_view name = {}) const;
 
@@ -31,5 +32,8 @@ public:
 private:
     std::filesystem::path m_folder;
 };
+
+/// The bytes of a file; empty when it cannot be read.
+std::string fileBytes(const std::filesystem::path& path);
 
 } // namespace planner::test

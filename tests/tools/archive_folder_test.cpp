@@ -22,14 +22,14 @@ OpzioniHost optionsFor(const std::filesystem::path& folder, bool campione) {
 }
 
 std::string yearOfArchive(const std::filesystem::path& folder) {
-    return fileBytes(folder / "wplanner").substr(0, 4);
+    return test::fileBytes(folder / "wplanner").substr(0, 4);
 }
 
 } // namespace
 
 TEST(ArchiveFolder, RemovesOnlyAFolderOfItsOwn) {
-    const TemporaryFolder parent;
-    const ArchiveFolder given(optionsFor(parent.path(), false));
+    const test::TempFolder parent;
+    const ArchiveFolder given(optionsFor(parent.folder(), false));
     std::filesystem::path own;
     {
         OpzioniHost opzioni;
@@ -43,38 +43,38 @@ TEST(ArchiveFolder, RemovesOnlyAFolderOfItsOwn) {
                   perms::none);
     }
     EXPECT_FALSE(std::filesystem::exists(own));
-    EXPECT_TRUE(std::filesystem::exists(parent.path()));
+    EXPECT_TRUE(std::filesystem::exists(parent.folder()));
 }
 
 TEST(ArchiveFolder, LeavesTheArchivesOfAGivenFolderAlone) {
-    const TemporaryFolder folder;
-    std::ofstream(folder.path() / "wcollab") << "dell'host";
-    ArchiveFolder archive(optionsFor(folder.path(), false));
+    const test::TempFolder folder;
+    std::ofstream(folder.folder() / "wcollab") << "dell'host";
+    ArchiveFolder archive(optionsFor(folder.folder(), false));
     archive.prepara(2007);
-    EXPECT_EQ(fileBytes(folder.path() / "wcollab"), "dell'host");
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "wrighipl"));
+    EXPECT_EQ(test::fileBytes(folder.folder() / "wcollab"), "dell'host");
+    EXPECT_FALSE(std::filesystem::exists(folder.folder() / "wrighipl"));
 }
 
 TEST(ArchiveFolder, NeverOverwritesArchivesThatItDidNotMake) {
-    const TemporaryFolder folder;
-    std::ofstream(folder.path() / "wcollab") << "dell'host";
-    ArchiveFolder archive(optionsFor(folder.path(), true));
+    const test::TempFolder folder;
+    std::ofstream(folder.folder() / "wcollab") << "dell'host";
+    ArchiveFolder archive(optionsFor(folder.folder(), true));
     EXPECT_THROW(archive.prepara(2006), HostError);
-    EXPECT_EQ(fileBytes(folder.path() / "wcollab"), "dell'host");
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "wrighipl"));
+    EXPECT_EQ(test::fileBytes(folder.folder() / "wcollab"), "dell'host");
+    EXPECT_FALSE(std::filesystem::exists(folder.folder() / "wrighipl"));
 }
 
 TEST(ArchiveFolder, ReplacesItsOwnArchivesByThoseOfAnotherYear) {
-    const TemporaryFolder folder;
-    ArchiveFolder(optionsFor(folder.path() / "nuova", true)).prepara(2006);
-    EXPECT_EQ(yearOfArchive(folder.path() / "nuova"), "2006");
-    ArchiveFolder(optionsFor(folder.path() / "nuova", true)).prepara(2007);
-    EXPECT_EQ(yearOfArchive(folder.path() / "nuova"), "2007");
+    const test::TempFolder folder;
+    ArchiveFolder(optionsFor(folder.folder() / "nuova", true)).prepara(2006);
+    EXPECT_EQ(yearOfArchive(folder.folder() / "nuova"), "2006");
+    ArchiveFolder(optionsFor(folder.folder() / "nuova", true)).prepara(2007);
+    EXPECT_EQ(yearOfArchive(folder.folder() / "nuova"), "2007");
 }
 
 TEST(ArchiveFolder, FindsNamesByCode) {
-    const TemporaryFolder folder;
-    ArchiveFolder archive(optionsFor(folder.path(), true));
+    const test::TempFolder folder;
+    ArchiveFolder archive(optionsFor(folder.folder(), true));
     EXPECT_EQ(archive.cercaNome("RB"), "") << "no staff file yet";
     archive.prepara(2006);
     EXPECT_EQ(archive.cercaNome("RB"), "Rossi Bruno");

@@ -25,7 +25,7 @@ RunResult HostTest::host(const std::string& script, std::vector<std::string> opt
 }
 
 std::vector<std::string> HostTest::diary() const {
-    std::istringstream text(fileBytes(folder() / "diary"));
+    std::istringstream text(test::fileBytes(folder() / "diary"));
     std::vector<std::string> lines;
     for (std::string line; std::getline(text, line);) {
         lines.push_back(line);

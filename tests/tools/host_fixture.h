@@ -3,7 +3,7 @@
 #pragma once
 
 #include "run_program.h"
-#include "temporary_folder.h"
+#include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -24,14 +24,14 @@ protected:
     std::vector<std::string> diary() const;
 
     /// Where planner-host makes its temporary folders.
-    std::filesystem::path temporaryParent() const { return m_folder.path() / "tmp"; }
+    std::filesystem::path temporaryParent() const { return m_folder.folder() / "tmp"; }
     /// Where the events live.
-    std::filesystem::path runtimeFolder() const { return m_folder.path() / "run"; }
+    std::filesystem::path runtimeFolder() const { return m_folder.folder() / "run"; }
     /// A folder for whatever the test needs.
-    const std::filesystem::path& folder() const { return m_folder.path(); }
+    const std::filesystem::path& folder() const { return m_folder.folder(); }
 
 private:
-    TemporaryFolder m_folder;
+    test::TempFolder m_folder;
 };
 
 /// The same in both ways of talking to the planner; the parameter is the value of --modo.

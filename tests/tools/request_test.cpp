@@ -4,7 +4,7 @@
 #include "planner_host/errors.h"
 #include "planner_host/request.h"
 #include "planner_host/transit_file.h"
-#include "temporary_folder.h"
+#include "support/temp_folder.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
@@ -77,21 +77,21 @@ TEST(ByteDump, ShowsAllBytesAndFields) {
 }
 
 TEST(TransitFile, HoldsExactlyOneRecord) {
-    const TemporaryFolder folder;
+    const test::TempFolder folder;
     const TransitRequest richiesta = creaRichiesta(sampleOptions(), 'M');
-    scriviTransito(folder.path() / "transito.dat", richiesta);
-    EXPECT_EQ(std::filesystem::file_size(folder.path() / "transito.dat"), 121u);
-    const TransitRequest back = leggiTransito(folder.path() / "transito.dat");
+    scriviTransito(folder.folder() / "transito.dat", richiesta);
+    EXPECT_EQ(std::filesystem::file_size(folder.folder() / "transito.dat"), 121u);
+    const TransitRequest back = leggiTransito(folder.folder() / "transito.dat");
     EXPECT_EQ(back.valret, richiesta.valret);
     EXPECT_EQ(back.planrichiesto, richiesta.planrichiesto);
 }
 
 TEST(TransitFile, IsRefusedWhenMissingOrShort) {
-    const TemporaryFolder folder;
-    EXPECT_THROW(leggiTransito(folder.path() / "transito.dat"), HostError);
-    std::ofstream(folder.path() / "transito.dat") << std::string(120, 'x');
-    EXPECT_THROW(leggiTransito(folder.path() / "transito.dat"), HostError);
-    EXPECT_THROW(scriviTransito(folder.path() / "nessuna" / "transito.dat", TransitRequest{}), HostError);
+    const test::TempFolder folder;
+    EXPECT_THROW(leggiTransito(folder.folder() / "transito.dat"), HostError);
+    std::ofstream(folder.folder() / "transito.dat") << std::string(120, 'x');
+    EXPECT_THROW(leggiTransito(folder.folder() / "transito.dat"), HostError);
+    EXPECT_THROW(scriviTransito(folder.folder() / "nessuna" / "transito.dat", TransitRequest{}), HostError);
 }
 
 } // namespace planner::toolstest

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "archive/runtime_errors.h"
 #include "sample_archive/sample_archive.h"
-#include "temporary_folder.h"
+#include "support/temp_folder.h"
 
 #include <array>
 #include <cstdint>
@@ -17,11 +17,11 @@ namespace {
 constexpr std::array<const char*, 4> Files{"wrighipl", "wplanner", "wcollab", "wgrafici"};
 
 std::array<std::string, 4> writtenBytes(const OpzioniCampione& opzioni) {
-    const TemporaryFolder folder;
-    scriviArchivioCampione(creaArchivioCampione(opzioni), folder.path());
+    const test::TempFolder folder;
+    scriviArchivioCampione(creaArchivioCampione(opzioni), folder.folder());
     std::array<std::string, 4> bytes;
     for (std::size_t i = 0; i < Files.size(); ++i) {
-        bytes[i] = fileBytes(folder.path() / Files[i]);
+        bytes[i] = test::fileBytes(folder.folder() / Files[i]);
     }
     return bytes;
 }
@@ -114,8 +114,8 @@ TEST(SampleArchive, OptionsOutsideTheirRangeAreRefused) {
 }
 
 TEST(SampleArchive, AMissingFolderIsAFileError) {
-    const TemporaryFolder folder;
-    EXPECT_THROW(scriviArchivioCampione(creaArchivioCampione({}), folder.path() / "nessuna"), FileError);
+    const test::TempFolder folder;
+    EXPECT_THROW(scriviArchivioCampione(creaArchivioCampione({}), folder.folder() / "nessuna"), FileError);
 }
 
 } // namespace planner::toolstest
