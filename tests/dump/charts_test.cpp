@@ -112,12 +112,12 @@ TEST(DumpChart, AFailureIsSaidAndGivesNone) {
     expectNoChart(dumpOfKind("M", "32767"), messages);
     SmallOffice office;
     office.richiesta = request("A");
-    office.grafici.push_back(hours("RM", "20061301", "0001:00"));
+    office.grafici.push_back(rigaGrafico("RM", "20061301", "0001:00"));
     expectNoChart(office.dumpWithChart("0"), messages);
-    office.grafici.back() = hours("RM", "2006xx01", "0001:00");
+    office.grafici.back() = rigaGrafico("RM", "2006xx01", "0001:00");
     expectNoChart(office.dumpWithChart("0"),
                   Json::array({critical("Operazione non riuscita: un testo non è un numero.")}));
-    office.grafici.back() = hours("RM", "20060101", "1000000");
+    office.grafici.back() = rigaGrafico("RM", "20060101", "1000000");
     expectNoChart(office.dumpWithChart("0"),
                   Json::array({critical("Operazione non riuscita: un numero è troppo grande.")}));
 }
@@ -151,7 +151,7 @@ TEST(DumpChart, MessagesOfTheChartComeAfterThoseOfTheRequest) {
 TEST(DumpChart, LabelsAreUtf8) {
     SmallOffice office;
     office.richiesta = request("G");
-    office.collaboratori.at(1) = person("\xC0\x80", "Nicol\xF2 D\x92\xC0ngelo", "");
+    office.collaboratori.at(1) = collaboratore("\xC0\x80", "Nicol\xF2 D\x92\xC0ngelo", "");
     const Json chart = office.dumpWithChart("0").at("grafico");
     EXPECT_EQ(chart.at("serie").at(0).at("etichetta"), "Nicolò D’Àngelo");
     EXPECT_EQ(chart.at("etichette").at(1), "À€");
@@ -160,7 +160,7 @@ TEST(DumpChart, LabelsAreUtf8) {
 TEST(DumpChart, ACodeKeepsItsTwoCharacters) {
     SmallOffice office;
     office.richiesta = request("G");
-    office.collaboratori.at(0) = person("7", "Verdi Ugo", "");
+    office.collaboratori.at(0) = collaboratore("7", "Verdi Ugo", "");
     EXPECT_EQ(office.dumpWithChart("0").at("grafico").at("etichette").at(0), "7 ");
 }
 

@@ -9,20 +9,6 @@ namespace planner::test {
 
 namespace {
 
-template <typename Record>
-std::string_view bytesOf(const Record& record) {
-    return {reinterpret_cast<const char*>(&record), sizeof record};
-}
-
-template <typename Records>
-std::string joined(const Records& records) {
-    std::string bytes;
-    for (const auto& record : records) {
-        bytes += bytesOf(record);
-    }
-    return bytes;
-}
-
 std::vector<RigaPlanner> marchEntries() {
     RigaPlanner mixed = entry("RM", "20060315");
     setHours(setCounter(setCounter(mixed, 1, "00002"), 7, "00001"), "0930", "0001:30");
@@ -38,10 +24,10 @@ std::vector<RigaPlanner> marchEntries() {
 }
 
 std::vector<RigaGrafico> springHours() {
-    return {hours("RM", "20060301", "0007:30"), hours("RM", "20060315", "0004:00"),
-            hours("RM", "20060315", "0008:15"), hours("BL", "20060315", "0004:45"),
-            hours("ZZ", "20060315", "0012:00"), hours("VG", "20060403", "0006:00"),
-            hours("RM", "20050315", "0020:00")};
+    return {rigaGrafico("RM", "20060301", "0007:30"), rigaGrafico("RM", "20060315", "0004:00"),
+            rigaGrafico("RM", "20060315", "0008:15"), rigaGrafico("BL", "20060315", "0004:45"),
+            rigaGrafico("ZZ", "20060315", "0012:00"), rigaGrafico("VG", "20060403", "0006:00"),
+            rigaGrafico("RM", "20050315", "0020:00")};
 }
 
 } // namespace
@@ -56,14 +42,6 @@ TransitRequest request(std::string_view kind) {
     richiesta.valret.assign("20060315");
     richiesta.Windowcaption.assign(" Studio Rossi");
     return richiesta;
-}
-
-Collaboratore person(std::string_view codice, std::string_view nome, std::string_view mansione) {
-    Collaboratore collaboratore;
-    collaboratore.codice.assign(codice);
-    collaboratore.nome.assign(nome);
-    collaboratore.mansione.assign(mansione);
-    return collaboratore;
 }
 
 RigaPlanner entry(std::string_view codice, std::string_view yyyymmdd) {
@@ -90,19 +68,10 @@ RigaPlanner& setHours(RigaPlanner& riga, std::string_view hhmm, std::string_view
     return riga;
 }
 
-RigaGrafico hours(std::string_view codice, std::string_view yyyymmdd, std::string_view ore) {
-    RigaGrafico riga;
-    riga.codice.assign(codice);
-    riga.anno.assign(yyyymmdd.substr(0, 4));
-    riga.mese.assign(yyyymmdd.substr(4, 2));
-    riga.giorno.assign(yyyymmdd.substr(6, 2));
-    riga.ore.front().assign(ore);
-    return riga;
-}
-
 SmallOffice::SmallOffice()
-    : collaboratori{person("RM", "Rossi Mario", "Avvocato"), person("BL", "Bianchi Lucia", "Segretaria"),
-                    person("VG", "Verdi Gino", "")},
+    : collaboratori{collaboratore("RM", "Rossi Mario", "Avvocato"),
+                    collaboratore("BL", "Bianchi Lucia", "Segretaria"),
+                    collaboratore("VG", "Verdi Gino", "")},
       righe(marchEntries()), grafici(springHours()) {
     for (MesePlanner& mese : mesi) {
         mese.anno.assign("2006");
@@ -113,10 +82,10 @@ SmallOffice::SmallOffice()
 
 void SmallOffice::write() const {
     writeFile("transito", bytesOf(richiesta));
-    writeFile("wcollab", joined(collaboratori));
-    writeFile("wrighipl", joined(righe));
-    writeFile("wplanner", joined(mesi));
-    writeFile("wgrafici", joined(grafici));
+    writeFile("wcollab", bytesOf(collaboratori));
+    writeFile("wrighipl", bytesOf(righe));
+    writeFile("wplanner", bytesOf(mesi));
+    writeFile("wgrafici", bytesOf(grafici));
 }
 
 void SmallOffice::writeFile(std::string_view name, std::string_view bytes) const {

@@ -5,6 +5,7 @@
 #include "archive/records.h"
 #include "host/transit_request.h"
 #include "run_dump.h"
+#include "support/builders.h"
 #include "support/temp_folder.h"
 
 #include <optional>
@@ -16,9 +17,6 @@ namespace planner::test {
 /// A request for one kind of planner that shows 15 March 2006, in the period 1 March to 30 June 2006.
 TransitRequest request(std::string_view kind);
 
-/// One staff member.
-Collaboratore person(std::string_view codice, std::string_view nome, std::string_view mansione);
-
 /// One record of appointments, date as yyyymmdd, all counters "00000" and no hours.
 RigaPlanner entry(std::string_view codice, std::string_view yyyymmdd);
 
@@ -27,9 +25,6 @@ RigaPlanner& setCounter(RigaPlanner& riga, std::size_t number, std::string_view 
 
 /// Start as hhmm and length as seven characters.
 RigaPlanner& setHours(RigaPlanner& riga, std::string_view hhmm, std::string_view durata);
-
-/// The hours that one staff member worked on one day, as seven characters.
-RigaGrafico hours(std::string_view codice, std::string_view yyyymmdd, std::string_view ore);
 
 /// An office of three people with a few entries in March 2006, in a folder of its own.
 class SmallOffice {

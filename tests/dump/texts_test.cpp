@@ -20,7 +20,7 @@ std::vector<Collaboratore> peopleNamedAfterEveryByte() {
         for (int byte = first; byte < first + 32; ++byte) {
             name += static_cast<char>(byte);
         }
-        people.push_back(person(std::to_string(first / 32), name, ""));
+        people.push_back(collaboratore(std::to_string(first / 32), name, ""));
     }
     return people;
 }
@@ -29,7 +29,7 @@ std::vector<Collaboratore> peopleNamedAfterEveryByte() {
 
 TEST(DumpTexts, MarkupStaysText) {
     SmallOffice office;
-    office.collaboratori.at(0) = person("RM", "<b>Rossi</b> & \"Figli\" \\n", "<img src=x>");
+    office.collaboratori.at(0) = collaboratore("RM", "<b>Rossi</b> & \"Figli\" \\n", "<img src=x>");
     const Json dump = office.dump();
     EXPECT_EQ(dump.at("collaboratori").at(0).at("nome"), "<b>Rossi</b> & \"Figli\" \\n");
     EXPECT_EQ(dump.at("collaboratori").at(0).at("mansione"), "<img src=x>");
@@ -39,7 +39,7 @@ TEST(DumpTexts, MarkupStaysText) {
 TEST(DumpTexts, CodePageBytesBecomeUtf8) {
     SmallOffice office;
     office.richiesta = request("A");
-    office.collaboratori.at(1) = person("BL", "Nicol\xF2 D\x92\xC0ngelo \x80", "Perch\xE9");
+    office.collaboratori.at(1) = collaboratore("BL", "Nicol\xF2 D\x92\xC0ngelo \x80", "Perch\xE9");
     const Json dump = office.dump();
     EXPECT_EQ(dump.at("collaboratori").at(1).at("nome"), "Nicolò D’Àngelo €");
     EXPECT_EQ(dump.at("collaboratori").at(1).at("mansione"), "Perché");
