@@ -43,9 +43,9 @@ photograph_window() {
     return 1
 }
 
-# press_escape TITLE
-press_escape() {
+# press_key TITLE KEY
+press_key() {
     local window
     window=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" | head -n 1)
-    timeout 20 xdotool windowactivate --sync "$window" key Escape
+    timeout 20 xdotool windowactivate --sync "$window" key "$2"
 }
