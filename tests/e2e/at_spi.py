@@ -23,7 +23,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PAUSE = 0.05  # seconds between two looks: what comes late gives no event
-TABLES = (Atspi.Role.TABLE, Atspi.Role.TREE_TABLE)
+TABLES = (Atspi.Role.TABLE, Atspi.Role.TREE_TABLE, Atspi.Role.TREE, Atspi.Role.LIST)
 
 
 def application(pid):

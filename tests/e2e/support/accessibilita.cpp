@@ -59,6 +59,11 @@ std::string Accessibilita::find(const Processo& owner, const std::vector<std::st
     return std::move(esito.output);
 }
 
+std::string Accessibilita::findCell(const Processo& owner, const Cella& cella) const {
+    return find(owner, {"cell", cella.tabella, std::to_string(cella.riga), std::to_string(cella.colonna),
+                        cella.nome});
+}
+
 void Accessibilita::press(const Processo& owner, const std::string& name) const {
     find(owner, {"press", name});
 }
@@ -68,12 +73,15 @@ void Accessibilita::click(const Processo& owner, const std::string& name) const 
 }
 
 void Accessibilita::click(const Processo& owner, const Cella& cella) const {
-    clickAt(find(owner, {"cell", cella.tabella, std::to_string(cella.riga), std::to_string(cella.colonna),
-                         cella.nome}));
+    clickAt(findCell(owner, cella));
 }
 
 void Accessibilita::waitFor(const Processo& owner, const std::string& name) const {
     find(owner, {"where", name});
+}
+
+void Accessibilita::waitFor(const Processo& owner, const Cella& cella) const {
+    findCell(owner, cella);
 }
 
 void Accessibilita::clickAt(const std::string& place) const {

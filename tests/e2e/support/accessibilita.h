@@ -23,8 +23,8 @@ public:
     const Environment& environment() const { return m_environment; }
 
     struct Cella {
-        std::string tabella;
-        int riga = 0; // counted from 0, without headers, as the column is
+        std::string tabella; // or list, whose items are cells of one column
+        int riga = 0;        // counted from 0, without headers, as the column is
         int colonna = 0;
         std::string nome;
     };
@@ -37,6 +37,7 @@ public:
     /// The same for the cell that has that name in its place.
     void click(const Processo& owner, const Cella& cella) const;
     void waitFor(const Processo& owner, const std::string& name) const;
+    void waitFor(const Processo& owner, const Cella& cella) const;
 
     struct Controllo {
         std::string ruolo; // in English, as in "push button"
@@ -48,6 +49,7 @@ public:
 private:
     Esito look(const Processo& owner, const std::vector<std::string>& words) const;
     std::string find(const Processo& owner, const std::vector<std::string>& words) const;
+    std::string findCell(const Processo& owner, const Cella& cella) const;
     void clickAt(const std::string& place) const;
 
     const Schermo* m_schermo;

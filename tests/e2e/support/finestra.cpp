@@ -59,6 +59,11 @@ void Finestra::press(const std::string& key) const {
     m_schermo->tool({"xdotool", "key", key});
 }
 
+void Finestra::type(const std::string& text) const {
+    activate();
+    m_schermo->tool({"xdotool", "type", text});
+}
+
 void Finestra::click(int x, int y) const {
     activate();
     m_schermo->tool(
@@ -96,6 +101,10 @@ Area Finestra::frame() const {
     return {numberAfter(inside, "Absolute upper-left X:") - left,
             numberAfter(inside, "Absolute upper-left Y:") - top, numberAfter(inside, "Width:") + left + right,
             numberAfter(inside, "Height:") + top + bottom};
+}
+
+void Finestra::resize(int width, int height) const {
+    m_schermo->tool({"xdotool", "windowsize", m_id, std::to_string(width), std::to_string(height)});
 }
 
 Immagine Finestra::picture() const {

@@ -26,6 +26,8 @@ public:
     void activate() const;
     /// Activates the window and presses a key, as in "Escape", "Return", "ctrl+q".
     void press(const std::string& key) const;
+    /// Activates the window and types letters, digits and blanks.
+    void type(const std::string& text) const;
     /// Activates the window and clicks on a point of it, counted from its corner inside the frame.
     void click(int x, int y) const;
 
@@ -37,6 +39,8 @@ public:
 
     /// Where the window stands on the screen, its frame included.
     Area frame() const;
+    /// Asks the window manager for an inner size.
+    void resize(int width, int height) const;
     Immagine picture() const;
 
 private:

@@ -38,4 +38,15 @@ std::set<Immagine::Colour> Immagine::colours(const Area& area) const {
     return found;
 }
 
+Immagine Immagine::part(const Area& area) const {
+    std::string ppm = "P6\n" + std::to_string(area.width) + " " + std::to_string(area.height) + "\n255\n";
+    for (int y = area.y; y < area.y + area.height; ++y) {
+        for (int x = area.x; x < area.x + area.width; ++x) {
+            const Colour colour = at(x, y);
+            ppm.append(colour.begin(), colour.end());
+        }
+    }
+    return Immagine(std::move(ppm));
+}
+
 } // namespace planner::e2e

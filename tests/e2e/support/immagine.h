@@ -32,6 +32,9 @@ public:
     /// The different colours within the area.
     std::set<Colour> colours(const Area& area) const;
 
+    /// A part of the picture as a picture of its own.
+    Immagine part(const Area& area) const;
+
     friend bool operator==(const Immagine&, const Immagine&) = default;
 
 private:

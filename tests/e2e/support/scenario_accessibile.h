@@ -25,6 +25,8 @@ protected:
     /// True when the planner comes to show nothing on the screen and to use no processor time.
     bool comesToWait();
     Programma& planner() const { return *m_planner; }
+    /// The window looked at last.
+    const Finestra& finestra() const { return *m_window; }
 
     const Accessibilita bus{schermo};
 

@@ -54,6 +54,10 @@ std::string Schermo::tool(const std::vector<std::string>& words) const {
     return std::move(esito.output);
 }
 
+void Schermo::moveMouseAway() const {
+    tool({"xdotool", "mousemove", "0", "0"});
+}
+
 void Schermo::savePicture(const std::string& file) const {
     tool({"import", "-silent", "-window", "root", "png:" + file});
 }

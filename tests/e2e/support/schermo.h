@@ -28,6 +28,8 @@ public:
     /// The same for a tool whose failure is an answer.
     Esito tryTool(const std::vector<std::string>& words) const;
 
+    /// Puts the mouse where nothing stands out because it is there.
+    void moveMouseAway() const;
     /// Saves what the screen shows as a PNG file.
     void savePicture(const std::string& file) const;
 
