@@ -122,7 +122,13 @@ bool coversBar(const ChartLayout& layout, const ChartArea& text) {
     return std::any_of(first, last, [&text](const ChartBar& bar) { return bar.area.overlaps(text); });
 }
 
-/// Writes the values above their bars, from left to right, where they cover neither a bar nor a value.
+/// Impossible hours from a file have a hundred digits.
+bool leavesChart(const ChartLayout& layout, const ChartArea& text) {
+    return text.x < 0 || text.right() > layout.size.width;
+}
+
+/// Writes the values above their bars, from left to right, where they cover neither a bar nor a value and
+/// stay within the chart.
 void placeValues(const ChartLayoutTask& task) {
     ChartLayout& layout = task.layout;
     if (layout.bars.empty() || layout.bars.front().slot.width < NarrowestSlot) {
@@ -140,7 +146,7 @@ void placeValues(const ChartLayoutTask& task) {
         const auto near = std::find_if(placed.begin(), placed.end(),
                                        [&](const ChartArea& each) { return each.x + widest > area.x; });
         placed.erase(placed.begin(), near); // they lie too far left for all that follow, too
-        const bool free = !coversBar(layout, area) &&
+        const bool free = !leavesChart(layout, area) && !coversBar(layout, area) &&
                           std::none_of(placed.begin(), placed.end(),
                                        [&area](const ChartArea& each) { return each.overlaps(area); });
         if (free) {

@@ -52,6 +52,22 @@ TEST(BarLayout, ANegativeValueHasNoHeightAndItsValueWritten) {
     EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("-2:00"));
 }
 
+TEST(BarLayout, AValueThatWouldLeaveTheChartIsNotWritten) {
+    const ChartLayout layout = layoutOf(oneSeries({8, -9e99, 8}, 8), {300, 500});
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("8:00", "8:00"));
+    EXPECT_THAT(textsOf(layoutOf(oneSeries({-9e300}, 8)), ChartTextRole::value), IsEmpty());
+}
+
+TEST(BarLayout, ValuesOfNarrowSlotsStayWithinTheChart) {
+    std::vector<double> values(60, 0);
+    values.back() = 10000.5;
+    const ChartLayout layout = layoutOf(oneSeries(values, 32767), {300, 500});
+    for (const PlacedText& text : layout.texts) {
+        EXPECT_GE(text.area.x, 0) << text.text;
+        EXPECT_LE(text.area.right(), 300) << text.text;
+    }
+}
+
 TEST(BarLayout, AnAxisWhoseMaximumIs0IsStillDrawn) {
     const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(31, 0), 0));
     EXPECT_THAT(layout.majorLines, ElementsAre(layout.plot.bottom()));
