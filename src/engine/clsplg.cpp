@@ -82,6 +82,8 @@ void clsplg::Init_planner(const std::string& chiave, const std::string& startdat
     m.controlli.tipoVisibile = tipoPlanner(slice(chiave, 0, 1));
     setToolbarForKind();
     LeggiCollab();
+    m.sessione.IndiceRichiesto =
+        trim(collab).empty() ? std::int16_t{-1} : m.sessione.indiceCodici.trova(collab);
     runCommand(m.messaggi, [&] { prepareKind(collab); });
 }
 

@@ -12,13 +12,15 @@ namespace planner {
 
 namespace {
 
-/// Runs a reader under its error trap: any failure shows `wording` and the path.
+/// Runs a reader under its error trap: any failure shows `wording` and the path. True when it went well.
 template <typename Reader>
-void trap(MessageBoxes& messaggi, std::string_view wording, const std::string& path, Reader reader) {
+bool trap(MessageBoxes& messaggi, std::string_view wording, const std::string& path, Reader reader) {
     try {
         reader();
+        return true;
     } catch (const RuntimeError&) {
         messaggi.information(std::string(wording) + path);
+        return false;
     }
 }
 
@@ -30,7 +32,8 @@ std::string clsplg::archivePath(std::string_view file) const {
 
 void clsplg::LeggiDati() {
     const std::string path = archivePath(FileRighe);
-    trap(m.messaggi, "Errore su File :", path, [&] { readRighePlanner(m.files, path, m.sessione.archivi); });
+    m.sessione.letture.righe = trap(m.messaggi, "Errore su File :", path,
+                                    [&] { readRighePlanner(m.files, path, m.sessione.archivi); });
     // The shown day and the staff rows do not hang on this file: they hold without it too.
     m.controlli.calendario.setValue(m.sessione.DataSessione);
     Dayofweek();
@@ -44,7 +47,7 @@ void clsplg::setGridRows() {
 
 void clsplg::LeggiDatiAnnuali() {
     const std::string path = archivePath(FileAnnuale);
-    trap(m.messaggi, "Errore su File :", path, [&] {
+    m.sessione.letture.annuale = trap(m.messaggi, "Errore su File :", path, [&] {
         readPlannerAnnuale(m.files, path, m.sessione.archivi);
         m.controlli.calendario.setValue(
             dateFromTexts("01", "01", m.sessione.archivi.PlannerAnnuale.front().anno.view()));
@@ -52,7 +55,8 @@ void clsplg::LeggiDatiAnnuali() {
 }
 
 bool clsplg::LeggiCollab() {
-    bool read = true;
+    bool& read = m.sessione.letture.collaboratori;
+    read = true;
     try {
         readCollaboratori(m.files, archivePath(FileCollaboratori), m.sessione.archivi);
     } catch (const RuntimeError&) {
@@ -64,7 +68,8 @@ bool clsplg::LeggiCollab() {
 
 void clsplg::LeggiDatiPerGrafici() {
     const std::string path = archivePath(FileGrafici);
-    trap(m.messaggi, "Errore sul File :", path, [&] { readRigheGrafici(m.files, path, m.sessione.archivi); });
+    m.sessione.letture.grafici = trap(m.messaggi, "Errore sul File :", path,
+                                      [&] { readRigheGrafici(m.files, path, m.sessione.archivi); });
 }
 
 void clsplg::PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const {

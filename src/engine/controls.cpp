@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "engine/controls.h"
 
+#include "grids/today.h"
+
+#include <utility>
+
 namespace planner {
 
 std::optional<TipoPlanner> tipoPlanner(std::string_view lettera) {
@@ -13,19 +17,12 @@ std::optional<TipoPlanner> tipoPlanner(std::string_view lettera) {
     return std::nullopt;
 }
 
-Griglia* ControlliPlcal::grigliaVisibile() {
-    if (!tipoVisibile) {
-        return nullptr;
-    }
-    switch (*tipoVisibile) {
-    case TipoPlanner::Mensile:
-        return &Flxm;
-    case TipoPlanner::Giornaliero:
-        return &flxg;
-    case TipoPlanner::Annuale:
-        return &flxa;
-    }
-    return nullptr;
+const Griglia& ControlliPlcal::griglia(TipoPlanner tipo) const {
+    return tipo == TipoPlanner::Mensile ? Flxm : tipo == TipoPlanner::Giornaliero ? flxg : flxa;
+}
+
+Griglia& ControlliPlcal::griglia(TipoPlanner tipo) {
+    return const_cast<Griglia&>(std::as_const(*this).griglia(tipo));
 }
 
 std::string_view ControlliPlcal::nomeGrigliaVisibile() const {
@@ -35,6 +32,20 @@ std::string_view ControlliPlcal::nomeGrigliaVisibile() const {
     return *tipoVisibile == TipoPlanner::Mensile       ? "Flxm"
            : *tipoVisibile == TipoPlanner::Giornaliero ? "flxg"
                                                        : "flxa";
+}
+
+void segnaOggi(ControlliPlcal& controlli, Data oggi) {
+    if (!controlli.tipoVisibile) {
+        return;
+    }
+    switch (*controlli.tipoVisibile) {
+    case TipoPlanner::Mensile:
+        return markTodayMonthly(controlli.Flxm, controlli.calendario, oggi);
+    case TipoPlanner::Giornaliero:
+        return markTodayDaily(controlli.flxg, controlli.calendario, oggi);
+    case TipoPlanner::Annuale:
+        return markTodayYearly(controlli.flxa, controlli.calendario, oggi);
+    }
 }
 
 } // namespace planner

@@ -33,9 +33,16 @@ struct ControlliPlcal {
     Griglia flxa{RigheAnnuale, ColonneGiorni + 1, 1, Colore::bianco};
     std::optional<TipoPlanner> tipoVisibile; // whose grid is the visible one
 
+    /// The grid of a kind.
+    Griglia& griglia(TipoPlanner tipo);
+    const Griglia& griglia(TipoPlanner tipo) const;
     /// The visible grid and its name; null and empty when none is.
-    Griglia* grigliaVisibile();
+    Griglia* grigliaVisibile() { return tipoVisibile ? &griglia(*tipoVisibile) : nullptr; }
+    const Griglia* grigliaVisibile() const { return tipoVisibile ? &griglia(*tipoVisibile) : nullptr; }
     std::string_view nomeGrigliaVisibile() const;
 };
+
+/// Marks today in the visible grid, laid out for the date of the calendar, and unmarks every other day.
+void segnaOggi(ControlliPlcal& controlli, Data oggi);
 
 } // namespace planner

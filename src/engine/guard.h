@@ -7,15 +7,21 @@
 
 namespace planner {
 
-/// Runs a command of the user or the host; a run-time error ends the command and is said in a message box,
-/// and the planner goes on. False when the command failed.
+/// The sentence for the user on what ended a command, UTF-8.
+inline std::string operazioneNonRiuscita(const std::exception& error) {
+    const bool foreseen = dynamic_cast<const RuntimeError*>(&error) != nullptr;
+    return (foreseen ? "Operazione non riuscita: " : "Errore imprevisto: ") + std::string(error.what()) + ".";
+}
+
+/// Runs a command of the user or the host; an error ends the command and is said in a message box, and the
+/// planner goes on. False when the command failed.
 template <typename Command>
 bool runCommand(MessageBoxes& messaggi, Command command) {
     try {
         command();
         return true;
-    } catch (const RuntimeError& error) {
-        messaggi.critical("Operazione non riuscita: " + std::string(error.what()) + ".");
+    } catch (const std::exception& error) {
+        messaggi.critical(operazioneNonRiuscita(error));
         return false;
     }
 }

@@ -5,10 +5,11 @@
 namespace planner {
 
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi,
-                               plcal::FabbricaMotore fabbrica)
+                               const Clock& orologio, plcal::FabbricaMotore fabbrica)
     : vista(sessione, controlli), finestraGrafici(messaggi),
       collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
-      finestra(sessione, controlli, {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici},
+      finestra(sessione, controlli,
+               {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici, orologio},
                std::move(fabbrica)) {
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);

@@ -8,8 +8,8 @@ Impegno leggiImpegno(const RigaPlanner& riga, const modpl& sessione, bool dettag
     Impegno impegno{sessione.indiceCodici.IndCollaboratore(riga.codice.view()),
                     dateFromTexts(riga.giorno.view(), riga.mese.view(), riga.anno.view()),
                     valoriContatori(riga), /*tipi=*/0, /*immagine=*/0};
-    impegno.tipi = immagineTipi(tipiPresenti(impegno.valori));
-    impegno.immagine = impegno.tipi == 0 || dettagliato ? impegno.tipi : ImmaginePresenza;
+    impegno.tipi = tipiPresenti(impegno.valori);
+    impegno.immagine = impegno.tipi == 0 || dettagliato ? immagineTipi(impegno.tipi) : ImmaginePresenza;
     return impegno;
 }
 

@@ -13,8 +13,8 @@ struct Impegno {
     int indice; // staff index
     Data data;
     ValoriContatori valori;
-    int tipi;     // number of the picture of the kinds present, 0 for none
-    int immagine; // the picture to show, 0 for none
+    unsigned tipi; // the kinds present: bit i stands for `TipiImpegno[i]`
+    int immagine;  // the picture to show, 0 for none
 };
 
 /// Reads the record. Throws DateError or OverflowError.

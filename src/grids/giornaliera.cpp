@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 
 namespace planner {
 
@@ -39,12 +40,22 @@ int numberUpTo(std::string_view text, int maximum) {
 void paintEntry(Griglia& flxg, int row, const Impegno& impegno, IntervalloColonne columns) {
     if (impegno.immagine != 0) {
         flxg.setCellPicture(row, columns.prima, impegno.immagine);
-        flxg.setCellKinds(row, columns.prima, impegno.tipi);
+        flxg.addCellKinds(row, columns.prima, impegno.tipi);
     }
     for (int column = std::max(columns.prima, 1); column <= columns.ultima; ++column) {
         flxg.setCellBackColor(row, column, Colore::azzurro);
         flxg.setCellEntry(row, column, true);
-        flxg.setCellKinds(row, column, impegno.tipi);
+        flxg.addCellKinds(row, column, impegno.tipi);
+    }
+}
+
+/// The bars of each row, in the order of their records.
+using FasceRighe = std::map<int, std::vector<FasciaImpegno>>;
+
+void setBars(Griglia& flxg, FasceRighe& rows) {
+    for (auto& [row, bars] : rows) {
+        assegnaCorsie(bars);
+        flxg.setFasce(row, std::move(bars));
     }
 }
 
@@ -64,6 +75,31 @@ IntervalloColonne colonneImpegno(const RigaPlanner& riga) {
     const int minute = std::max(numberUpTo(riga.minutoInizio.view(), 59), 0);
     const int first = hour * QuartersPerHour + minute / MinutesPerQuarter + 1;
     return {first, std::min(first + slots - 1, ColonneQuarti)};
+}
+
+void assegnaCorsie(std::vector<FasciaImpegno>& fasce) {
+    std::stable_sort(fasce.begin(), fasce.end(),
+                     [](const FasciaImpegno& a, const FasciaImpegno& b) { return a.prima < b.prima; });
+    auto first = fasce.begin(); // of the bars that hang together
+    std::vector<int> ends;      // last column of each lane
+    int last = 0;
+    const auto closeGroup = [&](auto next) {
+        std::for_each(first, next,
+                      [&](FasciaImpegno& fascia) { fascia.corsie = static_cast<int>(ends.size()); });
+        first = next;
+        ends.clear();
+    };
+    for (auto fascia = fasce.begin(); fascia != fasce.end(); ++fascia) {
+        if (fascia->prima > last) {
+            closeGroup(fascia);
+        }
+        const auto lane =
+            std::find_if(ends.begin(), ends.end(), [&](int end) { return end < fascia->prima; });
+        fascia->corsia = static_cast<int>(lane - ends.begin());
+        lane == ends.end() ? ends.push_back(fascia->ultima) : void(*lane = fascia->ultima);
+        last = std::max(last, fascia->ultima);
+    }
+    closeGroup(fasce.end());
 }
 
 void showgrid2(Griglia& flxg) {
@@ -87,12 +123,18 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
                numericValue(riga.mese.view()) == calendario.Month() &&
                numericValue(riga.anno.view()) == calendario.Year();
     };
+    FasceRighe bars;
     const EsitoRiempimento esito = forEachRecord(sessione.archivi, onShownDay, [&](const RigaPlanner& riga) {
         const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
         const IntervalloColonne columns = colonneImpegno(riga);
+        const int row = impegno.indice + PrimaRigaGiornaliera;
         sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
-        paintEntry(flxg, impegno.indice + PrimaRigaGiornaliera, impegno, columns);
+        paintEntry(flxg, row, impegno, columns);
+        if (columns.prima > 0) {
+            bars[row].push_back({columns.prima, columns.ultima, impegno.immagine});
+        }
     });
+    setBars(flxg, bars);
     flxg.setCurrent(PrimaRigaGiornaliera, 1);
     return esito;
 }

@@ -22,6 +22,10 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
 /// Empties the data rows.
 void PulisciGrid2(Griglia& flxg, bool dettagliato);
 
+/// Orders a row's bars from left to right and gives each a lane: bars that overlap, directly or through
+/// others, share the row's height, and no two in one lane touch the same column.
+void assegnaCorsie(std::vector<FasciaImpegno>& fasce);
+
 /// Columns of the daily grid, bounds included.
 struct IntervalloColonne {
     int prima, ultima;

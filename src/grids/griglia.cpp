@@ -37,6 +37,7 @@ void Griglia::setRows(int rows) {
     m_rows = std::max(rows, m_fixedRows);
     m_cells.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols));
     m_rowHeights.resize(static_cast<std::size_t>(m_rows), DefaultRowHeight);
+    std::erase_if(m_fasce, [this](const auto& row) { return row.first >= m_rows; });
     m_row = std::min(m_row, m_rows - 1);
     m_dirty.include(m_fixedRows, 0);
     m_dirty.include(m_rows - 1, m_cols - 1);
@@ -49,6 +50,7 @@ void Griglia::setCols(int cols) {
     }
     const LockWindowUpdate lock(*this);
     m_cols = std::max(cols, FixedCols());
+    m_fasce.clear();
     m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
     m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
     m_col = std::min(m_col, m_cols - 1);
@@ -96,8 +98,22 @@ void Griglia::setCellAlignment(int row, int col, Allineamento allineamento) {
     change(row, col, [=](Cella& cell) { cell.allineamento = allineamento; });
 }
 
-void Griglia::setCellKinds(int row, int col, int tipi) {
-    change(row, col, [=](Cella& cell) { cell.tipi = std::clamp(tipi, 0, 15) & 0xF; });
+void Griglia::addCellKinds(int row, int col, unsigned tipi) {
+    change(row, col, [=](Cella& cell) { cell.tipi = (cell.tipi | tipi) & 0xFu; });
+}
+
+std::span<const FasciaImpegno> Griglia::fasce(int row) const {
+    index(row, 0);
+    const auto found = m_fasce.find(row);
+    return found == m_fasce.end() ? std::span<const FasciaImpegno>() : found->second;
+}
+
+void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
+    index(row, 0);
+    m_fasce[row] = std::move(fasce);
+    m_dirty.include(row, 0);
+    m_dirty.include(row, m_cols - 1);
+    notify();
 }
 
 void Griglia::setCellEntry(int row, int col, bool impegno) {

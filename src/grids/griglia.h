@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -20,7 +21,7 @@ struct Cella {
     Colore sfondo : 4 = Colore::predefinito;
     std::uint8_t immagine : 5 = 0; // 1 to 16, 0 for none
     Carattere carattere : 3 = Carattere::normale;
-    std::uint8_t tipi : 4 = 0; // kinds of entries present, as the number of their picture; 0 for none
+    std::uint8_t tipi : 4 = 0; // kinds of entries present: bit i stands for `TipiImpegno[i]`
     Allineamento allineamento : 1 = Allineamento::centro;
     bool impegno : 1 = false; // part of an appointment's span
     bool oggi : 1 = false;    // stands for today
@@ -28,6 +29,18 @@ struct Cella {
     friend bool operator==(const Cella&, const Cella&) = default;
 };
 static_assert(sizeof(Cella) == 8);
+
+/// An appointment's bar in a row of the daily grid. Appointments that overlap stand one above the other, each
+/// in a lane of its own.
+struct FasciaImpegno {
+    int prima, ultima; // columns, bounds included
+    int immagine = 0;  // in the first column; 0 for none
+    int corsia = 0;    // from the top, counted from 0
+    int corsie = 1;    // that the row is divided into where the bar stands
+
+    bool copre(int colonna) const { return prima <= colonna && colonna <= ultima; }
+    friend bool operator==(const FasciaImpegno&, const FasciaImpegno&) = default;
+};
 
 /// A rectangle of cells, bounds included; empty at first.
 struct AreaCelle {
@@ -75,10 +88,15 @@ public:
     void setCellBackColor(int row, int col, Colore colore);
     void setCellPicture(int row, int col, int immagine);
     void setCellFont(int row, int col, Carattere carattere);
-    void setCellKinds(int row, int col, int tipi);
+    /// Adds kinds of entries to those that the cell has.
+    void addCellKinds(int row, int col, unsigned tipi);
     void setCellEntry(int row, int col, bool impegno);
     void setCellToday(int row, int col, bool oggi);
     void setCellAlignment(int row, int col, Allineamento allineamento);
+
+    /// The appointments' bars of a row, from its first column on; none after a clear.
+    std::span<const FasciaImpegno> fasce(int row) const;
+    void setFasce(int row, std::vector<FasciaImpegno> fasce);
 
     /// The back colour that the cell shows: its own, or that of the grid's fixed or data cells.
     Colore sfondoVisibile(int row, int col) const;
@@ -117,6 +135,7 @@ private:
     std::vector<Cella> m_cells;
     std::vector<int> m_rowHeights;
     std::vector<int> m_colWidths;
+    std::unordered_map<int, std::vector<FasciaImpegno>> m_fasce; // by row; few rows have any
 
     std::deque<std::string> m_texts{std::string()}; // a deque: the map's keys point into it
     std::unordered_map<std::string_view, std::uint32_t> m_textIndex{{std::string_view(), 0}};

@@ -75,7 +75,7 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
                 const int row = impegno.indice + PrimaRigaMensile;
                 const int column = firstDay + dayOf(impegno.data) - 1;
                 Flxm.setCellPicture(row, column, impegno.immagine);
-                Flxm.setCellKinds(row, column, impegno.tipi);
+                Flxm.addCellKinds(row, column, impegno.tipi);
             }
         });
     Flxm.setCurrent(PrimaRigaMensile, 1);

@@ -22,12 +22,13 @@ void markTodayDaily(Griglia& flxg, const Calendario& calendario, Data oggi) {
 }
 
 void markTodayYearly(Griglia& flxa, const Calendario& calendario, Data oggi) {
-    if (calendario.Year() != yearOf(oggi)) {
-        return; // the data rows are new with each layout
-    }
+    const Griglia::LockWindowUpdate lock(flxa);
     const std::string day = std::to_string(dayOf(oggi));
-    for (int column = 1; column <= ColonneGiorni; ++column) {
-        flxa.setCellToday(monthOf(oggi), column, flxa.TextMatrix(monthOf(oggi), column) == day);
+    for (int month = 1; month <= 12; ++month) {
+        const bool shownMonth = calendario.Year() == yearOf(oggi) && month == monthOf(oggi);
+        for (int column = 1; column <= ColonneGiorni; ++column) {
+            flxa.setCellToday(month, column, shownMonth && flxa.TextMatrix(month, column) == day);
+        }
     }
 }
 

@@ -7,11 +7,11 @@
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
 #include "platform/qt/appearance.h"
+#include "platform/qt/guarded_application.h"
 #include "platform/qt/qt_event_pump.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/qt/qt_periodic_timer.h"
 
-#include <QApplication>
 #include <QTimer>
 
 #include <span>
@@ -51,19 +51,20 @@ int main(int argc, char* argv[]) {
         return 0;
     }
     int toolkitArguments = 1; // the command line is the host's: the toolkit takes no switch from it
-    QApplication application(toolkitArguments, argv);
+    GuardedApplication application(toolkitArguments, argv);
     setUpAppearance(application);
 
     PosixFileSystem files;
     SystemClock orologio;
     QtMessageBoxes messaggi;
+    application.setMessages(&messaggi);
     QtEventPump eventi;
     TavTermHostIpc ipc;
 
     modpl sessione;
     ControlliPlcal controlli;
     std::function<std::unique_ptr<clsplg>()> newEngine;
-    PlannerWindows finestre(sessione, controlli, messaggi, [&newEngine] { return newEngine(); });
+    PlannerWindows finestre(sessione, controlli, messaggi, orologio, [&newEngine] { return newEngine(); });
     newEngine = [&] {
         return std::make_unique<clsplg>(
             Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});

@@ -75,12 +75,20 @@ TEST(TotalsTest, ANewTableIsAllZeroWithIndicesUpToItsBound) {
     }
 }
 
-TEST(TotalsTest, AnIndexOutsideTheTableIsASubscriptError) {
+TEST(TotalsTest, BeyondTheTableNothingIsAddedAndNothingStands) {
     TabellaTotali totals(1);
-    EXPECT_THROW(totals.aggiungi(2, {}), SubscriptError);
-    EXPECT_THROW(totals.aggiungi(-1, {}), SubscriptError);
-    EXPECT_THROW(totals.at(2, 0), SubscriptError);
-    EXPECT_THROW(totals.at(-1, 0), SubscriptError);
+    const auto values = valoriContatori(riga("RB", "20060315", {{1, "00007"}}));
+    for (const int index : {2, -1, 32767}) {
+        totals.aggiungi(index, values);
+        EXPECT_EQ(totals.at(index, 0), 0) << index;
+        EXPECT_FALSE(totals.contiene(index)) << index;
+    }
+    EXPECT_EQ(totals.righe(), TabellaTotali(1).righe());
+    EXPECT_TRUE(totals.contiene(1));
+}
+
+TEST(TotalsTest, ACategoryThatIsNoneIsASubscriptError) {
+    const TabellaTotali totals(1);
     EXPECT_THROW(totals.at(0, 7), SubscriptError);
     EXPECT_THROW(totals.at(0, -1), SubscriptError);
 }

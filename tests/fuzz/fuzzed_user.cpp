@@ -37,7 +37,7 @@ Data dayFrom(Data shown, int distance) {
 
 void FuzzedUser::act(FuzzInput& input) {
     try {
-        perform(static_cast<Gesto>(input.byte() % NumeroGesti), input);
+        perform(static_cast<Azione>(input.byte() % NumeroGesti), input);
     } catch (const std::exception& error) {
         require(false, "a command of the window let an error out: " + std::string(error.what()));
     }
@@ -61,40 +61,38 @@ void FuzzedUser::requireSoundState() {
     finestraGrafici.shown.clear();
 }
 
-void FuzzedUser::perform(Gesto gesto, FuzzInput& input) {
-    switch (gesto) {
-    case Gesto::scegliGiorno:
+void FuzzedUser::perform(Azione azione, FuzzInput& input) {
+    switch (azione) {
+    case Azione::scegliGiorno:
         return form.calendario_DateClick(dayFrom(controlli.calendario.Value(), input.byte()));
-    case Gesto::pulsantePeriodo: {
+    case Azione::pulsantePeriodo: {
         const PulsantePeriodo& pulsante = oneOf(PulsantiPeriodo, input.byte());
         form.pulsantePeriodoAttivo(pulsante);
         return form.pulsantePeriodo_Click(pulsante);
     }
-    case Gesto::indicePeriodo:
+    case Azione::indicePeriodo:
         return choosePeriod(coordinate(input));
-    case Gesto::toolbar:
+    case Azione::toolbar:
         return form.Toolbar1_ButtonClick(toolbarKey(input.byte()));
-    case Gesto::sceltaImpegno:
+    case Azione::sceltaImpegno:
         finestraImpegno.user = [option = coordinate(input)](plfimp& dialogo) {
             dialogo.Option1_Click(option);
             dialogo.conferma_Click();
         };
         return;
     default:
-        return gesto <= Gesto::muoveConTasto ? performInGrid(gesto, input) : performInStaffList(gesto, input);
+        return azione <= Azione::muoveConTasto ? performInGrid(azione, input)
+                                               : performInStaffList(azione, input);
     }
 }
 
-void FuzzedUser::performInGrid(Gesto gesto, FuzzInput& input) {
+void FuzzedUser::performInGrid(Azione azione, FuzzInput& input) {
     const int riga = coordinate(input);
     const int colonna = coordinate(input);
-    if (gesto == Gesto::selezionaCella) {
-        form.SelChange(riga, colonna);
-    } else if (gesto == Gesto::cliccaCella) {
-        form.Click(riga, colonna);
-    } else {
-        form.RowColChange(riga, colonna, /*tastoTenuto=*/true);
-    }
+    const Mezzo mezzo = azione == Azione::selezionaCella ? Mezzo::assistenza
+                        : azione == Azione::cliccaCella  ? Mezzo::clic
+                                                         : Mezzo::frecce;
+    form.griglia_Gesto({riga, colonna, mezzo});
 }
 
 void FuzzedUser::choosePeriod(int indice) {
@@ -105,17 +103,17 @@ void FuzzedUser::choosePeriod(int indice) {
     }
 }
 
-void FuzzedUser::performInStaffList(Gesto gesto, FuzzInput& input) {
+void FuzzedUser::performInStaffList(Azione azione, FuzzInput& input) {
     if (!collaboratori.isShown()) {
         return; // a window out of sight takes no commands
     }
-    if (gesto == Gesto::elencoToolbar) {
+    if (azione == Azione::elencoToolbar) {
         collaboratori.Toolbar_pren_ButtonClick(coordinate(input));
-    } else if (gesto == Gesto::elencoFreccia) {
+    } else if (azione == Azione::elencoFreccia) {
         collaboratori.ButtonFrecce_Click(coordinate(input));
-    } else if (gesto == Gesto::elencoSeleziona) {
+    } else if (azione == Azione::elencoSeleziona) {
         collaboratori.List_Prenotazione_ItemClick(coordinate(input));
-    } else if (gesto == Gesto::elencoSpunta) {
+    } else if (azione == Azione::elencoSpunta) {
         collaboratori.List_Prenotazione_ItemCheck(coordinate(input), /*spuntata=*/true);
     } else {
         vistaCollab.risposta = input.part();

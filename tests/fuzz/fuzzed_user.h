@@ -8,7 +8,7 @@
 namespace planner::test {
 
 /// What a user can do in the windows; each is one byte of the input, followed by one or two for the place.
-enum class Gesto : std::uint8_t {
+enum class Azione : std::uint8_t {
     selezionaCella,  // row, column
     cliccaCella,     // row, column
     muoveConTasto,   // row, column
@@ -39,9 +39,9 @@ public:
 
 private:
     void TestBody() override {}
-    void perform(Gesto gesto, FuzzInput& input);
-    void performInGrid(Gesto gesto, FuzzInput& input);
-    void performInStaffList(Gesto gesto, FuzzInput& input);
+    void perform(Azione azione, FuzzInput& input);
+    void performInGrid(Azione azione, FuzzInput& input);
+    void performInStaffList(Azione azione, FuzzInput& input);
     void choosePeriod(int indice);
     void requireSoundState();
 };

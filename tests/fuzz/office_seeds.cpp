@@ -24,12 +24,12 @@ char byteOf(int value) {
     return static_cast<char>(static_cast<unsigned char>(value));
 }
 
-std::string gesto(Gesto gesto, int valore) {
-    return {byteOf(static_cast<int>(gesto)), byteOf(valore)};
+std::string passo(Azione azione, int valore) {
+    return {byteOf(static_cast<int>(azione)), byteOf(valore)};
 }
 
-std::string cella(Gesto gesto, int riga, int colonna) {
-    return {byteOf(static_cast<int>(gesto)), byteOf(riga - PrimaCoordinata),
+std::string cella(Azione azione, int riga, int colonna) {
+    return {byteOf(static_cast<int>(azione)), byteOf(riga - PrimaCoordinata),
             byteOf(colonna - PrimaCoordinata)};
 }
 
@@ -38,7 +38,7 @@ std::string premi(std::string_view chiave) {
     while (PulsantiToolbar.at(static_cast<std::size_t>(place)).chiave != chiave) {
         ++place;
     }
-    return gesto(Gesto::toolbar, place);
+    return passo(Azione::toolbar, place);
 }
 
 std::string numberBytes(int number) {
@@ -66,11 +66,11 @@ Office smallOffice() {
 
 std::string staffGestures() {
     // The row after the last is none.
-    return premi("coll") + gesto(Gesto::elencoSpunta, 5) + gesto(Gesto::elencoSeleziona, 5) +
-           gesto(Gesto::elencoSpunta, 3) + gesto(Gesto::elencoToolbar, 6) + gesto(Gesto::elencoToolbar, 7) +
-           gesto(Gesto::elencoToolbar, 11) + gesto(Gesto::elencoFreccia, 4) +
-           byteOf(static_cast<int>(Gesto::elencoCerca)) + asPart("ross") + gesto(Gesto::elencoSeleziona, 2) +
-           gesto(Gesto::elencoToolbar, 13);
+    return premi("coll") + passo(Azione::elencoSpunta, 5) + passo(Azione::elencoSeleziona, 5) +
+           passo(Azione::elencoSpunta, 3) + passo(Azione::elencoToolbar, 6) +
+           passo(Azione::elencoToolbar, 7) + passo(Azione::elencoToolbar, 11) +
+           passo(Azione::elencoFreccia, 4) + byteOf(static_cast<int>(Azione::elencoCerca)) + asPart("ross") +
+           passo(Azione::elencoSeleziona, 2) + passo(Azione::elencoToolbar, 13);
 }
 
 Office hostileOffice() {
@@ -110,17 +110,17 @@ std::string onlyRequest(const std::string& transito) {
 
 std::vector<NamedSeed> gestureSeeds() {
     const std::string month = bytesOf(richiesta("M"));
-    const std::string select = cella(Gesto::selezionaCella, 3, 17);
+    const std::string select = cella(Azione::selezionaCella, 3, 17);
     return {
-        {"month", session(month, select + cella(Gesto::cliccaCella, 3, 17) + premi("dettno") +
-                                     gesto(Gesto::pulsantePeriodo, 1) + gesto(Gesto::scegliGiorno, 131) +
+        {"month", session(month, select + cella(Azione::cliccaCella, 3, 17) + premi("dettno") +
+                                     passo(Azione::pulsantePeriodo, 1) + passo(Azione::scegliGiorno, 131) +
                                      premi("consult"))},
-        {"day", session(bytesOf(richiesta("G")), cella(Gesto::selezionaCella, 1, 39) +
-                                                     gesto(Gesto::pulsantePeriodo, 5) + premi("grafici") +
-                                                     gesto(Gesto::sceltaImpegno, 3) + premi("insimp"))},
-        {"year", session(bytesOf(richiesta("A")), cella(Gesto::selezionaCella, 1, 3) +
-                                                      cella(Gesto::muoveConTasto, 1, 9) + premi("grafici") +
-                                                      gesto(Gesto::pulsantePeriodo, 7))},
+        {"day", session(bytesOf(richiesta("G")), cella(Azione::selezionaCella, 1, 39) +
+                                                     passo(Azione::pulsantePeriodo, 5) + premi("grafici") +
+                                                     passo(Azione::sceltaImpegno, 3) + premi("insimp"))},
+        {"year", session(bytesOf(richiesta("A")), cella(Azione::selezionaCella, 1, 3) +
+                                                      cella(Azione::muoveConTasto, 1, 9) + premi("grafici") +
+                                                      passo(Azione::pulsantePeriodo, 7))},
         {"charts", session(month, premi("grafici") + select + premi("grafici"))},
         {"consult", session(month, premi("consult") + select + premi("consult"))},
         {"staff", session(month, staffGestures())},
@@ -134,10 +134,10 @@ std::vector<NamedSeed> unusualSeeds() {
     return {
         {"first_to_last_year",
          session(withPeriod("M", "17530101", "99991231"),
-                 gesto(Gesto::indicePeriodo, 2) + gesto(Gesto::indicePeriodo, 3) + premi("agenda"))},
+                 passo(Azione::indicePeriodo, 2) + passo(Azione::indicePeriodo, 3) + premi("agenda"))},
         {"december_and_on", session(withPeriod("M", "20061215", "20071231"),
-                                    gesto(Gesto::pulsantePeriodo, 1) + gesto(Gesto::pulsantePeriodo, 0))},
-        {"reduced_window", session(reduced, cella(Gesto::selezionaCella, 2, 5) + premi("insimp"))},
+                                    passo(Azione::pulsantePeriodo, 1) + passo(Azione::pulsantePeriodo, 0))},
+        {"reduced_window", session(reduced, cella(Azione::selezionaCella, 2, 5) + premi("insimp"))},
         {"hostile_records", hostileOffice().bytes()},
         {"short_transit_file", onlyRequest("host-001M")},
         {"blank_and_too_long", onlyRequest(std::string(130, ' '))},

@@ -4,6 +4,7 @@
 
 #include "engine/motore.h"
 #include "engine/session/dates.h"
+#include "forms/plcal/design.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/vista_plfcollab.h"
 #include "forms/plfgraf/finestra_grafici.h"
@@ -79,6 +80,7 @@ class FixedClock : public Clock {
 public:
     explicit FixedClock(Data today) : m_today(today) {}
     Data today() const override { return m_today; }
+    void setToday(Data today) { m_today = today; }
 
 private:
     Data m_today;
@@ -151,6 +153,9 @@ public:
     void aggiorna() override { m_journal.push_back("update"); }
     void disponiPulsantiPeriodo() override { m_journal.push_back("place period buttons"); }
     void scorriA(int colonna) override { m_journal.push_back("scroll to " + std::to_string(colonna)); }
+    int primaColonnaInVista() const override { return firstColumn; }
+    void scorriAlCursore() override { m_journal.push_back("scroll to the cursor"); }
+    void rinvia(Action azione) override { azione(); }
     void mostra() override { m_journal.push_back("show"); }
     void nascondi() override { m_journal.push_back("hide"); }
     void portaDavanti() override { m_journal.push_back("bring to front"); }
@@ -158,6 +163,7 @@ public:
     void mostraInformazioni() override { m_journal.push_back("information"); }
 
     Dimensioni screen = ProgettoPlcal;
+    int firstColumn = PrimaColonnaGiornaliera;
     std::vector<ControlloProgetto> placed;
     Scala placedScale;
 

@@ -78,12 +78,12 @@ TEST_F(EdgeCasesTest, ATotalOfZeroIsAnEmptyLabel) {
     EXPECT_EQ(text("lblpra"), QString());
 }
 
-TEST_F(EdgeCasesTest, InTheYearlyGridTheMouseMovesTheCalendarOnlyByItsClick) {
+TEST_F(EdgeCasesTest, AClickActsOnceAtThePress) {
     bench.open("A");
     auto& view = bench.view();
     const QPoint firstOfMay = view.visualRect(view.model()->index(4, 0)).center();
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, firstOfMay);
-    EXPECT_EQ(bench.shownDay(), "20060315");
+    EXPECT_EQ(bench.shownDay(), "20060501");
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::NoModifier, firstOfMay);
     EXPECT_EQ(bench.shownDay(), "20060501");
     bench.key(Qt::Key_Right);

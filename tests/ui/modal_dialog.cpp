@@ -14,7 +14,7 @@ void whileModal(const std::function<void()>& open, const std::function<void(QDia
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* modal = QApplication::activeModalWidget();
         auto* dialog = modal != outer ? qobject_cast<QDialog*>(modal) : nullptr;
-        if (dialog != nullptr && dialog->isVisible()) {
+        if (dialog != nullptr && dialog->isActiveWindow()) { // before, keys do not find their way in it
             poll.stop();
             user(*dialog);
         }

@@ -13,7 +13,8 @@ namespace planner::test {
 /// The real planner window over archives in memory: what `main` wires, without host and transit file.
 struct WindowBench {
     PlannerBench base;
-    PlannerWindows finestre{base.sessione, base.controlli, base.messaggi, [this] { return newEngine(); }};
+    PlannerWindows finestre{base.sessione, base.controlli, base.messaggi, base.orologio,
+                            [this] { return newEngine(); }};
     PlcalWindow& vista = finestre.vista;
     plcal& finestra = finestre.finestra;
 

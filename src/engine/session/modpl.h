@@ -23,6 +23,11 @@ struct PeriodoSessione {
     Data fine() const { return dateFromTexts(GiornoFine, MeseFine, AnnoFine); }
 };
 
+/// Whether the last reading of each archive went well. Where it did not, what there was is shown.
+struct LettureArchivi {
+    bool righe = true, annuale = true, collaboratori = true, grafici = true;
+};
+
 /// The state of the planner session, shared by the engine and all windows. `main` makes the one object;
 /// each request refills it. Texts are Windows-1252.
 struct modpl {
@@ -44,10 +49,12 @@ struct modpl {
     std::int16_t PrimoGiornoSettimana = 1; // of the shown month; 1 = Sunday
 
     Archivi archivi;
+    LettureArchivi letture;
     IndiceCodici indiceCodici;
     TabellaTotali TotaliImpegni;
 
     std::int16_t IndiceCollab = -1;    // selected staff member, negative for none
+    std::int16_t IndiceRichiesto = -1; // the one that the request names, negative for none
     std::int16_t LivelloDettaglio = 4; // 4 detailed, 1 not
     bool CalendarioAttivo = false;     // moves in the yearly grid may move the calendar
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bitset>
+#include <optional>
 #include <string_view>
 
 namespace planner {
@@ -43,6 +44,13 @@ inline constexpr std::array PulsantiToolbar{
     DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", "Ctrl+G"},
     DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
 };
+
+/// The button that stands in the same place and takes turns with it; nothing for a button of its own place.
+constexpr std::optional<Pulsante> gemello(Pulsante pulsante) {
+    return pulsante == Pulsante::dettno   ? std::optional(Pulsante::dettsi)
+           : pulsante == Pulsante::dettsi ? std::optional(Pulsante::dettno)
+                                          : std::nullopt;
+}
 
 /// Which buttons can be used and seen.
 class StatoToolbar {

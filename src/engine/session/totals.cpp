@@ -43,8 +43,8 @@ std::string_view chiaveTipi(const ValoriContatori& valori) {
 TabellaTotali::TabellaTotali(std::int16_t upperBound) : m_righe(static_cast<std::size_t>(upperBound) + 1) {}
 
 void TabellaTotali::aggiungi(int indice, const ValoriContatori& valori) {
-    if (indice < 0 || indice > upperBound()) {
-        throw SubscriptError();
+    if (!contiene(indice)) {
+        return; // the table is sized by the records, not by the staff
     }
     Riga& totals = m_righe[static_cast<std::size_t>(indice)];
     Riga sums = totals;
@@ -56,9 +56,11 @@ void TabellaTotali::aggiungi(int indice, const ValoriContatori& valori) {
 }
 
 std::int16_t TabellaTotali::at(int indice, int categoria) const {
-    if (indice < 0 || indice > upperBound() || categoria < 0 ||
-        static_cast<std::size_t>(categoria) >= CategorieTotali.size()) {
+    if (categoria < 0 || static_cast<std::size_t>(categoria) >= CategorieTotali.size()) {
         throw SubscriptError();
+    }
+    if (!contiene(indice)) {
+        return 0;
     }
     return m_righe[static_cast<std::size_t>(indice)][static_cast<std::size_t>(categoria)];
 }

@@ -45,11 +45,14 @@ public:
     /// A new table, all zero, with indices 0 to `upperBound`.
     explicit TabellaTotali(std::int16_t upperBound = 0);
 
-    /// Adds all of a record's counters to the totals of `indice`, or none: throws SubscriptError outside the
-    /// table, OverflowError when a total leaves 16 bits.
+    /// Adds all of a record's counters to the totals of `indice`, or none: throws OverflowError when a total
+    /// leaves 16 bits. For an index beyond the table nothing is added.
     void aggiungi(int indice, const ValoriContatori& valori);
 
-    /// Throws SubscriptError outside the table.
+    /// True for an index that the table has totals for.
+    bool contiene(int indice) const { return indice >= 0 && indice <= upperBound(); }
+
+    /// 0 for an index beyond the table. Throws SubscriptError for a category that is none.
     std::int16_t at(int indice, int categoria) const;
 
     int upperBound() const { return static_cast<int>(m_righe.size()) - 1; }

@@ -31,6 +31,15 @@ bool endsGroup(const Griglia& griglia, int col) {
     return col == 0 || col % group == 0;
 }
 
+/// The share of the cell in which the appointment's bar stands: all its height where there is one lane.
+QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
+    const QRect bars = cell.adjusted(0, BarMargin, 0, -1 - BarMargin);
+    const int top = bars.height() * fascia.corsia / fascia.corsie;
+    const int bottom = bars.height() * (fascia.corsia + 1) / fascia.corsie;
+    const int gap = fascia.corsie > 1 ? 1 : 0;
+    return {bars.left(), bars.top() + top, bars.width(), std::max(bottom - top - gap, 1)};
+}
+
 } // namespace
 
 CellPainter::CellPainter(double fontFactor) {
@@ -49,10 +58,12 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
                                        ? Colore::gialloChiaro // the span is a bar on the plain row
                                        : griglia.sfondoVisibile(row, col)));
     paintLines(painter, rect, griglia, row, col);
-    if (cella.impegno) {
-        paintEntry(painter, rect, griglia, row, col);
+    for (const FasciaImpegno& fascia : griglia.fasce(row)) {
+        if (fascia.copre(col)) {
+            paintBar(painter, laneOf(rect, fascia), fascia, col, cella.sfondo == Colore::ciano);
+        }
     }
-    if (cella.immagine != 0) {
+    if (cella.immagine != 0 && !cella.impegno) { // a bar has its own
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
@@ -87,18 +98,20 @@ void CellPainter::paintText(QPainter& painter, const QRect& rect, const Griglia&
                      shown);
 }
 
-void CellPainter::paintEntry(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
+                           bool marked) {
     // The bar stays in sight whatever colour a highlighted row or a marked cell has.
-    const QRect bar = rect.adjusted(0, BarMargin, 0, -1 - BarMargin);
-    const bool marked = griglia.cella(row, col).sfondo == Colore::ciano;
     painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
     painter.setPen(QColor(BarBorderColor));
     painter.drawLine(bar.topLeft(), bar.topRight());
     painter.drawLine(bar.bottomLeft(), bar.bottomRight());
-    if (!griglia.cella(row, col - 1).impegno || griglia.cella(row, col).immagine != 0) {
+    if (col == fascia.prima) {
         painter.drawLine(bar.topLeft(), bar.bottomLeft());
+        if (fascia.immagine != 0) {
+            paintPicture(painter, bar, fascia.immagine, /*besideText=*/false);
+        }
     }
-    if (col + 1 == griglia.Cols() || !griglia.cella(row, col + 1).impegno) {
+    if (col == fascia.ultima) {
         painter.drawLine(bar.topRight(), bar.bottomRight());
     }
 }

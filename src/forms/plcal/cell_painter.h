@@ -29,7 +29,7 @@ public:
 private:
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
     void paintText(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
-    void paintEntry(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, bool marked);
     void paintToday(QPainter& painter, const QRect& rect);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
 

@@ -6,6 +6,7 @@
 #include "platform/qt/tool_commands.h"
 
 #include <QAction>
+#include <QLayout>
 
 namespace planner {
 
@@ -26,6 +27,7 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
     QAction* action = addToolCommand(
         *this, {fromUtf8(described.chiave), described.didascalia, described.chiave, described.scorciatoia});
     action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setAutoRepeat(false); // a held key is not to reach the next request
     connect(action, &QAction::triggered, this, [this, &described] {
         Q_EMIT ButtonClick(
             QByteArray(described.chiave.data(), static_cast<qsizetype>(described.chiave.size())));
@@ -42,10 +44,36 @@ QAction* CommandBar::command(Pulsante pulsante) const {
     return nullptr;
 }
 
-void CommandBar::update(const StatoToolbar& stato) {
+void CommandBar::update(const StatoToolbar& stato, QWidget* successor) {
+    const auto usable = [&](const Comando& comando) {
+        return stato.enabled(comando.pulsante) && stato.visible(comando.pulsante);
+    };
+    for (const Comando& comando : m_comandi) { // what comes first, so that the focus has where to go
+        if (usable(comando)) {
+            comando.action->setVisible(true);
+            comando.action->setEnabled(true);
+        }
+    }
     for (const Comando& comando : m_comandi) {
-        comando.action->setEnabled(stato.enabled(comando.pulsante));
-        comando.action->setVisible(stato.visible(comando.pulsante));
+        if (!usable(comando)) {
+            passFocus(comando.pulsante, stato, successor);
+            comando.action->setEnabled(stato.enabled(comando.pulsante));
+            comando.action->setVisible(stato.visible(comando.pulsante));
+        }
+    }
+}
+
+void CommandBar::passFocus(Pulsante pulsante, const StatoToolbar& stato, QWidget* successor) {
+    if (window()->focusWidget() != widgetForAction(command(pulsante))) {
+        return;
+    }
+    const auto twin = gemello(pulsante);
+    if (twin && stato.enabled(*twin)) {
+        layout()->activate(); // the twin's button is not in its place before
+        successor = widgetForAction(command(*twin));
+    }
+    if (successor != nullptr) {
+        successor->setFocus();
     }
 }
 

@@ -16,8 +16,9 @@ class CommandBar : public QToolBar {
 public:
     explicit CommandBar(QWidget* parent);
 
-    /// Shows which commands can be used.
-    void update(const StatoToolbar& stato);
+    /// Shows which commands can be used. A button that goes while it has the focus passes it to its twin,
+    /// else to `successor`, never to another command; null for nobody.
+    void update(const StatoToolbar& stato, QWidget* successor);
     QAction* command(Pulsante pulsante) const;
 
 Q_SIGNALS:
@@ -25,6 +26,7 @@ Q_SIGNALS:
 
 private:
     void addCommand(const DescrizionePulsante& described);
+    void passFocus(Pulsante pulsante, const StatoToolbar& stato, QWidget* successor);
 
     struct Comando {
         Pulsante pulsante;

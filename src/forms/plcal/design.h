@@ -60,20 +60,22 @@ struct PulsantePeriodo {
 };
 
 inline constexpr std::array PulsantiPeriodo{
-    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente", "Alt+Left"},
-    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo", "Alt+Right"},
+    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente",
+                    "Alt+Left; Ctrl+PgUp"},
+    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo",
+                    "Alt+Right; Ctrl+PgDown"},
     PulsantePeriodo{"bselm", 2, TipoPlanner::Mensile, 1, false, "Anno precedente", "anno_precedente",
-                    "Ctrl+Alt+Left"},
+                    "Ctrl+Alt+Left; Ctrl+Shift+PgUp"},
     PulsantePeriodo{"bselm", 3, TipoPlanner::Mensile, 1, true, "Anno successivo", "anno_successivo",
-                    "Ctrl+Alt+Right"},
+                    "Ctrl+Alt+Right; Ctrl+Shift+PgDown"},
     PulsantePeriodo{"bselg", 1, TipoPlanner::Giornaliero, 0, false, "Giorno precedente", "precedente",
                     "Alt+Left"},
     PulsantePeriodo{"bselg", 2, TipoPlanner::Giornaliero, 0, true, "Giorno successivo", "successivo",
                     "Alt+Right"},
     PulsantePeriodo{"bselA", 1, TipoPlanner::Annuale, 0, false, "Anno precedente", "anno_precedente",
-                    "Alt+Left; Ctrl+Alt+Left"},
+                    "Alt+Left; Ctrl+Alt+Left; Ctrl+Shift+PgUp"},
     PulsantePeriodo{"bselA", 2, TipoPlanner::Annuale, 0, true, "Anno successivo", "anno_successivo",
-                    "Alt+Right; Ctrl+Alt+Right"},
+                    "Alt+Right; Ctrl+Alt+Right; Ctrl+Shift+PgDown"},
 };
 
 /// The first column in sight when the daily grid is shown: eight o'clock.

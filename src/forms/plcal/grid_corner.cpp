@@ -64,9 +64,14 @@ void GridCorner::placeButtons(float scalaX) {
     }
 }
 
-void GridCorner::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
+void GridCorner::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active,
+                               QWidget& successor) {
     for (const auto& [described, button] : m_buttons) {
-        button->setEnabled(active(*described));
+        const bool usable = active(*described);
+        if (!usable && window()->focusWidget() == button) {
+            successor.setFocus(); // the toolkit would pass it to another command
+        }
+        button->setEnabled(usable);
     }
 }
 

@@ -24,8 +24,8 @@ public:
     void setRowHeights(const std::vector<int>& heights);
     /// Puts the period buttons into their cells.
     void placeButtons(float scalaX);
-    /// Disables the buttons that would do nothing.
-    void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
+    /// Disables the buttons that would do nothing; one that has the focus passes it to `successor`.
+    void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active, QWidget& successor);
 
 Q_SIGNALS:
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);

@@ -4,6 +4,7 @@
 
 #include "forms/plcal/grid_model.h"
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -39,8 +40,16 @@ QSize GridHeader::sizeHint() const {
 
 void GridHeader::mousePressEvent(QMouseEvent* event) {
     const int section = logicalIndexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && section >= 0) {
-        Q_EMIT pressed(section);
+    const bool right = event->button() == Qt::RightButton;
+    if (section >= 0 && (right || event->button() == Qt::LeftButton)) {
+        Q_EMIT pressed(section, right ? Mezzo::clicDestro : Mezzo::clic);
+    }
+}
+
+void GridHeader::contextMenuEvent(QContextMenuEvent* event) {
+    const bool onName = orientation() == Qt::Vertical && logicalIndexAt(event->pos()) >= 0;
+    if (onName && event->reason() == QContextMenuEvent::Mouse) {
+        Q_EMIT menuRequested(event->globalPos());
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/plcal/cell_painter.h"
+#include "forms/plcal/gesti.h"
 
 #include <QHeaderView>
 
@@ -23,11 +24,16 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// A section was pressed with the left button.
-    void pressed(int section);
+    /// A section was pressed with the left or the right button.
+    void pressed(int section, planner::Mezzo mezzo);
+    void menuRequested(const QPoint& globalPosition);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent*) override {}
+    void mouseReleaseEvent(QMouseEvent*) override {}
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:

@@ -3,6 +3,7 @@
 #include "forms/plcal/grid_model.h"
 
 #include "platform/qt/appearance.h"
+#include "platform/qt/model_answers.h"
 #include "platform/qt/text.h"
 
 #include <algorithm>
@@ -31,8 +32,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    const int row = gridRow(index.row());
-    const int col = gridCol(index.column());
+    return orNothing([&] { return cellData(gridRow(index.row()), gridCol(index.column()), role); });
+}
+
+QVariant GridModel::cellData(int row, int col, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return fromCp1252(m_griglia.TextMatrix(row, col));
@@ -52,15 +55,27 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     const int count = orientation == Qt::Vertical ? rowCount() : columnCount();
-    if (role != Qt::DisplayRole || section < 0 || section >= count) {
+    if (section < 0 || section >= count) {
         return {};
     }
-    if (orientation == Qt::Vertical) {
-        return fromCp1252(m_griglia.TextMatrix(gridRow(section), 0));
-    }
+    return orNothing([&]() -> QVariant {
+        if (orientation == Qt::Vertical) {
+            return rowData(gridRow(section), role);
+        }
+        return role == Qt::DisplayRole ? columnTitle(gridCol(section)) : QVariant();
+    });
+}
+
+QVariant GridModel::rowData(int row, int role) const {
+    return role == Qt::DisplayRole          ? fromCp1252(m_griglia.TextMatrix(row, 0))
+           : role == Qt::AccessibleTextRole ? fromUtf8(m_frase(row, 0))
+                                            : QVariant();
+}
+
+QString GridModel::columnTitle(int col) const {
     QString text;
     for (int row = 0; row < m_griglia.FixedRows(); ++row) {
-        text += fromCp1252(m_griglia.TextMatrix(row, gridCol(section))) + QLatin1Char(' ');
+        text += fromCp1252(m_griglia.TextMatrix(row, col)) + QLatin1Char(' ');
     }
     return text.trimmed();
 }

@@ -15,7 +15,8 @@ namespace planner {
 class GridModel : public QAbstractTableModel, public OsservatoreGriglia {
     Q_OBJECT
 public:
-    /// One sentence on a cell, in the grid's own rows and columns; UTF-8.
+    /// One sentence on a cell, in the grid's own rows and columns, column 0 included; UTF-8. What it throws
+    /// goes no further than the model.
     using Frase = std::function<std::string(int riga, int colonna)>;
 
     /// Watches the grid until it goes; the grid must live longer.
@@ -42,6 +43,10 @@ Q_SIGNALS:
     void headersChanged();
 
 private:
+    QVariant cellData(int row, int col, int role) const;
+    QVariant rowData(int row, int role) const;
+    QString columnTitle(int col) const;
+
     Griglia& m_griglia;
     Frase m_frase;
     int m_rows, m_cols; // what the views know

@@ -7,6 +7,8 @@
 #include "forms/plcal/grid_header.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -38,6 +40,12 @@ float fittingScale(int available, int twips) {
            static_cast<float>(std::max(twips, 1));
 }
 
+std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
+    return button == Qt::LeftButton    ? std::optional(Mezzo::clic)
+           : button == Qt::RightButton ? std::optional(Mezzo::clicDestro)
+                                       : std::nullopt;
+}
+
 } // namespace
 
 GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, GridModel::Frase frase,
@@ -62,50 +70,94 @@ void GridView::connectEvents() {
         m_names->viewport()->update();
         m_corner->update();
     });
-    connect(this, &QAbstractItemView::clicked, this, &GridView::emitClicked);
-    connect(this, &QAbstractItemView::doubleClicked, this, &GridView::cellActivated);
-    connect(m_names, &GridHeader::pressed, this, [this](int row) {
+    connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
-        setCurrentIndex(m_model->index(row, std::max(currentIndex().column(), 0)));
-        emitClicked({});
+        Q_EMIT gesture({m_model->gridRow(row), 0, mezzo});
     });
+    connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
     connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
 }
 
-void GridView::emitClicked(const QModelIndex& index) {
-    const QModelIndex current = currentIndex();
-    if (current.isValid()) {
-        // A click on the cell that is current already selects it all the same.
-        Q_EMIT cellSelected(m_model->gridRow(current.row()), GridModel::gridCol(current.column()), true);
-    }
+void GridView::announce(const QModelIndex& index, Mezzo mezzo) {
     if (index.isValid()) {
-        Q_EMIT cellClicked(m_model->gridRow(index.row()), GridModel::gridCol(index.column()));
-    }
-}
-
-void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
-    if (!m_byCode && current.isValid()) {
-        Q_EMIT cellSelected(m_model->gridRow(current.row()), GridModel::gridCol(current.column()), m_byMouse);
+        Q_EMIT gesture({m_model->gridRow(index.row()), GridModel::gridCol(index.column()), mezzo});
     }
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-    const QScopedValueRollback byMouse(m_byMouse, true);
-    QTableView::mousePressEvent(event);
+    if (const auto mezzo = mezzoDi(event->button())) {
+        announce(indexAt(event->position().toPoint()), *mezzo);
+    }
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Only on the cell that the first press has made the current one: the grid may have moved below the
+    // mouse.
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index == currentIndex()) {
+        announce(index, Mezzo::doppioClic);
+    } else {
+        mousePressEvent(event);
+    }
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Q_EMIT cellActivated();
-        break;
-    case Qt::Key_Space:
-        emitClicked(currentIndex());
-        break;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !event->isAutoRepeat()) {
+        announce(currentIndex(), Mezzo::invio);
+    } else if (event->key() == Qt::Key_Space) {
+        announce(currentIndex(), Mezzo::spazio);
+    } else if (const auto action = cursorActionOf(*event)) {
+        moveByKey(*action, event->modifiers());
+    } else if (!enter) {
+        event->ignore(); // the window may have a use for it
+    }
+}
+
+std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QKeyEvent& event) {
+    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) {
+        return std::nullopt; // the period's keys, where the period ends
+    }
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return MoveLeft;
+    case Qt::Key_Right:
+        return MoveRight;
+    case Qt::Key_Up:
+        return MoveUp;
+    case Qt::Key_Down:
+        return MoveDown;
+    case Qt::Key_Home:
+        return MoveHome;
+    case Qt::Key_End:
+        return MoveEnd;
+    case Qt::Key_PageUp:
+        return MovePageUp;
+    case Qt::Key_PageDown:
+        return MovePageDown;
     default:
-        QTableView::keyPressEvent(event);
+        return std::nullopt;
+    }
+}
+
+void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex target = moveCursor(action, modifiers);
+    if (target.isValid() && target != currentIndex()) {
+        announce(target, Mezzo::frecce);
+        scrollTo(currentIndex());
+    }
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTableView::selectionChanged(selected, deselected);
+    if (m_byCode) {
+        return;
+    }
+    // Mouse and keys do not get here: a screen reader has selected a cell, or the selected one again.
+    const QModelIndexList cells = selected.isEmpty() ? deselected.indexes() : selected.indexes();
+    if (!cells.isEmpty()) {
+        announce(cells.front(), Mezzo::assistenza);
+        scrollTo(currentIndex());
     }
 }
 
@@ -123,7 +175,7 @@ void GridView::showCurrentCell() {
     const Griglia& griglia = m_model->griglia();
     const QModelIndex wanted =
         m_model->index(griglia.Row() - griglia.FixedRows(), griglia.Col() - Griglia::FixedCols());
-    if (wanted == currentIndex()) {
+    if (wanted == currentIndex() && selectionModel()->isSelected(wanted)) {
         return;
     }
     const QScopedValueRollback byCode(m_byCode, true);
@@ -133,7 +185,7 @@ void GridView::showCurrentCell() {
 }
 
 void GridView::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
-    m_corner->updateButtons(active);
+    m_corner->updateButtons(active, *this);
 }
 
 void GridView::setUpBehaviour() {
@@ -236,6 +288,18 @@ void GridView::setVisible(bool visible) {
 
 void GridView::placeButtons() {
     m_corner->placeButtons(m_scala.ScalaX);
+}
+
+int GridView::firstColumnInSight() const {
+    const int column = columnAt(0);
+    const bool cut = column >= 0 && columnViewportPosition(column) < 0;
+    return GridModel::gridCol(std::clamp(column + (cut ? 1 : 0), 0, m_model->columnCount() - 1));
+}
+
+void GridView::scrollToCurrentRow() {
+    verticalScrollBar()->setValue(0);
+    horizontalScrollBar()->setValue(0);
+    scrollTo(currentIndex());
 }
 
 void GridView::scrollToColumn(int colonna) {

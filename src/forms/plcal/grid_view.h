@@ -6,6 +6,7 @@
 #include "forms/plcal/cell_painter.h"
 #include "forms/plcal/design.h"
 #include "forms/plcal/geometry.h"
+#include "forms/plcal/gesti.h"
 #include "forms/plcal/grid_model.h"
 
 #include <QTableView>
@@ -34,20 +35,25 @@ public:
     /// Shows or hides the corner too.
     void setVisible(bool visible) override;
 
+    /// The first column in sight beside the names, the grid's own.
+    int firstColumnInSight() const;
+    /// Scrolls to the beginning, and from there as far as the current cell's row needs it.
+    void scrollToCurrentRow();
+
 Q_SIGNALS:
-    // Rows and columns are the grid's own.
-    /// The user made the cell the current one, with the mouse or otherwise.
-    void cellSelected(int riga, int colonna, bool conMouse);
-    void cellClicked(int riga, int colonna);
-    /// Double click or Enter.
-    void cellActivated();
+    /// The user acted on a place of the grid: once for each gesture, and for nothing that the toolkit does.
+    void gesture(const planner::Gesto& gesto);
     void menuRequested(const QPoint& globalPosition);
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
 
 protected:
-    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent*) override {}    // a drag selects nothing
+    void mouseReleaseEvent(QMouseEvent*) override {} // a click acts at the press
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(const QString&) override {} // letters are no way to a cell
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
@@ -56,7 +62,9 @@ protected:
 private:
     void setUpBehaviour();
     void connectEvents();
-    void emitClicked(const QModelIndex& index);
+    void announce(const QModelIndex& index, Mezzo mezzo);
+    static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
+    void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);
     void applyMeasures();
     void applyRowMeasures();
     float columnScale() const;
@@ -69,7 +77,6 @@ private:
     GridCorner* m_corner;
     Scala m_scala;
     bool m_byCode = false;
-    bool m_byMouse = false;
 };
 
 } // namespace planner

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/plcal.h"
 
+#include "forms/plcal/notices.h"
 #include "forms/plcal/plcal_guard.h"
 
 namespace planner {
@@ -22,8 +23,9 @@ void plcal::load() {
 
 void plcal::show() {
     m_stato = m_controlli.tipoVisibile ? StatoIniziale : std::string_view{};
-    m_porte.vista.aggiorna();
+    esegui([this] { posizionaCursore(PrimaColonnaGiornaliera); });
     m_porte.vista.mostra();
+    m_porte.vista.scorriAlCursore();
     Form_Activate();
 }
 
@@ -58,7 +60,16 @@ void plcal::Form_Activate() {
     if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
         m_porte.vista.scorriA(PrimaColonnaGiornaliera);
     }
+    segnaOggi(m_controlli, m_porte.orologio.today());
     m_porte.vista.LockWindowUpdate(false);
+}
+
+void plcal::giornoCambiato() {
+    segnaOggi(m_controlli, m_porte.orologio.today());
+}
+
+std::string plcal::stato() const {
+    return avvisoDati(m_controlli, m_sessione) + m_stato;
 }
 
 bool plcal::Form_KeyDown(int tasto) {

@@ -3,12 +3,14 @@
 #pragma once
 
 #include "engine/clsplg.h"
+#include "forms/plcal/gesti.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/row_marks.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/plfgraf/finestra_grafici.h"
 #include "forms/plfimp/plfimp.h"
+#include "platform/ports/clock.h"
 #include "platform/ports/planner_window.h"
 
 #include <functional>
@@ -29,6 +31,7 @@ public:
         FinestraImpegno& finestraImpegno;
         plfcollab& collaboratori;
         FinestraGrafici& finestraGrafici;
+        const Clock& orologio;
     };
 
     plcal(modpl& sessione, ControlliPlcal& controlli, const Porte& porte, FabbricaMotore fabbrica);
@@ -50,14 +53,12 @@ public:
     bool Form_KeyDown(int tasto);
     void Form_Unload();
 
-    // Cells of the visible grid, in the grid's own rows and columns; what lies outside it is ignored.
-    /// The cell became the current one.
-    void SelChange(int riga, int colonna);
-    /// The cell was clicked: the calendar follows to its day.
-    void Click(int riga, int colonna);
-    /// The current cell moved: the calendar follows only while a navigation key is held down, since a mouse's
-    /// move ends in a click.
-    void RowColChange(int riga, int colonna, bool tastoTenuto);
+    /// Midnight has passed.
+    void giornoCambiato();
+
+    /// The user acted on a place of the visible grid: moves what `EffettiGesti` says. Places that it does not
+    /// list, and those outside the grid, are ignored.
+    void griglia_Gesto(const Gesto& gesto);
     /// The day was picked in the calendar itself; days outside the period change nothing.
     void calendario_DateClick(Data giorno);
 
@@ -79,8 +80,9 @@ public:
     // What the widgets show besides the controls.
     static constexpr std::string_view StatoIniziale = "Scegliere una casella: qui se ne legge il contenuto.";
     const PannelloDettagli& pannello() const { return m_pannello; }
-    /// The status line: a sentence on the current cell, UTF-8.
-    const std::string& stato() const { return m_stato; }
+    /// The status line, UTF-8: what is wrong with the data shown, if anything, and a sentence on the current
+    /// cell.
+    std::string stato() const;
     const Scala& scala() const { return m_scala; }
 
 private:
@@ -89,20 +91,26 @@ private:
     void esegui(Command command);
 
     // plcal_selection.cpp
-    bool cellaDati(int riga, int colonna) const;
-    void selectStaffCell(Griglia& griglia, int riga, int colonna);
+    void applica(const EffettoGesto& effetto, const Gesto& gesto);
+    void Click(int riga, int colonna);
+    void flxa_RowColChange(int riga, int colonna);
+    void SelChange(Scelta scelta);
+    void flxa_SelChange(int riga, int colonna);
+    void selectStaff(Griglia& griglia);
     void setStaff(int indice);
     void showTotals(int indice);
-    void flxa_SelChange(int riga, int colonna);
-    void Flxm_Click(int colonna);
-    void flxa_Click(int riga, int colonna);
+    void markShownCell();
+    void restoreMarks();
     void describeCurrentCell();
-    void afterRefill(int riga, int colonna);
-    std::optional<int> columnOfShownDay() const;
+    int colonnaDelNome() const;
+    int rigaCursore() const;
+    void posizionaCursore(int colonnaGiornaliera);
 
     // plcal_period.cpp
     void showMonth(Data giorno);
     void showDay(Data giorno);
+    void showPickedDay(Data giorno);
+    bool puoMostrare(Data giorno) const;
 
     // plcal_commands.cpp
     void reply(std::string_view azione);

@@ -5,7 +5,27 @@
 #include "forms/plfgraf/plfgraf.h"
 #include "forms/plfgraf/visualizza_grafico.h"
 
+#include <algorithm>
+
 namespace planner {
+
+namespace {
+
+/// Kinds of entries as bits: digits 3 and 4 of the picture keys.
+constexpr unsigned ScadenzeOPratiche = 1U << 2 | 1U << 3;
+
+/// True when some cell of the staff member's row has one of the kinds.
+bool rowShows(const Griglia& griglia, int indice, unsigned tipi) {
+    const int row = griglia.FixedRows() + indice;
+    for (int column = 0; row < griglia.Rows() && column < griglia.Cols(); ++column) {
+        if ((griglia.cella(row, column).tipi & tipi) != 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     if (chiave == "exit") {
@@ -58,7 +78,9 @@ bool plcal::canConsult() const {
     if (!m_controlli.tipoVisibile || indice < 0) {
         return false;
     }
-    return m_sessione.TotaliImpegni.at(indice, 0) >= 1 || m_sessione.TotaliImpegni.at(indice, 1) >= 1;
+    const TabellaTotali& totals = m_sessione.TotaliImpegni;
+    return totals.contiene(indice) ? totals.at(indice, 0) >= 1 || totals.at(indice, 1) >= 1
+                                   : rowShows(*m_controlli.grigliaVisibile(), indice, ScadenzeOPratiche);
 }
 
 void plcal::insimp() {
@@ -110,7 +132,8 @@ void plcal::refreshGrid() {
             griglia->setRows(righeGiornaliera(m_sessione.archivi.NumCollab));
             motore().PopolaGrid2();
         }
-        afterRefill(row, column);
+        griglia->setCurrent(std::min(row, griglia->Rows() - 1), column);
+        restoreMarks();
     });
 }
 

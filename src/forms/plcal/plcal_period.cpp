@@ -22,7 +22,6 @@ void plcal::bselm_Click(int indice) {
 
 void plcal::showMonth(Data giorno) {
     const Griglia::LockWindowUpdate lock(m_controlli.Flxm);
-    const int row = m_controlli.Flxm.Row();
     m_pannello.nascondiTotali();
     m_controlli.calendario.setValue(giorno);
     m_sessione.DataSessione = giorno;
@@ -32,7 +31,9 @@ void plcal::showMonth(Data giorno) {
     motore().showgrid();
     motore().PopolaGrid1();
     motore().Let_planner();
-    afterRefill(row, columnOfShownDay().value_or(1));
+    posizionaCursore(PrimaColonnaGiornaliera);
+    restoreMarks();
+    describeCurrentCell();
 }
 
 void plcal::bselg_Click(int indice) {
@@ -45,15 +46,15 @@ void plcal::bselg_Click(int indice) {
 
 void plcal::showDay(Data giorno) {
     const Griglia::LockWindowUpdate lock(m_controlli.flxg);
-    const int row = m_controlli.flxg.Row();
-    const int column = m_controlli.flxg.Col();
     m_pannello.nascondiTotali();
     m_controlli.calendario.setValue(giorno);
     m_sessione.DataSessione = giorno;
     motore().PulisciGrid2();
     motore().Dayofweek();
     motore().PopolaGrid2();
-    afterRefill(row, column);
+    posizionaCursore(m_porte.vista.primaColonnaInVista());
+    restoreMarks();
+    describeCurrentCell();
 }
 
 void plcal::bselA_Click(int indice) {
@@ -91,23 +92,46 @@ bool plcal::pulsantePeriodoAttivo(const PulsantePeriodo& pulsante) const {
     return false;
 }
 
+bool plcal::puoMostrare(Data giorno) const {
+    switch (*m_controlli.tipoVisibile) {
+    case TipoPlanner::Mensile:
+        return monthInPeriod(giorno, m_sessione.periodo);
+    case TipoPlanner::Giornaliero:
+        return dayInPeriod(giorno, m_sessione.periodo);
+    case TipoPlanner::Annuale:
+        return giorno.year() == m_controlli.calendario.Value().year();
+    }
+    return false;
+}
+
 void plcal::calendario_DateClick(Data giorno) {
     esegui([&] {
+        if (!m_controlli.tipoVisibile || !puoMostrare(giorno)) {
+            return;
+        }
         const Data shown = m_controlli.calendario.Value();
         const bool sameMonth = giorno.year() == shown.year() && giorno.month() == shown.month();
-        if (m_controlli.tipoVisibile == TipoPlanner::Mensile && monthInPeriod(giorno, m_sessione.periodo)) {
-            if (sameMonth) {
-                m_controlli.calendario.setValue(giorno);
-            } else {
-                showMonth(giorno);
-            }
-        } else if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero &&
-                   dayInPeriod(giorno, m_sessione.periodo)) {
+        if (m_controlli.tipoVisibile == TipoPlanner::Mensile && !sameMonth) {
+            showMonth(giorno);
+        } else if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero && giorno != shown) {
             showDay(giorno);
-        } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale && giorno.year() == shown.year()) {
-            m_controlli.calendario.setValue(giorno);
+        } else {
+            showPickedDay(giorno);
         }
     });
+}
+
+/// The grid shows the day already: only calendar, cursor and what hangs on them move.
+void plcal::showPickedDay(Data giorno) {
+    const Griglia::LockWindowUpdate lock(*m_controlli.grigliaVisibile());
+    m_controlli.calendario.setValue(giorno);
+    posizionaCursore(m_porte.vista.primaColonnaInVista());
+    if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+        SelChange(Scelta::totaliGiorno);
+    } else {
+        markShownCell();
+    }
+    describeCurrentCell();
 }
 
 } // namespace planner

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "archive/fixed_text.h"
 #include "archive/numeric_value.h"
+#include "archive/runtime_errors.h"
 #include "forms/plcal/plcal_guard.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
+
+#include <algorithm>
 
 namespace planner {
 
@@ -22,39 +25,68 @@ constexpr std::array EtichetteCategorie{
 
 } // namespace
 
-bool plcal::cellaDati(int riga, int colonna) const {
-    const Griglia* griglia = m_controlli.grigliaVisibile();
-    return griglia != nullptr && riga >= griglia->FixedRows() && riga < griglia->Rows() &&
-           colonna >= Griglia::FixedCols() && colonna < griglia->Cols();
-}
-
-void plcal::SelChange(int riga, int colonna) {
-    if (!cellaDati(riga, colonna)) {
+void plcal::griglia_Gesto(const Gesto& gesto) {
+    const auto luogo = luogoDi(m_controlli, gesto.riga, gesto.colonna);
+    const EffettoGesto* effetto = luogo ? effettoGesto(*m_controlli.tipoVisibile, *luogo) : nullptr;
+    if (effetto == nullptr) {
         return;
     }
-    esegui([&] {
-        Griglia& griglia = *m_controlli.grigliaVisibile();
-        griglia.setCurrent(riga, colonna);
-        describeCurrentCell();
-        if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
-            flxa_SelChange(riga, colonna);
-        } else {
-            selectStaffCell(griglia, riga, colonna);
-        }
-    });
+    try {
+        applica(*effetto, gesto);
+    } catch (const std::exception& error) {
+        // No box inside a press: it would swallow the release.
+        m_porte.vista.rinvia(
+            [this, text = operazioneNonRiuscita(error)] { m_porte.messaggi.critical(text); });
+    }
+    m_porte.vista.aggiorna();
+    if (descrizione(gesto.mezzo).consulta && *luogo == Luogo::giorno) {
+        Toolbar1_ButtonClick("consult");
+    }
 }
 
-void plcal::selectStaffCell(Griglia& griglia, int riga, int colonna) {
+void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
+    Griglia& griglia = *m_controlli.grigliaVisibile();
     const Griglia::LockWindowUpdate lock(griglia);
-    m_pannello.nascondiTotali();
-    if (trimRight(griglia.TextMatrix(riga, 0)).empty()) {
-        return; // a row to spare: nobody is selected anew
+    if (effetto.giorno) {
+        const bool moved = effetto.tipo == TipoPlanner::Annuale && gesto.mezzo == Mezzo::frecce;
+        moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
     }
-    const int indice = riga - griglia.FixedRows();
+    const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
+    griglia.setCurrent(gesto.riga, onName ? colonnaDelNome() : gesto.colonna);
+    SelChange(effetto.scelta);
+    describeCurrentCell();
+}
+
+void plcal::Click(int riga, int colonna) {
+    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, riga, colonna)) {
+        m_controlli.calendario.setValue(*giorno);
+    }
+}
+
+void plcal::flxa_RowColChange(int riga, int colonna) {
+    if (m_sessione.CalendarioAttivo) {
+        Click(riga, colonna);
+    }
+}
+
+void plcal::SelChange(Scelta scelta) {
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    if (scelta == Scelta::totaliGiorno) {
+        flxa_SelChange(griglia.Row(), griglia.Col());
+        return;
+    }
+    m_pannello.nascondiTotali();
+    if (scelta == Scelta::collaboratore && !trimRight(griglia.TextMatrix(griglia.Row(), 0)).empty()) {
+        selectStaff(griglia);
+    }
+    markShownCell();
+}
+
+void plcal::selectStaff(Griglia& griglia) {
+    const int indice = griglia.Row() - griglia.FixedRows();
     setStaff(indice);
-    m_marks.highlight(griglia, riga);
-    m_marks.markCell(griglia, riga, colonna);
-    m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(riga, 0));
+    m_marks.highlight(griglia, griglia.Row());
+    m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
     m_pannello.lblcollabVisibile = true;
     showTotals(indice);
 }
@@ -82,6 +114,7 @@ void plcal::showTotals(int indice) {
 void plcal::flxa_SelChange(int riga, int colonna) {
     m_pannello.svuotaAnnuali();
     if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
+        m_marks.unmark(m_controlli.flxa); // what is marked is the day whose totals are shown
         return;
     }
     for (const TotaleGiorno& totale : totaliGiorno(m_sessione.archivi, riga, colonna)) {
@@ -90,73 +123,58 @@ void plcal::flxa_SelChange(int riga, int colonna) {
     m_marks.markDay(m_controlli.flxa, riga, colonna);
 }
 
-void plcal::Click(int riga, int colonna) {
-    if (!cellaDati(riga, colonna)) {
+void plcal::markShownCell() {
+    if (!m_marks.EvidenziazioneAttiva()) {
         return;
     }
-    esegui([&] {
-        if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-            Flxm_Click(colonna);
-        } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
-            flxa_Click(riga, colonna);
-        }
-    });
-}
-
-void plcal::Flxm_Click(int colonna) {
-    constexpr int lastColumnOfFirstDay = 6; // in column 7 at the latest the month has begun
-    const Griglia& Flxm = m_controlli.Flxm;
-    int blanks = 0;
-    while (blanks < lastColumnOfFirstDay && trim(Flxm.TextMatrix(1, blanks + 1)).empty()) {
-        ++blanks;
-    }
-    const int day = colonna - blanks;
-    if (!trim(Flxm.TextMatrix(1, colonna)).empty() && day >= 1) {
-        const Calendario& calendario = m_controlli.calendario;
-        m_controlli.calendario.setValue(dateFromTexts(std::to_string(day), std::to_string(calendario.Month()),
-                                                      std::to_string(calendario.Year())));
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int riga = m_marks.RigaEvidenziata();
+    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        m_marks.highlight(griglia, riga); // gives the cell marked before the row's colour
+        m_marks.markCell(griglia, riga, colonnaGiornoMostrato(m_controlli));
+    } else if (griglia.Row() == riga) {
+        m_marks.highlight(griglia, riga);
+        m_marks.markCell(griglia, riga, griglia.Col());
     }
 }
 
-void plcal::flxa_Click(int riga, int colonna) {
-    const std::string_view text = trim(m_controlli.flxa.TextMatrix(riga, colonna));
-    if (!text.empty()) {
-        m_controlli.calendario.setValue(
-            dateFromTexts(text, std::to_string(riga), std::to_string(m_controlli.calendario.Year())));
-    }
-}
-
-void plcal::RowColChange(int riga, int colonna, bool tastoTenuto) {
-    if (m_sessione.CalendarioAttivo && tastoTenuto) {
-        Click(riga, colonna);
-    }
+int plcal::colonnaDelNome() const {
+    return m_controlli.tipoVisibile == TipoPlanner::Mensile ? colonnaGiornoMostrato(m_controlli)
+                                                            : m_controlli.flxg.Col();
 }
 
 void plcal::describeCurrentCell() {
     const Griglia& griglia = *m_controlli.grigliaVisibile();
-    m_stato = fraseCella(m_controlli, m_sessione, griglia.Row(), griglia.Col());
+    m_stato = fraseCella(m_controlli, m_sessione, *m_controlli.tipoVisibile, griglia.Row(), griglia.Col());
 }
 
-std::optional<int> plcal::columnOfShownDay() const {
-    if (m_controlli.tipoVisibile != TipoPlanner::Mensile) {
-        return std::nullopt;
+int plcal::rigaCursore() const {
+    const Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int wanted = m_marks.EvidenziazioneAttiva()    ? m_marks.RigaEvidenziata()
+                       : m_sessione.IndiceRichiesto >= 0 ? griglia.FixedRows() + m_sessione.IndiceRichiesto
+                                                         : griglia.FixedRows();
+    return std::clamp(wanted, griglia.FixedRows(), griglia.Rows() - 1);
+}
+
+void plcal::posizionaCursore(int colonnaGiornaliera) {
+    if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
+        m_controlli.flxg.setCurrent(rigaCursore(), colonnaGiornaliera);
+    } else if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        m_controlli.Flxm.setCurrent(rigaCursore(), colonnaGiornoMostrato(m_controlli));
+    } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+        m_controlli.flxa.setCurrent(m_controlli.calendario.Month(), colonnaGiornoMostrato(m_controlli));
     }
-    return columnOfFirstDay(m_controlli.Flxm) + m_controlli.calendario.Day() - 1;
 }
 
-void plcal::afterRefill(int riga, int colonna) {
-    const bool selected = m_marks.EvidenziazioneAttiva();
-    m_marks.forget();
-    if (!selected || !cellaDati(riga, colonna)) {
+void plcal::restoreMarks() {
+    if (!m_marks.EvidenziazioneAttiva()) {
         return;
     }
     Griglia& griglia = *m_controlli.grigliaVisibile();
-    griglia.setCurrent(riga, colonna);
-    if (!trimRight(griglia.TextMatrix(riga, 0)).empty()) {
-        m_marks.highlight(griglia, riga);
-        m_marks.markCell(griglia, riga, colonna);
-    }
-    describeCurrentCell();
+    const int riga = std::min(m_marks.RigaEvidenziata(), griglia.Rows() - 1);
+    m_marks.forget();
+    m_marks.highlight(griglia, riga);
+    markShownCell();
 }
 
 } // namespace planner

@@ -13,13 +13,18 @@
 #include "platform/qt/plain_label.h"
 #include "platform/qt/text.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDateTime>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
 
+#include <algorithm>
 #include <set>
 
 namespace planner {
@@ -34,14 +39,22 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new PlainLabel(this)),
       m_lblcollab(new PlainLabel(this)), m_stato(new PlainLabel(this)), m_panel(new DetailPanel(this)) {
-    const auto frase = [this](int riga, int colonna) {
-        return fraseCella(m_controlli, m_sessione, riga, colonna);
-    };
-    m_Flxm = new GridView(controlli.Flxm, TipoPlanner::Mensile, m_painter, frase, this);
-    m_flxg = new GridView(controlli.flxg, TipoPlanner::Giornaliero, m_painter, frase, this);
-    m_flxa = new GridView(controlli.flxa, TipoPlanner::Annuale, m_painter, frase, this);
+    m_Flxm = makeGrid(TipoPlanner::Mensile);
+    m_flxg = makeGrid(TipoPlanner::Giornaliero);
+    m_flxa = makeGrid(TipoPlanner::Annuale);
     nameControls();
     connectEvents();
+    qApp->installEventFilter(this);
+    m_mezzanotte.setSingleShot(true);
+    m_mezzanotte.setTimerType(Qt::VeryCoarseTimer);
+}
+
+GridView* PlcalWindow::makeGrid(TipoPlanner tipo) {
+    const auto frase = [this, tipo](int riga, int colonna) {
+        return colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, riga)
+                                              : fraseCella(m_controlli, m_sessione, tipo, riga, colonna);
+    };
+    return new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
 }
 
 PlcalWindow::~PlcalWindow() = default;
@@ -65,8 +78,16 @@ void PlcalWindow::connectEvents() {
     connect(m_Toolbar1, &CommandBar::ButtonClick, this, [this](const QByteArray& chiave) {
         m_form->Toolbar1_ButtonClick({chiave.constData(), static_cast<std::size_t>(chiave.size())});
     });
-    connect(m_calendario, &ShownCalendar::dayPicked, this,
-            [this](Data giorno) { m_form->calendario_DateClick(giorno); });
+    connect(m_calendario, &ShownCalendar::dayPicked, this, [this](Data giorno) {
+        m_form->calendario_DateClick(giorno);
+        if (GridView* grid = visibleGrid()) {
+            grid->scrollTo(grid->currentIndex());
+        }
+    });
+    connect(&m_mezzanotte, &QTimer::timeout, this, [this] {
+        m_form->giornoCambiato();
+        awaitMidnight();
+    });
     addPeriodShortcuts();
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
         connectGrid(*grid);
@@ -74,13 +95,7 @@ void PlcalWindow::connectEvents() {
 }
 
 void PlcalWindow::connectGrid(GridView& grid) {
-    connect(&grid, &GridView::cellSelected, this, [this](int riga, int colonna, bool conMouse) {
-        m_form->SelChange(riga, colonna);
-        m_form->RowColChange(riga, colonna, /*tastoTenuto=*/!conMouse);
-    });
-    connect(&grid, &GridView::cellClicked, this,
-            [this](int riga, int colonna) { m_form->Click(riga, colonna); });
-    connect(&grid, &GridView::cellActivated, m_Toolbar1->command(Pulsante::consult), &QAction::trigger);
+    connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
@@ -95,6 +110,7 @@ void PlcalWindow::addPeriodShortcuts() {
             }
             auto* shortcut = new QShortcut(keys, this);
             connect(shortcut, &QShortcut::activated, this, [this, keys] { pressPeriodKeys(keys); });
+            m_periodKeys.push_back(shortcut);
         }
     }
 }
@@ -111,15 +127,16 @@ void PlcalWindow::pressPeriodKeys(const QKeySequence& keys) {
 }
 
 void PlcalWindow::showMenu(const QPoint& globalPosition) {
-    QMenu menu(this);
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Pulsante pulsante :
          {Pulsante::consult, Pulsante::insimp, Pulsante::agenda, Pulsante::dettno, Pulsante::dettsi}) {
         QAction* action = m_Toolbar1->command(pulsante);
         if (action->isEnabled() && action->isVisible()) {
-            menu.addAction(action);
+            menu->addAction(action);
         }
     }
-    menu.exec(globalPosition);
+    menu->popup(globalPosition);
 }
 
 Dimensioni PlcalWindow::schermo() const {
@@ -159,9 +176,13 @@ void PlcalWindow::aggiorna() {
     m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
     m_panel->show(panel);
     m_stato->setText(fromUtf8(m_form->stato()));
-    m_Toolbar1->update(m_controlli.Toolbar1);
-    updateCalendar();
     updateGrid();
+    m_Toolbar1->update(m_controlli.Toolbar1, visibleGrid());
+    updateCalendar();
+    for (QShortcut* keys : m_periodKeys) {
+        // In the yearly planner they answer the host: a held key is not to reach the next request.
+        keys->setAutoRepeat(m_controlli.tipoVisibile != TipoPlanner::Annuale);
+    }
 }
 
 void PlcalWindow::updateCalendar() {
@@ -211,14 +232,40 @@ void PlcalWindow::scorriA(int colonna) {
     }
 }
 
+int PlcalWindow::primaColonnaInVista() const {
+    const GridView* grid = visibleGrid();
+    return grid == nullptr ? Griglia::FixedCols() : grid->firstColumnInSight();
+}
+
+void PlcalWindow::scorriAlCursore() {
+    if (GridView* grid = visibleGrid()) {
+        grid->scrollToCurrentRow();
+    }
+}
+
+void PlcalWindow::rinvia(std::function<void()> azione) {
+    QMetaObject::invokeMethod(this, std::move(azione), Qt::QueuedConnection);
+}
+
 void PlcalWindow::mostra() {
+    m_pressedHere = false;
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();
     }
+    awaitMidnight();
+}
+
+void PlcalWindow::awaitMidnight() {
+    // At least once an hour, since a sleeping computer's timers sleep too.
+    constexpr qint64 hour = 3'600'000;
+    const QDateTime now = QDateTime::currentDateTime();
+    const qint64 left = now.msecsTo(now.date().addDays(1).startOfDay());
+    m_mezzanotte.start(static_cast<int>(std::clamp<qint64>(left + 1, 1, hour)));
 }
 
 void PlcalWindow::nascondi() {
+    m_mezzanotte.stop();
     hide();
 }
 
@@ -241,11 +288,46 @@ void PlcalWindow::closeEvent(QCloseEvent* event) {
 }
 
 void PlcalWindow::keyPressEvent(QKeyEvent* event) {
-    // No shortcut: those are deaf until the window system has made the window the active one.
-    const int key = event->key() == Qt::Key_Escape ? plcal::TastoEscape : 0;
-    if (!m_form->Form_KeyDown(key)) {
+    // No shortcuts: those are deaf until the window system has made the window the active one.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (event->isAutoRepeat()) {
+        return; // a held key closes one window, not those behind it
+    }
+    if (enter && button != nullptr) {
+        button->click();
+    } else if (!m_form->Form_KeyDown(event->key() == Qt::Key_Escape ? plcal::TastoEscape : 0)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+bool PlcalWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate) {
+        // A message box is no other window to come back from.
+        m_leftForMessage = qobject_cast<QMessageBox*>(QApplication::activeWindow()) != nullptr;
+    } else if (event->type() == QEvent::WindowActivate && isVisible() && !m_leftForMessage) {
+        // After the press that may have brought the window to the front: it means what it was aimed at.
+        rinvia([this] {
+            if (isVisible()) {
+                m_form->Form_Activate();
+            }
+        });
+    }
+    return QWidget::event(event);
+}
+
+bool PlcalWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick) {
+        return false;
+    }
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || widget->window() != this) {
+        return false;
+    }
+    // The second press of a double click whose first one has answered the request before.
+    const bool strayed = event->type() == QEvent::MouseButtonDblClick && !m_pressedHere;
+    m_pressedHere = true;
+    return strayed;
 }
 
 void PlcalWindow::resizeEvent(QResizeEvent*) {

@@ -7,9 +7,11 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/vista_plcal.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
+class QShortcut;
 
 namespace planner {
 
@@ -34,6 +36,9 @@ public:
     void aggiorna() override;
     void disponiPulsantiPeriodo() override;
     void scorriA(int colonna) override;
+    int primaColonnaInVista() const override;
+    void scorriAlCursore() override;
+    void rinvia(std::function<void()> azione) override;
     void mostra() override;
     void nascondi() override;
     void portaDavanti() override;
@@ -42,10 +47,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    GridView* makeGrid(TipoPlanner tipo);
+    void awaitMidnight();
     void nameControls();
     void connectEvents();
     void connectGrid(GridView& grid);
@@ -73,6 +82,10 @@ private:
     GridView* m_Flxm;
     GridView* m_flxg;
     GridView* m_flxa;
+    std::vector<QShortcut*> m_periodKeys;
+    QTimer m_mezzanotte;
+    bool m_pressedHere = false;    // the mouse, since the window was shown for this request
+    bool m_leftForMessage = false; // the window is inactive because of a message box of its own
 };
 
 } // namespace planner

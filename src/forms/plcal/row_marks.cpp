@@ -47,6 +47,12 @@ void RowMarks::markDay(Griglia& griglia, int riga, int colonna) {
     griglia.setCellForeColor(riga, colonna, Colore::nero);
 }
 
+void RowMarks::unmark(Griglia& griglia) {
+    restoreMarked(griglia);
+    m_markedRow = -1;
+    m_markedCol = -1;
+}
+
 void RowMarks::restoreMarked(Griglia& griglia) {
     const bool marked = m_markedRow >= griglia.FixedRows() && m_markedRow < griglia.Rows() &&
                         m_markedCol >= Griglia::FixedCols() && m_markedCol < griglia.Cols();

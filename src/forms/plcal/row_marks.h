@@ -20,6 +20,9 @@ public:
     /// The same in a grid without row highlight: the marked cell's text becomes black.
     void markDay(Griglia& griglia, int riga, int colonna);
 
+    /// Gives the cell that markDay marked its colours back.
+    void unmark(Griglia& griglia);
+
     /// Forgets what was marked, for a grid that has been cleared.
     void forget();
 

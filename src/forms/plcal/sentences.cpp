@@ -3,11 +3,11 @@
 #include "forms/plcal/sentences.h"
 
 #include "archive/cp1252.h"
-#include "archive/fixed_text.h"
-#include "archive/numeric_value.h"
+#include "forms/plcal/gesti.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/yearly_day.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -36,11 +36,11 @@ std::string join(const std::vector<std::string>& parts) {
 }
 
 std::string kindsPresent(const Cella& cella) {
-    const std::string_view key = chiaveImmagine(cella.tipi);
     std::vector<std::string> names;
     for (const char digit : OrdineTipi) {
-        if (key.find(digit) != std::string_view::npos) {
-            names.emplace_back(TipiImpegno.at(static_cast<std::size_t>(digit - '1')).nome);
+        const auto kind = static_cast<std::size_t>(digit - '1');
+        if ((cella.tipi >> kind & 1U) != 0) {
+            names.emplace_back(TipiImpegno.at(kind).nome);
         }
     }
     return join(names);
@@ -50,36 +50,40 @@ std::string withDetails(std::string sentence, const std::string& details) {
     return details.empty() ? sentence : sentence + ": " + details;
 }
 
-/// The day that a text in the grid names, in a month of the shown year; nothing for an empty text.
-std::optional<Data> dayOfText(std::string_view text, int month, const Calendario& calendario) {
-    return text.empty() ? std::nullopt
-                        : makeDate(calendario.Year(), month, static_cast<int>(numericValue(text)));
+/// What the row is called, and the day.
+std::string nameAndDay(const Griglia& griglia, int riga, Data day) {
+    const std::string name = utf8FromCp1252(griglia.TextMatrix(riga, 0));
+    return name.empty() ? dataEstesa(day) : name + ", " + dataEstesa(day);
 }
 
 std::string monthlySentence(const ControlliPlcal& controlli, int riga, int colonna) {
     const Griglia& Flxm = controlli.Flxm;
-    const std::string name = utf8FromCp1252(Flxm.TextMatrix(riga, 0));
-    const auto day =
-        dayOfText(Flxm.TextMatrix(1, colonna), controlli.calendario.Month(), controlli.calendario);
-    if (!day || name.empty()) {
-        return name;
+    const auto day = giornoCella(controlli, TipoPlanner::Mensile, riga, colonna);
+    return day ? withDetails(nameAndDay(Flxm, riga, *day), kindsPresent(Flxm.cella(riga, colonna)))
+               : utf8FromCp1252(Flxm.TextMatrix(riga, 0));
+}
+
+/// The kinds of the appointments that cover a quarter, and their number where they are several.
+std::string appointmentsAt(const Griglia& flxg, int riga, int colonna) {
+    const auto bars = flxg.fasce(riga);
+    const auto count =
+        std::count_if(bars.begin(), bars.end(), [&](const FasciaImpegno& bar) { return bar.copre(colonna); });
+    const std::string kinds = kindsPresent(flxg.cella(riga, colonna));
+    if (count < 2) {
+        return kinds;
     }
-    return withDetails(name + ", " + dataEstesa(*day), kindsPresent(Flxm.cella(riga, colonna)));
+    return std::to_string(count) + " impegni" + (kinds.empty() ? "" : " (" + kinds + ")");
 }
 
 std::string dailySentence(const ControlliPlcal& controlli, int riga, int colonna) {
-    const std::string name = utf8FromCp1252(controlli.flxg.TextMatrix(riga, 0));
-    if (name.empty()) {
-        return name;
-    }
     const int quarter = colonna - 1;
     const std::string time = std::to_string(quarter / 4) + ":" + twoDigits(quarter % 4 * 15);
-    return withDetails(name + ", " + dataEstesa(controlli.calendario.Value()) + ", ore " + time,
-                       kindsPresent(controlli.flxg.cella(riga, colonna)));
+    return withDetails(nameAndDay(controlli.flxg, riga, controlli.calendario.Value()) + ", ore " + time,
+                       appointmentsAt(controlli.flxg, riga, colonna));
 }
 
 std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna) {
-    const auto day = dayOfText(controlli.flxa.TextMatrix(riga, colonna), riga, controlli.calendario);
+    const auto day = giornoCella(controlli, TipoPlanner::Annuale, riga, colonna);
     if (!day) {
         return {};
     }
@@ -92,6 +96,12 @@ std::string yearlySentence(const ControlliPlcal& controlli, const modpl& session
     return withDetails(dataEstesa(*day), join(totals));
 }
 
+/// True when the visible grid is the kind's and holds the row among its data.
+bool isShownRow(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
+    const Griglia& griglia = controlli.griglia(tipo);
+    return controlli.tipoVisibile == tipo && riga >= griglia.FixedRows() && riga < griglia.Rows();
+}
+
 } // namespace
 
 std::string dataEstesa(Data data) {
@@ -100,11 +110,13 @@ std::string dataEstesa(Data data) {
            std::to_string(yearOf(data));
 }
 
-std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna) {
-    if (!controlli.tipoVisibile || riga < 0 || colonna < 1) {
+std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo, int riga,
+                       int colonna) {
+    if (!isShownRow(controlli, tipo, riga) || colonna < Griglia::FixedCols() ||
+        colonna >= controlli.griglia(tipo).Cols()) {
         return {};
     }
-    switch (*controlli.tipoVisibile) {
+    switch (tipo) {
     case TipoPlanner::Mensile:
         return monthlySentence(controlli, riga, colonna);
     case TipoPlanner::Giornaliero:
@@ -113,6 +125,14 @@ std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, i
         return yearlySentence(controlli, sessione, riga, colonna);
     }
     return {};
+}
+
+std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
+    if (!isShownRow(controlli, tipo, riga)) {
+        return {};
+    }
+    const Griglia& griglia = controlli.griglia(tipo);
+    return withDetails(utf8FromCp1252(griglia.TextMatrix(riga, 0)), kindsPresent(griglia.cella(riga, 0)));
 }
 
 } // namespace planner

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
@@ -28,19 +29,27 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
     setFirstDayOfWeek(Qt::Monday);
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
-    setFocusPolicy(Qt::NoFocus);
+    setDateEditEnabled(false); // typed digits would open a field of their own
     hideNavigation();
     for (QTableView* days : findChildren<QTableView*>()) {
         days->viewport()->installEventFilter(this);
-        days->setFocusPolicy(Qt::NoFocus);
+        days->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where it was
+        days->setAccessibleName(QStringLiteral("Giorni del calendario"));
         days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
     }
     colourDays();
-    connect(this, &QCalendarWidget::clicked, this, [this](QDate day) {
-        if (const auto picked = makeDate(day.year(), day.month(), day.day())) {
-            Q_EMIT dayPicked(*picked);
+    connect(this, &QCalendarWidget::clicked, this, &ShownCalendar::pick);
+    connect(this, &QCalendarWidget::selectionChanged, this, [this] {
+        if (!m_byCode) {
+            pick(selectedDate());
         }
     });
+}
+
+void ShownCalendar::pick(QDate day) {
+    if (const auto picked = makeDate(day.year(), day.month(), day.day())) {
+        Q_EMIT dayPicked(*picked);
+    }
 }
 
 void ShownCalendar::hideNavigation() {
@@ -69,6 +78,7 @@ void ShownCalendar::colourDays() {
 }
 
 void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
+    const QScopedValueRollback byCode(m_byCode, true);
     const Data shown = calendario.Value();
     setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
     setSelectedDate(qtDate(shown));

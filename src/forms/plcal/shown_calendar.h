@@ -26,6 +26,9 @@ protected:
 private:
     void hideNavigation();
     void colourDays();
+    void pick(QDate day);
+
+    bool m_byCode = false;
 };
 
 } // namespace planner

@@ -4,6 +4,7 @@
 
 #include "forms/plcal/geometry.h"
 
+#include <functional>
 #include <vector>
 
 namespace planner {
@@ -24,6 +25,12 @@ public:
     virtual void disponiPulsantiPeriodo() = 0;
     /// Makes `colonna` the first column in sight beside the fixed one.
     virtual void scorriA(int colonna) = 0;
+    /// The first column in sight beside the fixed one.
+    virtual int primaColonnaInVista() const = 0;
+    /// Scrolls back to the grid's beginning, and from there as far as the current cell's row needs it.
+    virtual void scorriAlCursore() = 0;
+    /// Runs the action once the event that is being handled is over.
+    virtual void rinvia(std::function<void()> azione) = 0;
     virtual void mostra() = 0;
     virtual void nascondi() = 0;
     virtual void portaDavanti() = 0;

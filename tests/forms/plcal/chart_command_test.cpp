@@ -33,7 +33,7 @@ TEST_F(ChartCommandTest, TheMonthlyPlannerAsksForAStaffMemberAndOpensNoChart) {
 
 TEST_F(ChartCommandTest, TheMonthlyChartIsThatOfTheSelectedStaffMember) {
     open("M");
-    form.SelChange(3, 15); // Rossi
+    gesto(3, 15); // Rossi
     press();
     ASSERT_THAT(shown(), SizeIs(1));
     EXPECT_EQ(shown().front().TitleText, "Planner Mensile");
@@ -43,7 +43,7 @@ TEST_F(ChartCommandTest, TheMonthlyChartIsThatOfTheSelectedStaffMember) {
 
 TEST_F(ChartCommandTest, TheMonthlyChartIsThatOfTheShownMonth) {
     open("M", "20060415");
-    form.SelChange(3, 15);
+    gesto(3, 15);
     press();
     ASSERT_THAT(shown(), SizeIs(1));
     EXPECT_THAT(shown().front().serie.front().valori, testing::Each(0));
@@ -98,7 +98,7 @@ TEST_F(ChartCommandTest, AMissingFileIsSaidAndTheChartIsEmptyWithAnEmptyTitle) {
 TEST_F(ChartCommandTest, AnImpossibleDayIsSaidAndOpensNoChart) {
     bench.putGrafici({rigaGrafico("RB", "20060332", "0007:30")});
     open("M");
-    form.SelChange(3, 15);
+    gesto(3, 15);
     press();
     ASSERT_THAT(bench.messaggi.shown, SizeIs(1));
     EXPECT_EQ(bench.messaggi.shown.front().icon, MessageIcon::Critical);
@@ -107,7 +107,7 @@ TEST_F(ChartCommandTest, AnImpossibleDayIsSaidAndOpensNoChart) {
 
 TEST_F(ChartCommandTest, MakesNoAnswerAndMovesNothing) {
     open("M");
-    form.SelChange(3, 15);
+    gesto(3, 17);
     press();
     EXPECT_EQ(sessione.valret, "");
     EXPECT_FALSE(sessione.FinePlanner);

@@ -29,7 +29,7 @@ TEST_F(CommandsTest, ExitAnswersE) {
 
 TEST_F(CommandsTest, FiltriAnswersFAndTheUnloadKeepsIt) {
     open("M");
-    form.SelChange(3, 17);
+    gesto(3, 17);
     press("filtri");
     EXPECT_EQ(reply(), "20060315RBF");
     EXPECT_TRUE(sessione.FinePlanner);
@@ -56,24 +56,24 @@ TEST_F(CommandsTest, ConsultWithoutASelectedStaffMemberDoesNothing) {
 
 TEST_F(CommandsTest, ConsultNeedsADeadlineOrACaseFile) {
     open("M");
-    form.SelChange(2, 12); // Bianchi: a note only
+    gesto(2, 12); // Bianchi: a note only
     press("consult");
     EXPECT_THAT(reply(), IsEmpty());
-    form.SelChange(3, 17); // Rossi: deadlines
+    gesto(3, 17); // Rossi: deadlines
     press("consult");
     EXPECT_EQ(reply(), "20060315RBD");
-    form.SelChange(4, 12); // Verdi: a case file
+    gesto(4, 12); // Verdi: a case file
     press("consult");
-    EXPECT_EQ(reply(), "200603157 D");
+    EXPECT_EQ(reply(), "200603107 D");
 }
 
 TEST_F(CommandsTest, ConsultInTheDailyPlannerTakesTheCurrentRow) {
     open("G");
-    form.SelChange(2, 40);
+    gesto(2, 40);
     press("consult");
     EXPECT_EQ(reply(), "20060315RBD");
     sessione.valret.clear();
-    form.SelChange(1, 40);
+    gesto(1, 40);
     press("consult");
     EXPECT_THAT(reply(), IsEmpty());
 }
@@ -81,10 +81,10 @@ TEST_F(CommandsTest, ConsultInTheDailyPlannerTakesTheCurrentRow) {
 TEST_F(CommandsTest, ConsultInTheYearlyPlannerNeedsAMarkedDay) {
     bench.putAnnuale(annoPlanner("2006", {{3, 17}}));
     open("A");
-    form.SelChange(3, 18);
+    gesto(3, 18);
     press("consult");
     EXPECT_THAT(reply(), IsEmpty());
-    form.SelChange(3, 17);
+    gesto(3, 17);
     press("consult");
     EXPECT_EQ(reply(), "20060315  D");
 }
@@ -108,7 +108,7 @@ TEST_F(CommandsTest, InsimpInVariantBAnswersTAndNeverAsks) {
 
 TEST_F(CommandsTest, InsimpAnswersWhatTheDialogChose) {
     open("M");
-    form.SelChange(3, 17);
+    gesto(3, 17);
     finestraImpegno.user = [](plfimp& dialog) { dialog.conferma_Click(); };
     press("insimp");
     EXPECT_EQ(reply(), "20060315RBI");
@@ -149,7 +149,7 @@ TEST_F(CommandsTest, DettnoThenDettsiReturnsTheToolbarToItsFirstStateAndRefillsT
 
 TEST_F(CommandsTest, ASwitchOfDetailKeepsSelectionAndPanel) {
     open("M");
-    form.SelChange(3, 17);
+    gesto(3, 17);
     press("dettno");
     EXPECT_EQ(controlli.Flxm.cella(3, 1).sfondo, Colore::giallo);
     EXPECT_EQ(controlli.Flxm.cella(3, 17).sfondo, Colore::ciano);
@@ -178,7 +178,7 @@ TEST_F(CommandsTest, AnUnknownKeyOrOneInAnotherCaseDoesNothing) {
 
 TEST_F(CommandsTest, ALaterReplyWins) {
     open("M");
-    form.SelChange(3, 17);
+    gesto(3, 17);
     press("consult");
     press("agenda");
     EXPECT_EQ(reply(), "20060315RBA");
@@ -186,8 +186,8 @@ TEST_F(CommandsTest, ALaterReplyWins) {
 
 TEST_F(CommandsTest, TheDateOfAReplyIsTheCalendarsAtTheMomentOfTheCommand) {
     open("M");
-    form.SelChange(3, 3);
-    form.Click(3, 3);
+    gesto(3, 3);
+    gesto(3, 3);
     press("consult");
     EXPECT_EQ(reply(), "20060301RBD");
 }
@@ -249,7 +249,7 @@ TEST_F(CommandsTest, HidingThePlannerHidesTheStaffWindow) {
 TEST_F(CommandsTest, ThePlannerStaysUsableBesideTheStaffWindow) {
     open("M");
     press("coll");
-    form.SelChange(3, 17);
+    gesto(3, 17);
     press("consult");
     EXPECT_EQ(reply(), "20060315RBD");
     EXPECT_TRUE(collaboratori.isShown());

@@ -41,8 +41,8 @@ TEST_F(PlcalLifecycleTest, ShowingUpdatesShowsAndActivates) {
     open("M");
     form.show();
     form.bringToFront();
-    EXPECT_THAT(bench.journal,
-                ElementsAre("update", "show", "lock", "place period buttons", "unlock", "bring to front"));
+    EXPECT_THAT(bench.journal, ElementsAre("update", "show", "scroll to the cursor", "lock",
+                                           "place period buttons", "unlock", "bring to front"));
 }
 
 TEST_F(PlcalLifecycleTest, ActivatingPlacesThePeriodButtonsAgainUnderALock) {

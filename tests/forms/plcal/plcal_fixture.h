@@ -27,6 +27,11 @@ protected:
         bench.journal.clear();
     }
 
+    /// The user acts on a place of the visible grid.
+    void gesto(int riga, int colonna, Mezzo mezzo = Mezzo::clic) {
+        form.griglia_Gesto({riga, colonna, mezzo});
+    }
+
     PlannerBench bench;
     modpl& sessione = bench.sessione;
     ControlliPlcal& controlli = bench.controlli;
@@ -39,7 +44,7 @@ protected:
     FakeFinestraGrafici finestraGrafici;
     plcal form{sessione,
                controlli,
-               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici},
+               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici, bench.orologio},
                [this] {
                    ++enginesMade;
                    return makeEngine();

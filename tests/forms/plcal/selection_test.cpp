@@ -42,7 +42,7 @@ protected:
 
 TEST_F(SelectionTest, SelectingARowMakesItsStaffMemberCurrentAndFillsThePanel) {
     openMonth();
-    form.SelChange(3, Day15);
+    gesto(3, Day15);
     EXPECT_EQ(sessione.IndiceCollab, 1);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(form.pannello().lblcollab, "Impegni di Rossi Bruno");
@@ -58,7 +58,7 @@ TEST_F(SelectionTest, SelectingARowMakesItsStaffMemberCurrentAndFillsThePanel) {
 
 TEST_F(SelectionTest, ATotalOfZeroIsAnEmptyLabelNotAZero) {
     openMonth();
-    form.SelChange(3, Day15);
+    gesto(3, Day15);
     EXPECT_EQ(total("lblpra"), "");
     EXPECT_TRUE(shown("lblpra"));
     EXPECT_EQ(formatoTotale(0), "");
@@ -68,16 +68,45 @@ TEST_F(SelectionTest, ATotalOfZeroIsAnEmptyLabelNotAZero) {
 
 TEST_F(SelectionTest, ADayWithoutEntriesSelectsToo) {
     openMonth();
-    form.SelChange(2, 1); // a blank day before the month's first
+    gesto(2, 4); // 2 March
     EXPECT_EQ(sessione.collab, "BI");
     EXPECT_EQ(total("lblpra"), "7");
     EXPECT_EQ(total("Lblpraeva"), "6");
 }
 
+TEST_F(SelectionTest, AColumnOfNoDayHidesThePanelAndLeavesStaffMemberAndDay) {
+    openMonth();
+    gesto(3, Day15);
+    gesto(2, 1); // before the month's first day
+    EXPECT_FALSE(form.pannello().lblcollabVisibile);
+    EXPECT_EQ(sessione.collab, "RB");
+    EXPECT_EQ(controlli.calendario.Day(), 15);
+    EXPECT_EQ(controlli.Flxm.cella(3, Day15).sfondo, Colore::ciano);
+}
+
+TEST_F(SelectionTest, AMarkedCellFollowsTheDayThatASpareRowGives) {
+    openMonth();
+    gesto(3, Day15);
+    gesto(SpareRow, Day15 + 1);
+    EXPECT_EQ(controlli.calendario.Day(), 16);
+    EXPECT_EQ(controlli.Flxm.cella(3, Day15).sfondo, Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.cella(3, Day15 + 1).sfondo, Colore::ciano);
+}
+
+TEST_F(SelectionTest, ANameSelectsItsStaffMemberOnTheShownDay) {
+    openMonth();
+    gesto(3, 0);
+    EXPECT_EQ(sessione.collab, "RB");
+    EXPECT_EQ(controlli.calendario.Day(), 15);
+    EXPECT_EQ(controlli.Flxm.Row(), 3);
+    EXPECT_EQ(controlli.Flxm.Col(), Day15);
+    EXPECT_EQ(form.stato().find("Rossi Bruno, mercoledì 15 marzo 2006"), 0U);
+}
+
 TEST_F(SelectionTest, ASpareRowHidesThePanelAndLeavesTheStaffMemberAsItWas) {
     openMonth();
-    form.SelChange(3, Day15);
-    form.SelChange(SpareRow, Day15);
+    gesto(3, Day15);
+    gesto(SpareRow, Day15);
     EXPECT_EQ(sessione.IndiceCollab, 1);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_FALSE(form.pannello().lblcollabVisibile);
@@ -89,8 +118,8 @@ TEST_F(SelectionTest, ASpareRowHidesThePanelAndLeavesTheStaffMemberAsItWas) {
 
 TEST_F(SelectionTest, TheUnassignedRowSelectsWithABlankCode) {
     openMonth();
-    form.SelChange(3, Day15);
-    form.SelChange(5, 3);
+    gesto(3, Day15);
+    gesto(5, 3);
     EXPECT_EQ(sessione.IndiceCollab, 3);
     EXPECT_EQ(sessione.collab, "  ");
     EXPECT_EQ(form.pannello().lblcollab, "Impegni di *NON ASSEGNATE*");
@@ -99,7 +128,7 @@ TEST_F(SelectionTest, TheUnassignedRowSelectsWithABlankCode) {
 
 TEST_F(SelectionTest, TheSelectedRowIsYellowAndItsCellCyan) {
     openMonth();
-    form.SelChange(3, Day15);
+    gesto(3, Day15);
     auto expected = std::vector<Colore>(37, Colore::giallo);
     expected[Day15 - 1] = Colore::ciano;
     EXPECT_EQ(backgrounds(controlli.Flxm, 3), expected);
@@ -108,8 +137,8 @@ TEST_F(SelectionTest, TheSelectedRowIsYellowAndItsCellCyan) {
 
 TEST_F(SelectionTest, ASecondRowPaintsTheFirstBackToLightYellow) {
     openMonth();
-    form.SelChange(3, Day15);
-    form.SelChange(2, 5);
+    gesto(3, Day15);
+    gesto(2, 5);
     EXPECT_THAT(backgrounds(controlli.Flxm, 3), Each(Colore::gialloChiaro));
     EXPECT_EQ(controlli.Flxm.cella(2, 5).sfondo, Colore::ciano);
     EXPECT_EQ(controlli.Flxm.cella(2, 6).sfondo, Colore::giallo);
@@ -123,9 +152,9 @@ TEST_F(SelectionTest, MovingInsideTheHighlightedRowChangesTwoCellsOnly) {
         AreaCelle area;
     } counter;
     openMonth();
-    form.SelChange(3, Day15);
+    gesto(3, Day15);
     controlli.Flxm.setOsservatore(&counter);
-    form.SelChange(3, Day15 + 1);
+    gesto(3, Day15 + 1);
     controlli.Flxm.setOsservatore(nullptr);
     EXPECT_EQ(counter.area.rigaMin, 3);
     EXPECT_EQ(counter.area.rigaMax, 3);
@@ -136,7 +165,7 @@ TEST_F(SelectionTest, MovingInsideTheHighlightedRowChangesTwoCellsOnly) {
 
 TEST_F(SelectionTest, InVariantBTheDeadlinesNeverShow) {
     openMonth("B");
-    form.SelChange(3, Day15);
+    gesto(3, Day15);
     EXPECT_FALSE(shown("Lblscad"));
     EXPECT_FALSE(shown("Lblscadeva"));
     EXPECT_EQ(total("Lblscad"), "");
@@ -146,12 +175,12 @@ TEST_F(SelectionTest, InVariantBTheDeadlinesNeverShow) {
 
 TEST_F(SelectionTest, AClickMovesTheCalendarToTheDay) {
     openMonth();
-    form.Click(3, 3);
+    gesto(3, 3);
     EXPECT_EQ(controlli.calendario.Day(), 1);
-    form.Click(3, 33);
+    gesto(3, 33);
     EXPECT_EQ(controlli.calendario.Day(), 31);
-    form.Click(3, 34); // after the month's last day
-    form.Click(3, 2);  // before its first
+    gesto(3, 34); // after the month's last day
+    gesto(3, 2);  // before its first
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060331");
 }
 
@@ -159,29 +188,31 @@ TEST_F(SelectionTest, AMonthWhoseFirstDayFallsOnTheFourthColumnMapsColumn4ToDay1
     bench.putAnnuale(annoPlanner("2006"));
     sessione.FlagFinestra = " ";
     open("M", "20060615"); // 1 June 2006 is a Thursday
-    form.Click(2, 4);
+    gesto(2, 4);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060601");
 }
 
 TEST_F(SelectionTest, AMonthThatStartsOnSundayMapsColumn7ToDay1) {
     open("M", "20061015");
-    form.Click(2, 7);
+    gesto(2, 7);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20061001");
-    form.Click(2, 37);
+    gesto(2, 37);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20061031");
 }
 
-TEST_F(SelectionTest, KeysMoveTheCalendarTheMouseOnlyByItsClick) {
+TEST_F(SelectionTest, EveryMeansMovesTheCalendar) {
     openMonth();
-    form.RowColChange(3, 3, /*tastoTenuto=*/false);
-    EXPECT_EQ(controlli.calendario.Day(), 15);
-    form.RowColChange(3, 3, /*tastoTenuto=*/true);
-    EXPECT_EQ(controlli.calendario.Day(), 1);
+    int day = 0;
+    for (const DescrizioneMezzo& described : Mezzi) {
+        ++day;
+        gesto(3, 2 + day, described.mezzo);
+        EXPECT_EQ(controlli.calendario.Day(), day) << described.nome;
+    }
 }
 
 TEST_F(SelectionTest, TheDailyGridSelectsByRowLessOneAndKeepsTheSelectedIndex) {
     open("G");
-    form.SelChange(2, 40);
+    gesto(2, 40);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(sessione.IndiceCollab, -1);
     EXPECT_EQ(total("Lblscad"), "3");
@@ -190,24 +221,25 @@ TEST_F(SelectionTest, TheDailyGridSelectsByRowLessOneAndKeepsTheSelectedIndex) {
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
 }
 
-TEST_F(SelectionTest, AnIndexBeyondTheTotalsIsSaidAndThePlannerGoesOn) {
-    bench.putRighe({riga("BI", "20060310", {{1, "00001"}})}); // totals for indices 0 and 1 only
+TEST_F(SelectionTest, AStaffMemberBeyondTheTotalsIsSelectedWithoutAMessage) {
+    bench.putRighe({riga("7 ", "20060310", {{1, "00001"}})}); // totals for indices 0 and 1 only
     openMonth();
-    bench.messaggi.shown.clear();
-    form.SelChange(4, 3);
-    ASSERT_EQ(bench.messaggi.shown.size(), 1U);
-    EXPECT_EQ(bench.messaggi.shown[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(bench.messaggi.shown[0].title, "Planner");
-    form.SelChange(2, 3);
-    EXPECT_EQ(total("Lblscad"), "1");
+    gesto(4, 12);
+    EXPECT_THAT(bench.messaggi.shown, IsEmpty());
+    EXPECT_EQ(sessione.collab, "7 ");
+    EXPECT_TRUE(shown("Lblscad"));
+    EXPECT_EQ(total("Lblscad"), "");
+    EXPECT_EQ(form.stato(), "Verdi Ugo, venerdì 10 marzo 2006: scadenze");
+    form.Toolbar1_ButtonClick("consult");
+    EXPECT_EQ(sessione.valret, "200603107 D") << "there is something to consult all the same";
 }
 
 TEST_F(SelectionTest, CellsOutsideTheDataAreIgnored) {
     openMonth();
-    for (const auto& [row, column] : {std::pair{0, 3}, {1, 3}, {3, 0}, {-1, -1}, {1000, 3}, {3, 1000}}) {
-        form.SelChange(row, column);
-        form.Click(row, column);
-        form.RowColChange(row, column, true);
+    for (const auto& [row, column] : {std::pair{0, 3}, {1, 3}, {0, 0}, {-1, -1}, {1000, 3}, {3, 1000}}) {
+        gesto(row, column);
+        gesto(row, column);
+        gesto(row, column, Mezzo::frecce);
     }
     EXPECT_EQ(sessione.IndiceCollab, -1);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
@@ -230,7 +262,7 @@ protected:
 };
 
 TEST_F(YearlySelectionTest, AMarkedDayShowsItsElevenNumbersInSevenTotals) {
-    form.SelChange(3, 17);
+    gesto(3, 17);
     EXPECT_EQ(total("scad"), "11");  // 1 + 10
     EXPECT_EQ(total("scaev"), "33"); // 3 + 30
     EXPECT_EQ(total("prat"), "22");  // 2 + 20
@@ -241,44 +273,55 @@ TEST_F(YearlySelectionTest, AMarkedDayShowsItsElevenNumbersInSevenTotals) {
 }
 
 TEST_F(YearlySelectionTest, AnUnmarkedDayEmptiesThePanel) {
-    form.SelChange(3, 17);
-    form.SelChange(3, 18);
+    gesto(3, 17);
+    gesto(3, 18);
     for (const char* label : {"scad", "scaev", "prat", "praev", "nriv", "bnot", "blkev"}) {
         EXPECT_EQ(total(label), "") << label;
     }
 }
 
 TEST_F(YearlySelectionTest, TheMarkedDayIsCyanWithBlackTextAndThePreviousOneGetsItsColoursBack) {
-    form.SelChange(3, 17);
+    gesto(3, 17);
     EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::ciano);
     EXPECT_EQ(controlli.flxa.cella(3, 17).colore, Colore::nero);
-    form.SelChange(1, 8);
+    gesto(1, 8);
     EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::navy);
     EXPECT_EQ(controlli.flxa.cella(3, 17).colore, Colore::bianco);
     EXPECT_EQ(controlli.flxa.cella(1, 8).sfondo, Colore::ciano);
-    form.SelChange(3, 17);
+    gesto(3, 17);
     EXPECT_EQ(controlli.flxa.cella(1, 8).sfondo, Colore::navy) << "January's days get them back too";
 }
 
+TEST_F(YearlySelectionTest, ADayWithoutEntriesLeavesNoOtherDayMarked) {
+    gesto(3, 17);
+    gesto(3, 18);
+    EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::navy);
+    EXPECT_EQ(controlli.flxa.cella(3, 18).sfondo, Colore::grigioChiaro);
+}
+
+TEST_F(YearlySelectionTest, TheNameOfAMonthMovesNothing) {
+    gesto(5, 0);
+    EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
+    EXPECT_EQ(controlli.flxa.Row(), 0) << "the window places the cursor when it is shown";
+}
+
 TEST_F(YearlySelectionTest, AClickMovesTheCalendarToTheDayWrittenInTheCell) {
-    form.Click(5, 1); // 1 May 2006 is a Monday
+    gesto(5, 1); // 1 May 2006 is a Monday
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060501");
-    form.Click(2, 1); // no day of February
+    gesto(2, 1); // no day of February
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060501");
 }
 
 TEST_F(YearlySelectionTest, ArrowKeysMoveTheCalendarOnlyOnceThePlannerHasStarted) {
-    form.RowColChange(5, 1, /*tastoTenuto=*/false);
-    EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
-    form.RowColChange(5, 1, /*tastoTenuto=*/true);
+    gesto(5, 1, Mezzo::frecce);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060501");
     sessione.CalendarioAttivo = false;
-    form.RowColChange(3, 17, /*tastoTenuto=*/true);
+    gesto(3, 17, Mezzo::frecce);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060501");
 }
 
 TEST_F(YearlySelectionTest, SelectingChangesNeitherStaffMemberNorRowColours) {
-    form.SelChange(3, 17);
+    gesto(3, 17);
     EXPECT_EQ(sessione.collab, "  ");
     EXPECT_EQ(controlli.flxa.cella(3, 16).sfondo, Colore::grigioChiaro);
 }

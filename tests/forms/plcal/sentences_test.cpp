@@ -13,7 +13,9 @@ protected:
                         conOrario(riga("BI", "20060315", {{5, "00001"}}), "09", "30", "0000130"),
                         RigaPlanner{}, RigaPlanner{}});
     }
-    std::string at(int row, int column) { return fraseCella(controlli, sessione, row, column); }
+    std::string at(int row, int column) {
+        return fraseCella(controlli, sessione, *controlli.tipoVisibile, row, column);
+    }
 };
 
 TEST_F(SentencesTest, ADayNamesStaffMemberDateAndKinds) {
@@ -32,7 +34,8 @@ TEST_F(SentencesTest, TheKindsAreNamedInThePlainDisplayToo) {
 TEST_F(SentencesTest, ACellOfNoDayNamesTheStaffMemberOnly) {
     open("M");
     EXPECT_EQ(at(3, 1), "Rossi Bruno");
-    EXPECT_EQ(at(9, 17), "") << "a spare row";
+    EXPECT_EQ(at(9, 17), "mercoledì 15 marzo 2006") << "a spare row";
+    EXPECT_EQ(at(9, 1), "");
 }
 
 TEST_F(SentencesTest, AQuarterOfTheDayNamesItsHourAndTheAppointmentThatCoversIt) {

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "platform/qt/guarded_application.h"
+
+#include "engine/guard.h"
+#include "platform/qt/text.h"
+
+namespace planner {
+
+bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        report(fromUtf8(operazioneNonRiuscita(error)));
+    } catch (...) {
+        report(QStringLiteral("Errore imprevisto."));
+    }
+    return true;
+}
+
+void GuardedApplication::report(const QString& trouble) {
+    if (m_said.contains(trouble)) {
+        return; // a painting that fails would say so with every painting
+    }
+    m_said.insert(trouble);
+    const auto say = [this, trouble] {
+        if (m_messaggi != nullptr) {
+            m_messaggi->critical(trouble.toStdString());
+        }
+    };
+    QMetaObject::invokeMethod(this, say, Qt::QueuedConnection);
+}
+
+} // namespace planner

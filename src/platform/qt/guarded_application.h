@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ports/message_boxes.h"
+
+#include <QApplication>
+#include <QSet>
+
+namespace planner {
+
+/// The toolkit's application with a guard around every event: what an event's handler throws is said once,
+/// after the event, and the planner goes on.
+class GuardedApplication : public QApplication {
+    Q_OBJECT
+public:
+    using QApplication::QApplication;
+
+    /// Where troubles are said; until it is set, and after `nullptr`, they are only kept from the toolkit.
+    void setMessages(MessageBoxes* messaggi) { m_messaggi = messaggi; }
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    void report(const QString& trouble);
+
+    MessageBoxes* m_messaggi = nullptr;
+    QSet<QString> m_said;
+};
+
+} // namespace planner
