@@ -16,7 +16,7 @@ constexpr double MostRoom = 1.0 / 3;      // of the chart's body, for upright te
 constexpr std::string_view Zero = "0:00"; // says nothing that the missing bar does not
 
 double widthOf(const ChartLayoutTask& task, ChartTextRole role, const std::string& text) {
-    return task.measure(role, text).width;
+    return text.empty() ? 0 : task.measure(role, text).width;
 }
 
 /// The width of the widest text, of those not wider than `limit`.
@@ -95,7 +95,8 @@ private:
 BarTexts measureBarTexts(const ChartLayoutTask& task, double slotWidth) {
     BarTexts texts;
     for (std::size_t number = 0; number < task.grafico.numValori(); ++number) {
-        const std::string value = testoOre(task.grafico.valore(number));
+        const std::string value =
+            slotWidth < NarrowestSlot ? std::string(Zero) : testoOre(task.grafico.valore(number));
         texts.labels.push_back(task.labelOf(number));
         texts.values.push_back(value == Zero ? "" : value);
     }
@@ -123,16 +124,16 @@ void placeBarLabels(const ChartLayoutTask& task, const BarTexts& texts) {
 
 void placeBarValues(const ChartLayoutTask& task, const BarTexts& texts) {
     ChartLayout& layout = task.layout;
-    if (layout.bars.empty() || layout.bars.front().slot.width < NarrowestSlot) {
-        return;
-    }
     WrittenValues written;
     for (std::size_t number = 0; number < texts.values.size(); ++number) {
+        if (texts.values[number].empty()) {
+            continue;
+        }
         const ChartBar& bar = layout.bars[number];
         const PlacedText value =
             standing(task, ChartTextRole::value, texts.values[number], texts.valuesUpwards,
                      {bar.slot.centre().x, bar.area.y - ValueDistance});
-        if (!value.text.empty() && written.leaveFree(value.area) && !leavesChart(layout, value.area) &&
+        if (written.leaveFree(value.area) && !leavesChart(layout, value.area) &&
             !coversBar(layout, value.area)) {
             written.add(value.area);
             layout.texts.push_back(value);
