@@ -17,18 +17,21 @@ public:
 class OverflowError : public RuntimeError {
 public:
     OverflowError();
+    using RuntimeError::RuntimeError;
 };
 
 /// An index lies outside its table or grid.
 class SubscriptError : public RuntimeError {
 public:
     SubscriptError();
+    using RuntimeError::RuntimeError;
 };
 
 /// A text that must be a number is not one.
 class TypeMismatchError : public RuntimeError {
 public:
     TypeMismatchError();
+    using RuntimeError::RuntimeError;
 };
 
 /// Day, month and year name no day of the calendar.

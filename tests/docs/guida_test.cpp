@@ -55,6 +55,12 @@ TEST(GuidaTest, EveryCommandOfTheStaffListHasItsRowAndKeys) {
     }
 }
 
+TEST(GuidaTest, EveryCommandOfTheChartsHasItsRowAndKeys) {
+    for (const DescrizioneComandoGrafico& command : ComandiGrafico) {
+        expectDocumented(command.didascalia, command.scorciatoia);
+    }
+}
+
 TEST(GuidaTest, EveryKindOfChartIsNamed) {
     for (const std::string_view option : OpzioniTipoGrafico) {
         EXPECT_NE(guida().find("«" + std::string(option) + "»"), std::string::npos) << option;

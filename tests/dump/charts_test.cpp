@@ -106,20 +106,21 @@ TEST(DumpChart, OfAnUnknownKindIsNone) {
 }
 
 TEST(DumpChart, AFailureIsSaidAndGivesNone) {
-    const Json messages =
-        Json::array({critical("Operazione non riuscita: un indice è fuori dai limiti della tabella.")});
-    expectNoChart(dumpOfKind("M", "99"), messages);
-    expectNoChart(dumpOfKind("M", "32767"), messages);
+    const auto failed = [](const std::string& why) {
+        return Json::array({critical("Operazione non riuscita: " + why + ".")});
+    };
+    for (const std::string_view collab : {"99", "32767"}) {
+        expectNoChart(dumpOfKind("M", collab), failed("un indice è fuori dai limiti della tabella"));
+    }
     SmallOffice office;
     office.richiesta = request("A");
     office.grafici.push_back(rigaGrafico("RM", "20061301", "0001:00"));
-    expectNoChart(office.dumpWithChart("0"), messages);
+    const std::string record = "wgrafici, record " + std::to_string(office.grafici.size()) + ": ";
+    expectNoChart(office.dumpWithChart("0"), failed(record + "il mese \"13\" è fuori dall'anno"));
     office.grafici.back() = rigaGrafico("RM", "2006xx01", "0001:00");
-    expectNoChart(office.dumpWithChart("0"),
-                  Json::array({critical("Operazione non riuscita: un testo non è un numero.")}));
+    expectNoChart(office.dumpWithChart("0"), failed(record + "il mese \"xx\" non è un numero"));
     office.grafici.back() = rigaGrafico("RM", "20060101", "1000000");
-    expectNoChart(office.dumpWithChart("0"),
-                  Json::array({critical("Operazione non riuscita: un numero è troppo grande.")}));
+    expectNoChart(office.dumpWithChart("0"), failed("un numero è troppo grande"));
 }
 
 TEST(DumpChart, MissingHoursAreSaidAndGiveAnEmptyChart) {

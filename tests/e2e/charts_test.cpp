@@ -190,15 +190,22 @@ TEST_F(Charts, TheArrowKeysReadTheHoursOfEachDay) {
     archivio.write("wgrafici", test::bytesOf(test::rigaGrafico(picked.codice, "20060315", "0007:30")));
     showMonthWithSomebody();
     const Finestra chart = openChart();
-    bus.waitFor(planner(), {"Grafico", 14, 0, "15 marzo: 7,5 ore"});
+    bus.waitFor(planner(), {"Grafico", 14, 0, "15 marzo: 7 ore e 30 minuti"});
     chart.press("Right");
-    bus.waitFor(planner(), "1 marzo: 0 ore"); // now under the chart
+    bus.waitFor(planner(), "1 marzo: nessuna ora"); // now under the chart
     for (int day = 2; day <= 15; ++day) {
         chart.press("Right");
     }
-    bus.waitFor(planner(), "15 marzo: 7,5 ore");
+    bus.waitFor(planner(), "15 marzo: 7 ore e 30 minuti");
     chart.press("Left");
-    bus.waitFor(planner(), "14 marzo: 0 ore");
+    bus.waitFor(planner(), "14 marzo: nessuna ora");
+}
+
+TEST_F(Charts, AButtonCopiesToo) {
+    showMonthWithSomebody();
+    openChart();
+    press("Copia i valori");
+    bus.waitFor(planner(), "Valori copiati.");
 }
 
 TEST_F(Charts, TheCopyKeysSayThatTheValuesAreCopied) {

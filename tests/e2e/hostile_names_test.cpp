@@ -44,7 +44,8 @@ TEST_F(HostileNames, AreShownAsTheyAreInTheChart) {
     archivio.write("wgrafici", test::bytesOf(test::rigaGrafico("06", "20060315", "0008:15")));
     open("ctrl+g", "Planner");
     for (std::size_t i = 0; i < names.size(); ++i) {
-        checkCell("Grafico", i, " (" + codeOf(i) + "): " + (codeOf(i) == "06" ? "8,25" : "0") + " ore");
+        checkCell("Grafico", i,
+                  " (" + codeOf(i) + "): " + (codeOf(i) == "06" ? "8 ore e 15 minuti" : "nessuna ora"));
     }
 }
 
@@ -54,7 +55,7 @@ TEST_F(HostileNames, AreReadAsTheyAreUnderTheChart) {
     const Finestra chart = window(planner(), "Planner");
     for (std::size_t i = 0; i < names.size(); ++i) {
         chart.press("Right");
-        bus.waitFor(planner(), names.at(i) + " (" + codeOf(i) + "): 0 ore");
+        bus.waitFor(planner(), names.at(i) + " (" + codeOf(i) + "): nessuna ora");
     }
 }
 

@@ -38,6 +38,7 @@ void requireValuesClear(const ChartLayout& layout) {
         }
         const auto covers = [&](const ChartArea& other) {
             ChartArea inner = text.area;
+            inner.width -= Tolerance;
             inner.height -= Tolerance;
             return inner.overlaps(other);
         };
@@ -71,8 +72,11 @@ void requireBarsInsideThePlot(const Grafico& grafico, const ChartLayout& layout)
 void requireSoundTable(const Grafico& grafico) {
     const std::string table = tabellaValori(grafico);
     const auto lines = std::count(table.begin(), table.end(), '\n');
-    require(static_cast<std::size_t>(lines) == grafico.numValori() + 1, "the table has a line per value");
-    require(std::count(table.begin(), table.end(), '\t') == lines, "each line has two columns");
+    const std::size_t headings = grafico.intestazione.empty() ? 1 : 2;
+    require(static_cast<std::size_t>(lines) == grafico.numValori() + headings,
+            "the table has a line per value");
+    const auto tabs = static_cast<std::size_t>(std::count(table.begin(), table.end(), '\t'));
+    require(tabs == 2 * (grafico.numValori() + 1), "each line has three columns");
     require(cp1252FromUtf8(table).has_value(), "the table is UTF-8");
 }
 
@@ -85,8 +89,11 @@ void requireSound(const Grafico& grafico) {
         require(std::isfinite(grafico.valore(numero)), "a value is a number");
         require(!testoOre(grafico.valore(numero)).empty(), "hours have a text");
         require(cp1252FromUtf8(fraseValore(grafico, numero)).has_value(), "a sentence is UTF-8");
+        require(cp1252FromUtf8(fraseParlata(grafico, numero)).has_value(), "a spoken sentence is UTF-8");
     }
     requireSoundTable(grafico);
+    const std::string name = nomeFileGrafico(grafico);
+    require(!name.empty() && name.find_first_of("/\\.") == std::string::npos, "a file can have the name");
 }
 
 void requireSoundLayout(const Grafico& grafico, ChartSize size, const ChartArea& reserved) {

@@ -1,22 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plfgraf/chart_export.h"
+#include "forms/plfgraf/chart_model.h"
 #include "forms/plfgraf/chart_view.h"
+#include "forms/plfgraf/elided_label.h"
+#include "platform/qt/text.h"
 #include "ui/modal_dialog.h"
 #include "ui/window_bench.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDialog>
 #include <QFile>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -54,9 +60,10 @@ struct ChartWindowTest : testing::Test {
     }
 
     static ChartView& chart(QDialog& dialog) { return *dialog.findChild<ChartView*>(); }
-    static QString status(QDialog& dialog) {
-        return dialog.findChild<QLabel*>(QStringLiteral("stato"))->text();
+    static ElidedLabel& line(QDialog& dialog) {
+        return *dialog.findChild<ElidedLabel*>(QStringLiteral("stato"));
     }
+    static QString status(QDialog& dialog) { return line(dialog).whole(); }
     static void choose(QDialog& dialog, int option) {
         auto* button = dialog.findChild<QRadioButton*>(QStringLiteral("OptTipoGrafico_%1").arg(option));
         QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
@@ -79,6 +86,19 @@ struct ChartWindowTest : testing::Test {
             said = status(dialog);
         });
         return said;
+    }
+    static QPushButton& button(QDialog& dialog, const char* command) {
+        return *dialog.findChild<QPushButton*>(QStringLiteral("pulsante_") + QLatin1String(command));
+    }
+    /// The name under which the file dialog offers to save the chart.
+    static QString offeredName(QDialog& dialog) {
+        QString name;
+        whileModal([&] { trigger(dialog, "salva"); },
+                   [&](QDialog& saving) {
+                       name = saving.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+                       saving.close();
+                   });
+        return name;
     }
     static void trigger(QDialog& dialog, const char* command) {
         dialog.findChild<QAction*>(QLatin1String(command))->trigger();
@@ -114,6 +134,110 @@ TEST_F(ChartWindowTest, EscapeClosesIt) {
                    dialog.close();
                });
     EXPECT_TRUE(closed);
+}
+
+TEST_F(ChartWindowTest, AHeldEscapeLeavesItOpen) {
+    openChart("G", [](QDialog& dialog) {
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), /*autorep=*/true);
+        QCoreApplication::sendEvent(&chart(dialog), &held);
+        EXPECT_TRUE(dialog.isVisible()) << "the key was pressed for another window";
+    });
+}
+
+TEST_F(ChartWindowTest, EnterPressesTheButtonWithTheFocus) {
+    openChart("M", [](QDialog& dialog) {
+        auto* pie = dialog.findChild<QRadioButton*>(QStringLiteral("OptTipoGrafico_2"));
+        pie->setFocus();
+        QTest::keyClick(pie, Qt::Key_Return);
+        EXPECT_TRUE(pie->isChecked());
+        EXPECT_THAT(chart(dialog).chartLayout().slices, SizeIs(2));
+        for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            line(dialog).setWhole(QString());
+            button(dialog, "copia").setFocus();
+            QTest::keyClick(&button(dialog, "copia"), static_cast<Qt::Key>(key));
+            EXPECT_EQ(status(dialog), QStringLiteral("Valori copiati.")) << key;
+        }
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
+TEST_F(ChartWindowTest, CopyingSavingAndPrintingHaveVisibleButtonsBelowTheChart) {
+    openChart("M", [](QDialog& dialog) {
+        for (const char* command : {"copia", "salva", "stampa"}) {
+            const QPushButton& each = button(dialog, command);
+            const auto* action = dialog.findChild<QAction*>(QLatin1String(command));
+            EXPECT_TRUE(each.isVisible()) << command;
+            EXPECT_EQ(each.text(), action->text());
+            EXPECT_TRUE(each.toolTip().contains(action->shortcut().toString())) << command;
+            EXPECT_GT(each.y(), chart(dialog).geometry().bottom());
+            EXPECT_LT(each.geometry().bottom(), dialog.height());
+            EXPECT_FALSE(each.geometry().intersects(line(dialog).geometry()));
+        }
+        EXPECT_EQ(button(dialog, "salva").text(), QStringLiteral("Salva il grafico…"));
+    });
+}
+
+TEST_F(ChartWindowTest, TabReachesEveryButton) {
+    openChart("M", [](QDialog& dialog) {
+        QStringList reached;
+        do {
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            reached.append(dialog.focusWidget()->objectName());
+        } while (dialog.focusWidget() != &chart(dialog) && reached.size() < 10);
+        const QString all = reached.join(QLatin1Char(' '));
+        EXPECT_TRUE(all.startsWith(QStringLiteral("OptTipoGrafico_0 "))) << all.toStdString();
+        EXPECT_TRUE(all.endsWith(QStringLiteral(" pulsante_copia pulsante_salva pulsante_stampa MSChartm")))
+            << all.toStdString();
+    });
+}
+
+TEST_F(ChartWindowTest, AStatusTooLongForItsPlaceIsItsToolTip) {
+    openChart("G", [](QDialog& dialog) {
+        ElidedLabel& status = line(dialog);
+        status.setWhole(QStringLiteral("Breve"));
+        EXPECT_EQ(status.text(), QStringLiteral("Breve"));
+        EXPECT_TRUE(status.toolTip().isEmpty());
+        const QString whole = QStringLiteral("<b>lungo</b> ").repeated(80);
+        status.setWhole(whole);
+        EXPECT_TRUE(status.text().endsWith(QChar(0x2026)));
+        EXPECT_EQ(status.toolTip(), plainToolTip(whole));
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(&status)->text(QAccessible::Name), whole);
+        EXPECT_LE(status.fontMetrics().horizontalAdvance(status.text()), status.width());
+    });
+}
+
+TEST_F(ChartWindowTest, SaysWhoseHoursItShows) {
+    const std::vector<std::pair<std::string, QString>> headings{
+        {"M", QStringLiteral("Ore di Rossi Bruno - marzo 2006")},
+        {"G", QStringLiteral("Ore dei collaboratori - 15 marzo 2006")},
+        {"A", QStringLiteral("Ore dell'anno 2006")}};
+    for (const auto& [tipo, heading] : headings) {
+        openChart(tipo, [&heading = heading](QDialog& dialog) {
+            EXPECT_TRUE(status(dialog).startsWith(heading + QStringLiteral(". "))) << heading.toStdString();
+            EXPECT_EQ(chart(dialog).accessibleDescription(), heading);
+            EXPECT_EQ(dialog.accessibleDescription(), heading);
+            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Planner"));
+            EXPECT_EQ(offeredName(dialog), heading);
+            trigger(dialog, "copia");
+            EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(heading + QLatin1Char('\n')));
+        });
+    }
+}
+
+TEST_F(ChartWindowTest, TheFrameIsPaperWithALineOnADarkDesktopToo) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(35, 38, 41)));
+    openChart("M", [](QDialog& dialog) {
+        auto* frame = dialog.findChild<QGroupBox*>(QStringLiteral("FrameTipo_Grafico"));
+        EXPECT_EQ(frame->title(), QStringLiteral("Tipo Grafico"));
+        const QImage image = frame->grab().toImage();
+        EXPECT_EQ(image.pixelColor(image.width() / 2, 3), Qt::white);
+        EXPECT_EQ(image.pixelColor(image.width() / 2, 0), QColor(128, 128, 128));
+        const auto* option = dialog.findChild<QRadioButton*>(QStringLiteral("OptTipoGrafico_1"));
+        EXPECT_EQ(option->palette().color(QPalette::WindowText), Qt::black);
+        EXPECT_EQ(option->palette().color(QPalette::Window), Qt::white);
+    });
+    QApplication::setPalette(before);
 }
 
 TEST_F(ChartWindowTest, LineeShowsAPieExactlyLikeTortaAndIstogrammaBarsAgain) {
@@ -167,13 +291,13 @@ TEST_F(ChartWindowTest, TheFrameCoversNoTextAtAnySize) {
 TEST_F(ChartWindowTest, TheArrowKeysWalkTheValues) {
     openChart("M", [](QDialog& dialog) {
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("1 marzo: 0 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("1 marzo: 0:00"));
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("2 marzo: 0 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("2 marzo: 0:00"));
         QTest::keyClick(&chart(dialog), Qt::Key_Left);
-        EXPECT_EQ(status(dialog), QStringLiteral("1 marzo: 0 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("1 marzo: 0:00"));
         QTest::keyClick(&chart(dialog), Qt::Key_End);
-        EXPECT_EQ(status(dialog), QStringLiteral("31 marzo: 0 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("31 marzo: 0:00"));
     });
 }
 
@@ -182,21 +306,21 @@ TEST_F(ChartWindowTest, InAPieTheArrowKeysWalkTheSlices) {
         choose(dialog, 2);
         chart(dialog).setFocus();
         QTest::keyClick(&chart(dialog), Qt::Key_Home);
-        EXPECT_EQ(status(dialog), QStringLiteral("14 marzo: 4 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("14 marzo: 4:00"));
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7,5 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30"));
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7,5 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30"));
     });
 }
 
 TEST_F(ChartWindowTest, TheMouseReadsTheValueUnderIt) {
     openChart("G", [](QDialog& dialog) {
         hover(chart(dialog), 1);
-        EXPECT_EQ(status(dialog), QStringLiteral("Rossi Bruno (RB): 7,5 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("Rossi Bruno (RB): 7:30"));
         choose(dialog, 2);
         hover(chart(dialog), 0);
-        EXPECT_EQ(status(dialog), QStringLiteral("Bianchi Rosa (BI): 6,75 ore"));
+        EXPECT_EQ(status(dialog), QStringLiteral("Bianchi Rosa (BI): 6:45"));
     });
 }
 
@@ -206,7 +330,7 @@ TEST_F(ChartWindowTest, AToolTipReadsTheValueToo) {
         const QPoint place = view.visualRect(view.model()->index(14, 0)).center();
         QHelpEvent help(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
         QCoreApplication::sendEvent(view.viewport(), &help);
-        EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("15 marzo: 7,5 ore")));
+        EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("15 marzo: 7:30")));
         QToolTip::hideText();
     });
 }
@@ -217,7 +341,9 @@ TEST_F(ChartWindowTest, AScreenReaderReadsEachValueAsOneSentence) {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view);
         EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Grafico"));
         ASSERT_EQ(accessible->childCount(), 31);
-        EXPECT_EQ(accessible->child(14)->text(QAccessible::Name), QStringLiteral("15 marzo: 7,5 ore"));
+        EXPECT_EQ(accessible->child(14)->text(QAccessible::Name),
+                  QStringLiteral("15 marzo: 7 ore e 30 minuti"));
+        EXPECT_EQ(accessible->child(0)->text(QAccessible::Name), QStringLiteral("1 marzo: nessuna ora"));
     });
 }
 
@@ -229,11 +355,70 @@ TEST_F(ChartWindowTest, TheModelKeepsTheToolkitsRules) {
     });
 }
 
+TEST_F(ChartWindowTest, UpAndLeftGoBackDownAndRightGoOn) {
+    openChart("M", [](QDialog& dialog) {
+        const std::vector<std::pair<Qt::Key, QString>> steps{
+            {Qt::Key_Down, QStringLiteral("1 marzo: 0:00")}, {Qt::Key_Right, QStringLiteral("2 marzo: 0:00")},
+            {Qt::Key_Down, QStringLiteral("3 marzo: 0:00")}, {Qt::Key_Up, QStringLiteral("2 marzo: 0:00")},
+            {Qt::Key_Left, QStringLiteral("1 marzo: 0:00")}, {Qt::Key_Up, QStringLiteral("1 marzo: 0:00")},
+            {Qt::Key_End, QStringLiteral("31 marzo: 0:00")}, {Qt::Key_Down, QStringLiteral("31 marzo: 0:00")},
+            {Qt::Key_Home, QStringLiteral("1 marzo: 0:00")}};
+        for (const auto& [key, expected] : steps) {
+            QTest::keyClick(&chart(dialog), key);
+            EXPECT_EQ(status(dialog), expected) << key;
+        }
+    });
+}
+
+TEST_F(ChartWindowTest, AModelAnswersEveryRoleForEveryIndex) {
+    const auto ask = [](const QAbstractItemModel& model, const QModelIndex& index) {
+        for (int role = 0; role <= Qt::UserRole + 300; ++role) {
+            EXPECT_NO_THROW(model.data(index, role)) << role;
+            EXPECT_NO_THROW(model.headerData(index.row(), Qt::Horizontal, role)) << role;
+            EXPECT_NO_THROW(model.headerData(index.row(), Qt::Vertical, role)) << role;
+        }
+    };
+    for (const std::string tipo : {"M", "G", "A"}) {
+        openChart(tipo, [&](QDialog& dialog) {
+            const QAbstractItemModel& model = *chart(dialog).model();
+            const Grafico empty;
+            const ChartModel shorter(empty, nullptr);
+            for (const int kind : {0, 2}) {
+                choose(dialog, kind);
+                for (int row = 0; row < model.rowCount(); ++row) {
+                    ask(model, model.index(row, 0));
+                }
+                ask(model, {});
+                ask(shorter, model.index(0, 0)); // another model's
+            }
+        });
+    }
+}
+
+TEST_F(ChartWindowTest, AModelKeepsAnExceptionFromBelow) {
+    Grafico grafico;
+    grafico.etichette = {"1", "2"};
+    grafico.serie = {{"Rossi", {7.5}, ColoreSerie}}; // the second row lacks its value, and both their names
+    const ChartModel model(grafico, nullptr);
+    ASSERT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("7:30"));
+    EXPECT_FALSE(model.index(1, 0).data().isValid());
+    for (int row = 0; row < 2; ++row) {
+        EXPECT_FALSE(model.index(row, 0).data(Qt::AccessibleTextRole).isValid());
+        EXPECT_FALSE(model.index(row, 0).data(Qt::StatusTipRole).isValid());
+        EXPECT_FALSE(model.index(row, 0).data(Qt::ToolTipRole).isValid());
+    }
+    const QModelIndex gone = model.index(1, 0);
+    grafico = Grafico{};
+    EXPECT_FALSE(model.data(gone, Qt::DisplayRole).isValid()) << "the row is gone";
+}
+
 TEST_F(ChartWindowTest, CtrlCCopiesTheValuesAsATable) {
     openChart("G", [](QDialog& dialog) {
         QTest::keyClick(&chart(dialog), Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QGuiApplication::clipboard()->text(),
-                  QStringLiteral("Collaboratori\tOre\nBI\t6,75\nRB\t7,5\n7 \t0\n"));
+                  QStringLiteral("Ore dei collaboratori - 15 marzo 2006\nCollaboratori\tOre\tOre decimali\n"
+                                 "BI\t6:45\t6,75\nRB\t7:30\t7,5\n7 \t0:00\t0\n"));
     });
 }
 
@@ -292,8 +477,17 @@ TEST_F(ChartWindowTest, ASavedDrawingHoldsTheTextsAsTheyAre) {
     saveAs(path);
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(
-        QString::fromUtf8(file.readAll()).contains(QStringLiteral("&lt;b&gt;Rossi&lt;/b&gt; &amp; %1")));
+    const QString svg = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(svg.contains(QStringLiteral(">&lt;b&gt;Rossi&lt;/b&gt; &amp; %1<"))) << "the legend";
+    EXPECT_TRUE(svg.contains(QStringLiteral(">Ore di &lt;b&gt;Rossi&lt;/b&gt; &amp; %1 - marzo 2006<")));
+    EXPECT_FALSE(svg.contains(QStringLiteral("<b>")));
+}
+
+TEST_F(ChartWindowTest, ANameThatNoFileCanHaveIsOfferedWithoutWhatIsForbidden) {
+    bench.base.putCollaboratori({collaboratore("BI", "B"), collaboratore("RB", "../Rossi: B.")});
+    openChart("M", [](QDialog& dialog) {
+        EXPECT_EQ(offeredName(dialog), QStringLiteral("Ore di ___Rossi_ B_ - marzo 2006"));
+    });
 }
 
 TEST_F(ChartWindowTest, PrintsOnOneLandscapePage) {
@@ -339,7 +533,7 @@ TEST_F(ChartWindowTest, AFailedSaveLeavesTheOldFileAsItWas) {
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("old");
     old.close();
-    EXPECT_FALSE(saveDrawing({QSizeF(), [](QPainter&, QSizeF) {}}, path).isEmpty());
+    EXPECT_FALSE(saveDrawing({QSizeF(), QString(), [](QPainter&, QSizeF) {}}, path).isEmpty());
     ASSERT_TRUE(old.open(QIODevice::ReadOnly));
     EXPECT_EQ(old.readAll(), "old");
 }

@@ -10,10 +10,8 @@ namespace planner {
 
 namespace {
 
-constexpr double BarShare = 0.7;      // of its slot
-constexpr double LabelSpread = 1.25;  // of an axis label's height, so that the next one can stand
-constexpr double NarrowestSlot = 0.5; // below it, values are not written
-constexpr double ValueDistance = 2;   // of a value from its bar
+constexpr double BarShare = 0.7;     // of its slot
+constexpr double LabelSpread = 1.25; // of an axis label's height, so that the next one can stand
 
 /// Every how many divisions of the value axis one has its line and label.
 std::size_t divisionStep(const ChartLayoutTask& task) {
@@ -31,15 +29,21 @@ double divisionTextWidth(const ChartLayoutTask& task) {
     return task.measure(ChartTextRole::axisLabel, divisionText(axis, axis.MajorDivision)).width;
 }
 
-/// The plot between the axes' labels and titles, with room above it for the value of the highest bar.
-ChartArea plotArea(const ChartLayoutTask& task) {
-    const double label = task.lineHeight(ChartTextRole::axisLabel);
+/// The plot between the axes' labels and titles, as yet as high as the chart's body.
+ChartArea plotWidth(const ChartLayoutTask& task) {
     const double title = task.lineHeight(ChartTextRole::axisTitle);
     const double left = title + ChartGap + divisionTextWidth(task) + ChartGap;
-    const double top = task.lineHeight(ChartTextRole::value) + 2 * ValueDistance;
-    const double bottom = ChartGap / 2 + label + ChartGap / 2 + title;
-    return {task.body.x + left, task.body.y + top, std::max(task.body.width - left - ChartGap, 1.0),
-            std::max(task.body.height - top - bottom, 1.0)};
+    return {task.body.x + left, task.body.y, std::max(task.body.width - left - ChartGap, 1.0),
+            task.body.height};
+}
+
+/// Leaves room above the plot for the value of the highest bar, and below it for labels and title.
+void lowerPlot(const ChartLayoutTask& task, const BarTexts& texts) {
+    const double title = task.lineHeight(ChartTextRole::axisTitle);
+    const double bottom = ChartGap / 2 + texts.below + ChartGap / 2 + title;
+    ChartArea& plot = task.layout.plot;
+    plot.y += texts.above;
+    plot.height = std::max(task.body.height - texts.above - bottom, 1.0);
 }
 
 void placeAxisTitles(const ChartLayoutTask& task) {
@@ -94,77 +98,18 @@ void placeBars(const ChartLayoutTask& task) {
     }
 }
 
-void placeCategoryLabels(const ChartLayoutTask& task) {
-    const ChartLayout& layout = task.layout;
-    std::vector<std::string> labels;
-    double widest = 0;
-    for (std::size_t number = 0; number < layout.bars.size(); ++number) {
-        labels.push_back(task.labelOf(number));
-        widest = std::max(widest, task.measure(ChartTextRole::axisLabel, labels.back()).width);
-    }
-    const double spacing = layout.bars.empty() ? 1 : layout.bars.front().slot.width;
-    const std::size_t step = labelStep(widest + ChartGap, spacing);
-    const double y = layout.plot.bottom() + ChartGap / 2 + task.lineHeight(ChartTextRole::axisLabel) / 2;
-    for (std::size_t number = 0; number < labels.size(); number += step) {
-        task.addText(ChartTextRole::axisLabel, labels[number], {layout.bars[number].slot.centre().x, y});
-    }
-}
-
-/// True when the text would cover a bar.
-bool coversBar(const ChartLayout& layout, const ChartArea& text) {
-    const double slotWidth = layout.bars.front().slot.width;
-    const auto slotAt = [&](double x) {
-        const double place = std::max((x - layout.plot.x) / slotWidth, 0.0);
-        return std::min(static_cast<std::size_t>(place), layout.bars.size() - 1);
-    };
-    const auto first = layout.bars.begin() + static_cast<std::ptrdiff_t>(slotAt(text.x));
-    const auto last = layout.bars.begin() + static_cast<std::ptrdiff_t>(slotAt(text.right())) + 1;
-    return std::any_of(first, last, [&text](const ChartBar& bar) { return bar.area.overlaps(text); });
-}
-
-/// Impossible hours from a file have a hundred digits.
-bool leavesChart(const ChartLayout& layout, const ChartArea& text) {
-    return text.x < 0 || text.right() > layout.size.width;
-}
-
-/// Writes the values above their bars, from left to right, where they cover neither a bar nor a value and
-/// stay within the chart.
-void placeValues(const ChartLayoutTask& task) {
-    ChartLayout& layout = task.layout;
-    if (layout.bars.empty() || layout.bars.front().slot.width < NarrowestSlot) {
-        return;
-    }
-    std::vector<ChartArea> placed;
-    double widest = 0;
-    for (std::size_t number = 0; number < layout.bars.size(); ++number) {
-        const ChartBar& bar = layout.bars[number];
-        const std::string text = testoOre(task.grafico.valore(number));
-        const ChartSize size = task.measure(ChartTextRole::value, text);
-        const ChartArea area{bar.slot.centre().x - size.width / 2, bar.area.y - ValueDistance - size.height,
-                             size.width, size.height};
-        widest = std::max(widest, size.width);
-        const auto near = std::find_if(placed.begin(), placed.end(),
-                                       [&](const ChartArea& each) { return each.x + widest > area.x; });
-        placed.erase(placed.begin(), near); // they lie too far left for all that follow, too
-        const bool free = !leavesChart(layout, area) && !coversBar(layout, area) &&
-                          std::none_of(placed.begin(), placed.end(),
-                                       [&area](const ChartArea& each) { return each.overlaps(area); });
-        if (free) {
-            placed.push_back(area);
-            layout.texts.push_back({ChartTextRole::value, text, area});
-        }
-    }
-}
-
 } // namespace
 
 void layoutBars(const ChartLayoutTask& task) {
-    task.layout.plot = plotArea(task);
+    task.layout.plot = plotWidth(task);
+    const auto count = std::max<std::size_t>(task.grafico.numValori(), 1);
+    const BarTexts texts = measureBarTexts(task, task.layout.plot.width / static_cast<double>(count));
+    lowerPlot(task, texts);
     placeAxisTitles(task);
     placeValueAxis(task);
     placeBars(task);
-    placeCategoryLabels(task);
-    placeValues(task);
+    placeBarLabels(task, texts);
+    placeBarValues(task, texts);
 }
 
 } // namespace planner

@@ -2,28 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plfgraf/chart_dialog.h"
 
-#include "forms/plfgraf/chart_export.h"
+#include "forms/plfgraf/chart_kind_frame.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "forms/plfgraf/chart_view.h"
+#include "forms/plfgraf/elided_label.h"
 #include "forms/screen_scale.h"
 #include "platform/qt/appearance.h"
-#include "platform/qt/plain_label.h"
 #include "platform/qt/text.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QDir>
-#include <QFileDialog>
-#include <QGroupBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QStandardPaths>
 
 namespace planner {
 
@@ -31,9 +22,13 @@ namespace {
 
 constexpr int TastoEscape = 27;
 constexpr double ScreenShare = 0.9; // of the screen, in each direction, that the window takes at first
+constexpr int StripMargin = 4;      // above and below what stands in the strip below the chart, pixels
+constexpr int StripGap = 6;
+constexpr int ButtonPadding = 12;                       // beyond the style's own
+constexpr int MargineGrafico = 500 / TwipsPerPixel + 1; // of the chart in the window, both sides
+constexpr int NarrowestStatus = 120;
 
-const QString Suggerimento =
-    QStringLiteral("Frecce o mouse: leggere i valori.  Tasto destro: copiare, salvare, stampare.");
+const QString Suggerimento = QStringLiteral("Frecce o mouse: leggere i valori.");
 
 QRect pixelRect(const Rettangolo& twips) {
     return {twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel,
@@ -45,6 +40,21 @@ QString chartName(const plfgraf& form) {
     return chart == &form.MSChartm()   ? QStringLiteral("MSChartm")
            : chart == &form.MSChartg() ? QStringLiteral("MSChartg")
                                        : QStringLiteral("MSCharta");
+}
+
+/// The font of what stands outside the chart: the strip below it has one height on every screen.
+QFont stripFont(double factor) {
+    constexpr double highestLetters = 22; // pixels, that a button of the strip can hold
+    QFont font = qtFont(Carattere::normale, factor);
+    const double height = QFontMetricsF(font).height();
+    if (height > highestLetters) {
+        font.setPointSizeF(font.pointSizeF() * highestLetters / height);
+    }
+    return font;
+}
+
+int widthOf(const QPushButton& button) {
+    return button.sizeHint().width() + ButtonPadding;
 }
 
 const Rettangolo& chartPosition(const plfgraf& form) {
@@ -60,28 +70,42 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), m_form(form),
       m_messaggi(messaggi), m_fontFactor(fontFactorFor(*screen())),
       m_chart(new ChartView(*form.visibile(), m_fontFactor, this)), m_frame(makeFrame()),
-      m_stato(new PlainLabel(this)) {
+      m_stato(new ElidedLabel(this)) {
     setObjectName(QStringLiteral("plfgraf"));
     setWindowTitle(QStringLiteral("Planner"));
-    setFont(qtFont(Carattere::normale, m_fontFactor));
+    setFont(stripFont(m_fontFactor));
+    const QString heading = fromUtf8(testoIntestazione(grafico()));
+    setAccessibleDescription(heading);
     m_chart->setObjectName(chartName(form));
     m_chart->setAccessibleName(QStringLiteral("Grafico"));
+    m_chart->setAccessibleDescription(heading);
     m_stato->setObjectName(QStringLiteral("stato"));
-    m_stato->setText(Suggerimento);
-    connect(m_chart, &ChartView::valuePointed, this, [this](const QModelIndex& index) {
-        m_stato->setText(index.isValid() ? index.data(Qt::StatusTipRole).toString() : Suggerimento);
-    });
-    addActions();
-    setMinimumSize(m_frame->sizeHint().width() * 2, m_frame->sizeHint().height() * 5);
+    connect(m_chart, &ChartView::valuePointed, this, &ChartDialog::showValue);
+    showValue({});
+    addCommands();
+    setMinimumSize(smallestSize());
     resize(screen()->availableSize() * ScreenShare);
     m_chart->setFocus();
 }
 
-QGroupBox* ChartDialog::makeFrame() {
-    auto* frame = new QGroupBox(QStringLiteral("Tipo Grafico"), this);
+const Grafico& ChartDialog::grafico() const {
+    return *m_form.visibile();
+}
+
+/// The window's inner size at which chart and strip are still whole.
+QSize ChartDialog::smallestSize() const {
+    int strip = NarrowestStatus;
+    for (const QPushButton* button : m_buttons) {
+        strip += StripGap + widthOf(*button);
+    }
+    const QSize frame = m_frame->sizeHint();
+    return {std::max(frame.width() * 2, strip + MargineGrafico), frame.height() * 5};
+}
+
+ChartKindFrame* ChartDialog::makeFrame() {
+    auto* frame = new ChartKindFrame(QStringLiteral("Tipo Grafico"), this);
     frame->setObjectName(QStringLiteral("FrameTipo_Grafico"));
-    frame->setAutoFillBackground(true);
-    frame->setFont(qtFont(Carattere::normale, m_fontFactor));
+    frame->setFont(qtFont({"MS Sans Serif", carattere(Carattere::normale).punti, false}, m_fontFactor));
     auto* layout = new QHBoxLayout(frame);
     for (int index = 0; index < static_cast<int>(OpzioniTipoGrafico.size()); ++index) {
         auto* option =
@@ -99,31 +123,19 @@ QGroupBox* ChartDialog::makeFrame() {
     return frame;
 }
 
-void ChartDialog::addActions() {
-    m_chart->setContextMenuPolicy(Qt::ActionsContextMenu);
-    addCommand(QStringLiteral("copia"), QStringLiteral("Copia i valori"), QKeySequence::Copy,
-               &ChartDialog::copyValues);
-    addCommand(QStringLiteral("salva"), QStringLiteral("Salva il grafico…"), QKeySequence::Save,
-               &ChartDialog::saveChart);
-    addCommand(QStringLiteral("stampa"), QStringLiteral("Stampa…"), QKeySequence::Print,
-               &ChartDialog::printChart);
-}
-
-QAction* ChartDialog::addCommand(const QString& name, const QString& text, QKeySequence::StandardKey keys,
-                                 void (ChartDialog::*command)()) {
-    auto* action = new QAction(text, this);
-    action->setObjectName(name);
-    action->setShortcut(keys);
-    action->setShortcutVisibleInContextMenu(true);
-    connect(action, &QAction::triggered, this, command);
-    m_chart->addAction(action);
-    return action;
-}
-
+/// A key that repeats by itself closes one window, not two, and presses a button once.
 void ChartDialog::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && plfgraf::Form_KeyDown(TastoEscape)) {
-        close();
-    } else if (event->key() != Qt::Key_Escape) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->isAutoRepeat() && (enter || event->key() == Qt::Key_Escape)) {
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        if (plfgraf::Form_KeyDown(TastoEscape)) {
+            close();
+        }
+    } else if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()); enter && button != nullptr) {
+        button->click();
+    } else {
         QWidget::keyPressEvent(event); // a dialog would look for a default button
     }
 }
@@ -141,54 +153,29 @@ void ChartDialog::placeControls() {
     m_frame->raise();
     m_chart->setReserved(m_frame->geometry().translated(-m_chart->pos()));
     const int top = m_chart->geometry().bottom() + 1;
-    m_stato->setGeometry(m_chart->x(), top, m_chart->width(), height() - top);
+    placeStrip({m_chart->x(), top, m_chart->width(), height() - top});
 }
 
-Drawing ChartDialog::drawing() const {
-    return {m_chart->size(), [this](QPainter& painter, QSizeF size) { m_chart->paintChart(painter, size); }};
-}
-
-void ChartDialog::copyValues() {
-    QGuiApplication::clipboard()->setText(fromUtf8(tabellaValori(*m_form.visibile())));
-    m_stato->setText(QStringLiteral("Valori copiati."));
-}
-
-void ChartDialog::saveChart() {
-    QFileDialog dialog(this, QStringLiteral("Salva il grafico"));
-    dialog.setObjectName(QStringLiteral("salvaGrafico"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({QStringLiteral("Immagine (*.png)"), QStringLiteral("Disegno (*.svg)"),
-                           QStringLiteral("Documento (*.pdf)")});
-    const QStringList suffixes{QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("pdf")};
-    dialog.setDefaultSuffix(suffixes.front());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, &suffixes](const QString& filter) {
-        dialog.setDefaultSuffix(suffixes.value(static_cast<int>(dialog.nameFilters().indexOf(filter))));
-    });
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog.setDirectory(documents.exists() ? documents : QDir::home());
-    dialog.selectFile(QStringLiteral("grafico"));
-    if (dialog.exec() != QDialog::Accepted) {
-        return;
+/// The buttons stand at the right end of the strip below the chart; the line gets what they leave.
+void ChartDialog::placeStrip(const QRect& strip) {
+    int right = strip.right() + 1;
+    for (auto button = m_buttons.rbegin(); button != m_buttons.rend(); ++button) {
+        const int width = widthOf(**button);
+        const int height = std::min((*button)->sizeHint().height(), strip.height() - 2 * StripMargin);
+        right -= width;
+        (*button)->setGeometry(right, strip.center().y() - height / 2, width, height);
+        right -= StripGap;
     }
-    const QString path = dialog.selectedFiles().value(0);
-    const QString error = saveDrawing(drawing(), path);
-    if (error.isEmpty()) {
-        m_stato->setText(QStringLiteral("Grafico salvato in ") + path);
+    m_stato->setGeometry(strip.x(), strip.y(), std::max(right - strip.x(), 0), strip.height());
+}
+
+void ChartDialog::showValue(const QModelIndex& index) {
+    if (index.isValid()) {
+        m_stato->setWhole(index.data(Qt::StatusTipRole).toString(),
+                          index.data(Qt::AccessibleTextRole).toString());
     } else {
-        m_messaggi.critical("Il grafico non è stato salvato in " + path.toStdString() + ": " +
-                            error.toStdString() + ".");
-    }
-}
-
-void ChartDialog::printChart() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QStringLiteral("Planner"));
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageOrientation(QPageLayout::Landscape);
-    QPrintDialog dialog(&printer, this);
-    dialog.setObjectName(QStringLiteral("stampaGrafico"));
-    if (dialog.exec() == QDialog::Accepted && !paintOnPage(drawing(), printer)) {
-        m_messaggi.critical("Il grafico non è stato stampato: la stampante non lo ha accettato.");
+        const QString heading = fromUtf8(testoIntestazione(grafico()));
+        m_stato->setWhole(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
     }
 }
 

@@ -7,16 +7,20 @@
 
 #include <QDialog>
 
-class QGroupBox;
-class QLabel;
+#include <vector>
+
+class QPushButton;
 
 namespace planner {
 
+class ChartKindFrame;
 class ChartView;
+class ElidedLabel;
 struct Drawing;
+struct Grafico;
 
-/// The chart window's widgets: the chart, the frame with its kinds that floats over it, and a line that reads
-/// the value pointed at. Copying, saving and printing are in the context menu.
+/// The chart window's widgets: the chart, the frame with its kinds that floats over it, and below it a line
+/// that reads the value pointed at, beside buttons that copy, save and print.
 class ChartDialog : public QDialog {
     Q_OBJECT
 public:
@@ -28,12 +32,18 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QGroupBox* makeFrame();
-    void addActions();
-    QAction* addCommand(const QString& name, const QString& text, QKeySequence::StandardKey keys,
-                        void (ChartDialog::*command)());
+    const Grafico& grafico() const;
+    ChartKindFrame* makeFrame();
+    QPushButton* makeButton(QAction* command);
+    QAction* makeCommand(ComandoGrafico command);
+    void run(ComandoGrafico command);
+    void addCommands();
+    QSize smallestSize() const;
     void placeControls();
+    void placeStrip(const QRect& strip);
+    void showValue(const QModelIndex& index);
     Drawing drawing() const;
+    QString fileName() const;
     void copyValues();
     void saveChart();
     void printChart();
@@ -42,8 +52,9 @@ private:
     MessageBoxes& m_messaggi;
     double m_fontFactor;
     ChartView* m_chart;
-    QGroupBox* m_frame;
-    QLabel* m_stato;
+    ChartKindFrame* m_frame;
+    ElidedLabel* m_stato;
+    std::vector<QPushButton*> m_buttons; // from left to right
 };
 
 } // namespace planner

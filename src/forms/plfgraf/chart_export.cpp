@@ -24,6 +24,7 @@ bool writePng(const Drawing& drawing, QIODevice& file) {
     QPainter painter(&image);
     drawing.paint(painter, drawing.size);
     painter.end();
+    image.setText(QStringLiteral("Title"), drawing.title);
     return image.save(&file, "PNG");
 }
 
@@ -44,6 +45,7 @@ bool writeSvg(const Drawing& drawing, QIODevice& file) {
 
 bool writePdf(const Drawing& drawing, QIODevice& file) {
     QPdfWriter writer(&file);
+    writer.setTitle(drawing.title);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageOrientation(QPageLayout::Landscape);
     return paintOnPage(drawing, writer);

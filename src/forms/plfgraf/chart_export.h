@@ -12,10 +12,11 @@ class QPainter;
 
 namespace planner {
 
-/// Something to put into a file or on paper, in pixels of a 96 dpi screen: `size` on the screen; `paint`
-/// fills any size.
+/// Something to put into a file or on paper, in pixels of a 96 dpi screen: `size` on the screen; `title` for
+/// the file's description; `paint` fills any size.
 struct Drawing {
     QSizeF size;
+    QString title;
     std::function<void(QPainter&, QSizeF)> paint;
 };
 

@@ -4,6 +4,7 @@
 
 #include "archive/cp1252.h"
 #include "forms/plfgraf/chart_layout_parts.h"
+#include "forms/plfgraf/chart_texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,6 +46,20 @@ double layoutTitle(const ChartLayoutTask& task, const ChartArea& reserved) {
         top = std::max(top, layout.title.bottom());
     }
     return top + ChartGap;
+}
+
+/// Places the heading below `top`; returns the height where the chart's body begins.
+double layoutHeading(const ChartLayoutTask& task, double top) {
+    const std::string text = testoIntestazione(task.grafico);
+    if (text.empty()) {
+        return top;
+    }
+    ChartLayout& layout = task.layout;
+    const ChartSize size = task.measure(ChartTextRole::heading, text);
+    const double width = std::min(size.width, std::max(layout.size.width - 2 * ChartGap, 0.0));
+    const ChartArea area{(layout.size.width - width) / 2, top, width, size.height};
+    layout.texts.push_back({ChartTextRole::heading, text, area});
+    return area.bottom() + ChartGap;
 }
 
 /// A row of the legend being filled from left to right.
@@ -109,6 +124,20 @@ double layoutLegend(const ChartLayoutTask& task) {
 ChartArea inside(const ChartArea& area, double margin) {
     return {area.x + margin, area.y + margin, std::max(area.width - 2 * margin, 1.0),
             std::max(area.height - 2 * margin, 1.0)};
+}
+
+/// Legend, and bars or pie in what it leaves below `top`.
+void layoutBody(ChartLayoutTask& task, double top) {
+    ChartLayout& layout = task.layout;
+    const double bottom = layoutLegend(task);
+    layout.frame = {ChartGap, top, std::max(layout.size.width - 2 * ChartGap, 1.0),
+                    std::max(bottom - top, 1.0)};
+    task.body = inside(layout.frame, ChartGap);
+    if (task.grafico.tipo == TipoGrafico::Torta) {
+        layoutPie(task);
+    } else {
+        layoutBars(task);
+    }
 }
 
 double radians(double degrees) {
@@ -182,15 +211,15 @@ ChartLayout layoutChart(const Grafico& grafico, ChartSize size, const ChartArea&
     ChartLayout layout;
     layout.size = size;
     ChartLayoutTask task{grafico, measure, {}, layout};
-    const double top = layoutTitle(task, reserved);
-    const double bottom = layoutLegend(task);
-    layout.frame = {ChartGap, top, std::max(size.width - 2 * ChartGap, 1.0), std::max(bottom - top, 1.0)};
-    task.body = inside(layout.frame, ChartGap);
-    if (grafico.tipo == TipoGrafico::Torta) {
-        layoutPie(task);
-    } else {
-        layoutBars(task);
-    }
+    layoutBody(task, layoutTitle(task, reserved));
+    return layout;
+}
+
+ChartLayout layoutSheet(const Grafico& grafico, ChartSize size, const MeasureText& measure) {
+    ChartLayout layout;
+    layout.size = size;
+    ChartLayoutTask task{grafico, measure, {}, layout};
+    layoutBody(task, layoutHeading(task, layoutTitle(task, {})));
     return layout;
 }
 

@@ -36,7 +36,7 @@ struct ChartArea {
 };
 
 /// What a text in a chart is for; each has its font.
-enum class ChartTextRole : std::uint8_t { title, axisTitle, axisLabel, legend, value };
+enum class ChartTextRole : std::uint8_t { title, axisTitle, axisLabel, legend, value, heading };
 
 /// The size of a text, UTF-8, in the font of its role. The screen knows it; tests make it up.
 using MeasureText = std::function<ChartSize(ChartTextRole, const std::string&)>;
@@ -88,6 +88,9 @@ struct ChartLayout {
 /// top right corner. Any size is fine; where there is no room, texts are left out.
 ChartLayout layoutChart(const Grafico& grafico, ChartSize size, const ChartArea& reserved,
                         const MeasureText& measure);
+
+/// Lays a chart out as it stands in files and on paper: with its heading below the title.
+ChartLayout layoutSheet(const Grafico& grafico, ChartSize size, const MeasureText& measure);
 
 /// The value whose bar, with all the height of its slot, or slice is at the point.
 std::optional<std::size_t> valueAt(const ChartLayout& layout, ChartPoint point);

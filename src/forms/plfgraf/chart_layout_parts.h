@@ -27,6 +27,27 @@ struct ChartLayoutTask {
 /// Axes, grid lines, bars and their values.
 void layoutBars(const ChartLayoutTask& task);
 
+/// The texts along the bars, in the order of the values, and how they stand: upright where the level ones
+/// would not fit their slots.
+struct BarTexts {
+    std::vector<std::string> labels; // UTF-8
+    std::vector<std::string> values; // empty for a value that is not written
+    bool labelsUpwards = false;
+    bool valuesUpwards = false;
+    double below = 0; // the labels' room below the plot, in pixels
+    double above = 0; // the room above the plot, for the value of a bar that reaches its top
+};
+
+/// Decides how the texts stand, of bars that have `slotWidth` pixels each.
+BarTexts measureBarTexts(const ChartLayoutTask& task, double slotWidth);
+
+/// Places the labels below the plot; they thin out where there is no room for all.
+void placeBarLabels(const ChartLayoutTask& task, const BarTexts& texts);
+
+/// Writes the values above their bars, from left to right, where they cover neither a bar nor a value and
+/// stay within the chart.
+void placeBarValues(const ChartLayoutTask& task, const BarTexts& texts);
+
 /// Slices, and their labels with lines to them.
 void layoutPie(const ChartLayoutTask& task);
 

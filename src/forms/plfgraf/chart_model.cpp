@@ -5,7 +5,9 @@
 #include "forms/plfgraf/chart_texts.h"
 #include "platform/qt/text.h"
 
+#include <algorithm>
 #include <climits>
+#include <exception>
 
 namespace planner {
 
@@ -17,14 +19,23 @@ int ChartModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ChartModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    const bool own = index.isValid() && index.model() == this && index.row() < rowCount();
+    if (!own) {
         return {};
     }
-    const auto number = static_cast<std::size_t>(index.row());
+    try {
+        return valueData(static_cast<std::size_t>(index.row()), role);
+    } catch (const std::exception&) { // the toolkit's callers could not stand it
+        return {};
+    }
+}
+
+QVariant ChartModel::valueData(std::size_t number, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return fromUtf8(testoOre(m_grafico.valore(number)));
     case Qt::AccessibleTextRole:
+        return fromUtf8(fraseParlata(m_grafico, number));
     case Qt::StatusTipRole:
         return fromUtf8(fraseValore(m_grafico, number));
     case Qt::ToolTipRole:

@@ -15,9 +15,13 @@ public:
     ChartModel(const Grafico& grafico, QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
+    /// Nothing for what the chart does not hold, at any time and whatever the index and role; never throws.
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    /// What data() gives. Throws std::out_of_range for a chart that lacks the value or its name.
+    QVariant valueData(std::size_t number, int role) const;
+
     const Grafico& m_grafico;
 };
 

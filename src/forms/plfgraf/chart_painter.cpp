@@ -18,6 +18,7 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72.0;
 constexpr int TitlePoints = 14;
+constexpr int HeadingPoints = 11;
 constexpr double ShadowOffset = 20.0 / 15; // twenty twips
 constexpr double PlotShadowOffset = 3;
 const QColor ShadowColour(128, 128, 128);
@@ -86,7 +87,9 @@ ChartPainter::ChartPainter(const Grafico& grafico, double fontFactor)
                                   fontFor(grafico.fontTitoliAssi, fontFactor),
                                   fontFor(carattere(Carattere::grassetto), fontFactor),
                                   fontFor(carattere(Carattere::grassetto), fontFactor),
-                                  fontFor(carattere(Carattere::normale), fontFactor)} {}
+                                  fontFor(carattere(Carattere::normale), fontFactor),
+                                  fontFor({carattere(Carattere::grassetto).famiglia, HeadingPoints, true},
+                                          fontFactor)} {}
 
 MeasureText ChartPainter::measure() const {
     return [this](ChartTextRole role, const std::string& text) {

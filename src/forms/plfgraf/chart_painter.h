@@ -40,7 +40,7 @@ private:
     const QFont& font(ChartTextRole role) const { return m_fonts.at(static_cast<std::size_t>(role)); }
 
     const Grafico& m_grafico;
-    std::array<QFont, 5> m_fonts; // by role
+    std::array<QFont, 6> m_fonts; // by role
 };
 
 } // namespace planner

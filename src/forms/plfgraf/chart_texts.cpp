@@ -3,6 +3,7 @@
 #include "forms/plfgraf/chart_texts.h"
 
 #include "archive/cp1252.h"
+#include "archive/fixed_text.h"
 #include "engine/session/dates.h"
 
 #include <algorithm>
@@ -44,18 +45,35 @@ std::string_view etichettaValore(const Grafico& grafico, std::size_t numero) {
                                     : grafico.etichette.at(grafico.rigaDi(numero));
 }
 
+constexpr double MostHours = 1e9; // that minutes mean something beside
+constexpr long long MinutesPerHour = 60;
+
+long long minutesOf(double ore) {
+    return std::llround(ore * static_cast<double>(MinutesPerHour));
+}
+
+std::string counted(long long number, std::string_view one, std::string_view many) {
+    return std::to_string(number) + " " + std::string(number == 1 ? one : many);
+}
+
+/// What a value stands for. Throws std::out_of_range past the last value.
+std::string voceDi(const Grafico& grafico, std::size_t numero) {
+    if (numero >= grafico.numValori()) {
+        throw std::out_of_range("no such value in the chart");
+    }
+    return visibleText(grafico.voci.at(numero));
+}
+
 } // namespace
 
 std::string testoOre(double ore) {
-    constexpr double mostHours = 1e9;
-    constexpr long long minutesPerHour = 60;
-    if (!(std::abs(ore) <= mostHours)) {
+    if (!(std::abs(ore) <= MostHours)) {
         return testoDecimale(ore);
     }
-    const long long minutes = std::llround(ore * static_cast<double>(minutesPerHour));
+    const long long minutes = minutesOf(ore);
     const long long distance = std::abs(minutes);
-    return (minutes < 0 ? "-" : "") + std::to_string(distance / minutesPerHour) + ":" +
-           twoDigits(static_cast<int>(distance % minutesPerHour));
+    return (minutes < 0 ? "-" : "") + std::to_string(distance / MinutesPerHour) + ":" +
+           twoDigits(static_cast<int>(distance % MinutesPerHour));
 }
 
 std::string testoDecimale(double valore) {
@@ -72,21 +90,68 @@ std::string testoDecimale(double valore) {
     return text == "-0" ? "0" : text;
 }
 
-std::string fraseValore(const Grafico& grafico, std::size_t numero) {
-    if (numero >= grafico.numValori()) {
-        throw std::out_of_range("no such value in the chart");
+std::string oreParlate(double ore) {
+    if (!(std::abs(ore) <= MostHours)) {
+        return testoDecimale(ore) + " ore";
     }
-    const std::string valore = testoDecimale(grafico.valore(numero));
-    return visibleText(grafico.voci.at(numero)) + ": " + valore + (valore == "1" ? " ora" : " ore");
+    const long long minutes = minutesOf(ore);
+    if (minutes == 0) {
+        return "nessuna ora";
+    }
+    const long long hours = std::abs(minutes) / MinutesPerHour;
+    const long long rest = std::abs(minutes) % MinutesPerHour;
+    std::string text = minutes < 0 ? "meno " : "";
+    text += hours > 0 ? counted(hours, "ora", "ore") : "";
+    text += hours > 0 && rest > 0 ? " e " : "";
+    return text + (rest > 0 ? counted(rest, "minuto", "minuti") : "");
+}
+
+std::string fraseValore(const Grafico& grafico, std::size_t numero) {
+    return voceDi(grafico, numero) + ": " + testoOre(grafico.valore(numero));
+}
+
+std::string fraseParlata(const Grafico& grafico, std::size_t numero) {
+    return voceDi(grafico, numero) + ": " + oreParlate(grafico.valore(numero));
+}
+
+std::string testoIntestazione(const Grafico& grafico) {
+    return visibleText(grafico.intestazione);
+}
+
+std::string nomeFileGrafico(const Grafico& grafico) {
+    // Points would be taken for the beginning of a suffix; the others are forbidden in one system or another.
+    constexpr std::string_view unsafe = "/\\:*?\"<>|.";
+    std::string name;
+    for (const char c : grafico.intestazione) {
+        const bool blank = isControl(c) || c == ' ' || c == '\xA0';
+        if (!blank || !name.ends_with(' ')) {
+            name += blank ? ' ' : unsafe.find(c) == std::string_view::npos ? c : '_';
+        }
+    }
+    const std::string_view trimmed = trim(name);
+    return trimmed.empty() ? "Grafico" : utf8FromCp1252(trimmed);
 }
 
 std::string tabellaValori(const Grafico& grafico) {
-    std::string table = visibleText(grafico.asseX) + "\tOre\n";
+    std::string table = grafico.intestazione.empty() ? "" : testoIntestazione(grafico) + "\n";
+    table += visibleText(grafico.asseX) + "\tOre\tOre decimali\n";
     for (std::size_t numero = 0; numero < grafico.numValori(); ++numero) {
-        table += visibleText(etichettaValore(grafico, numero)) + "\t" +
-                 testoDecimale(grafico.valore(numero)) + "\n";
+        const double ore = grafico.valore(numero);
+        table += visibleText(etichettaValore(grafico, numero)) + "\t" + testoOre(ore) + "\t" +
+                 testoDecimale(ore) + "\n";
     }
     return table;
+}
+
+std::string testoVisibile(std::string_view bytes) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text += isControl(c) ? std::string("\\x") + digits[byte / 16] + digits[byte % 16]
+                             : utf8FromCp1252({&c, 1});
+    }
+    return text;
 }
 
 } // namespace planner

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace planner {
 
@@ -18,11 +19,29 @@ std::string testoOre(double ore);
 /// A number with decimal comma and at most two decimals: "7,5".
 std::string testoDecimale(double valore);
 
-/// The value in a sentence: "15 marzo: 7,5 ore". Throws std::out_of_range past the last value.
+/// Hours as they are spoken: "7 ore e 30 minuti", "1 ora", "nessuna ora"; below 0 "meno 2 ore". Beyond a
+/// billion hours without minutes.
+std::string oreParlate(double ore);
+
+/// The value in a line to read: "15 marzo: 7:30". Throws std::out_of_range past the last value.
 std::string fraseValore(const Grafico& grafico, std::size_t numero);
 
-/// All values as a table for other programs: a line of headings and one for each value, columns parted by
-/// tabs, lines ended by "\n". Control characters in labels become blanks.
+/// The value in a spoken sentence: "15 marzo: 7 ore e 30 minuti". Throws std::out_of_range past the last
+/// value.
+std::string fraseParlata(const Grafico& grafico, std::size_t numero);
+
+/// The chart's heading, with blanks for control characters: "Ore di Rossi Bruno - marzo 2006".
+std::string testoIntestazione(const Grafico& grafico);
+
+/// The heading as the name of a file, without suffix; "Grafico" where there is no heading.
+std::string nomeFileGrafico(const Grafico& grafico);
+
+/// All values as a table for other programs: the chart's heading, if any, a line of headings and one for each
+/// value; columns, parted by tabs, for the label, the hours as 7:30 and the hours as a decimal number; lines
+/// ended by "\n". Control characters in labels become blanks.
 std::string tabellaValori(const Grafico& grafico);
+
+/// Bytes of an archive, in Windows-1252, with each control character as its number: "3\x00".
+std::string testoVisibile(std::string_view bytes);
 
 } // namespace planner

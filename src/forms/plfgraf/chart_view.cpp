@@ -39,7 +39,7 @@ void ChartView::refresh() {
 
 void ChartView::paintChart(QPainter& painter, QSizeF size) const {
     const ChartSize whole{size.width(), size.height()};
-    m_painter.paint(painter, layoutChart(m_grafico, whole, {}, m_painter.measure()));
+    m_painter.paint(painter, layoutSheet(m_grafico, whole, m_painter.measure()));
 }
 
 QRect ChartView::visualRect(const QModelIndex& index) const {
@@ -74,7 +74,7 @@ QModelIndex ChartView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     const int count = model()->rowCount();
     switch (action) {
     case MoveLeft:
-    case MoveDown:
+    case MoveUp:
     case MovePrevious:
         return nextVisible(row, -1);
     case MoveHome:
@@ -84,7 +84,7 @@ QModelIndex ChartView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     case MovePageDown:
         return nextVisible(count, -1);
     case MoveRight:
-    case MoveUp:
+    case MoveDown:
     case MoveNext:
         return nextVisible(row, 1);
     }

@@ -20,7 +20,7 @@ public:
     void setReserved(const QRect& area);
     /// Shows the chart anew, its kind or contents having changed.
     void refresh();
-    /// The chart alone, for files and paper; `size` in pixels of a 96 dpi screen.
+    /// The chart with its heading, for files and paper; `size` in pixels of a 96 dpi screen.
     void paintChart(QPainter& painter, QSizeF size) const;
     const ChartLayout& chartLayout() const { return m_layout; }
 

@@ -62,6 +62,7 @@ struct Grafico {
     bool Visible = false;
     TipoGrafico tipo = TipoGrafico::Istogramma;
     std::string TitleText;
+    std::string intestazione;        // whose hours these are, and of which month, day or year
     bool titoloIncorniciato = false; // a yellow double line and a shadow around the title
     bool areaIncorniciata = false;   // a thick frame and a shadow around the plot
     std::string asseX;

@@ -16,6 +16,22 @@ namespace planner {
 /// The captions of the option buttons `OptTipoGrafico`, by index.
 inline constexpr std::array<std::string_view, 3> OpzioniTipoGrafico{"Istogramma", "Linee", "Torta"};
 
+struct DescrizioneComandoGrafico {
+    std::string_view nome;
+    std::string_view didascalia;
+    std::string_view scorciatoia;
+};
+
+/// What can be done with a chart, from left to right.
+enum class ComandoGrafico : std::uint8_t { copia, salva, stampa };
+
+/// By command.
+inline constexpr std::array<DescrizioneComandoGrafico, 3> ComandiGrafico{{
+    {"copia", "Copia i valori", "Ctrl+C"},
+    {"salva", "Salva il grafico…", "Ctrl+S"},
+    {"stampa", "Stampa…", "Ctrl+P"},
+}};
+
 /// The chart window's logic: the contents of the three charts, what kind they are, and where they stand.
 class plfgraf {
 public:
@@ -32,7 +48,8 @@ public:
     const Grafico* visibile() const;
 
     /// The builders show their chart, hide the other two, and fill it for the day that the calendar shows.
-    /// What fails leaves the chart as far as it was filled. The kind of chart stays as it is.
+    /// What fails leaves the chart as far as it was filled; an error in a record names file, record and
+    /// field. The kind of chart stays as it is.
 
     /// The hours of one staff member on each day of the month. Throws SubscriptError for an index outside the
     /// staff table and for a day that is none, TypeMismatchError for a day that is no number, OverflowError

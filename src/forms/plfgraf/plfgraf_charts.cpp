@@ -34,6 +34,26 @@ std::string voceGiorno(int giorno, const Calendario& calendario) {
     return exists ? number + " " + meseMinuscolo(calendario.Month()) : "giorno " + number;
 }
 
+/// The month that the calendar shows, inside a sentence: "marzo 2006".
+std::string meseMostrato(const Calendario& calendario) {
+    return meseMinuscolo(calendario.Month()) + " " + std::to_string(calendario.Year());
+}
+
+std::string intestazioneMensile(const Collaboratore& collaboratore, const Calendario& calendario) {
+    const std::string name(collaboratore.nome.trimmed());
+    const std::string code(collaboratore.codice.trimmed());
+    const std::string chi = !name.empty() ? "di " + name : !code.empty() ? "di " + code : "senza nome";
+    return "Ore " + chi + " - " + meseMostrato(calendario);
+}
+
+std::string intestazioneGiornaliera(const Calendario& calendario) {
+    return "Ore dei collaboratori - " + std::to_string(calendario.Day()) + " " + meseMostrato(calendario);
+}
+
+std::string intestazioneAnnuale(const Calendario& calendario) {
+    return "Ore dell'anno " + std::to_string(calendario.Year());
+}
+
 std::string voceCollaboratore(const Collaboratore& collaboratore) {
     const std::string name(collaboratore.nome.trimmed());
     const std::string code(collaboratore.codice.trimmed());
@@ -124,6 +144,7 @@ void plfgraf::VisualizzaGraficoMensile(std::int16_t collab) {
     grafico.titoloIncorniciato = true;
     setEtichetteGiorni(grafico, m_calendario);
     const Collaboratore& collaboratore = collaboratoreGrafico(m_archivi, collab);
+    grafico.intestazione = intestazioneMensile(collaboratore, m_calendario);
     grafico.serie.front().etichetta = trimRight(slice(collaboratore.nome.view(), 0, CaratteriLegenda));
     setAssi(grafico, "Giorni", valori.massimo);
 }
@@ -134,6 +155,7 @@ void plfgraf::VisualizzaGraficoGiornaliero(std::int16_t collab) {
     ValoriGrafico valori = valoriGiornalieri(m_archivi, m_calendario);
     setUnaSerie(grafico, std::move(valori.valori));
     grafico.TitleText = "Planner Giornaliero";
+    grafico.intestazione = intestazioneGiornaliera(m_calendario);
     setEtichetteCollaboratori(grafico, collaboratoriGrafico(m_archivi));
     grafico.serie.front().etichetta = collaboratoreGrafico(m_archivi, collab).nome.trimmedRight();
     setAssi(grafico, "Collaboratori", valori.massimo);
@@ -148,6 +170,7 @@ void plfgraf::VisualizzaGraficoAnnuale() {
     // Without any record there is nothing that the title could be about.
     grafico.TitleText = righeGrafico(m_archivi).empty() ? "" : "Planner Annuale";
     grafico.titoloIncorniciato = true;
+    grafico.intestazione = intestazioneAnnuale(m_calendario);
     setEtichetteMesi(grafico, m_calendario);
     setAssiAnnuali(grafico, m_calendario, valori.massimo);
 }

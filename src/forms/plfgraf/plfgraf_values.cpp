@@ -3,10 +3,13 @@
 #include "forms/plfgraf/plfgraf_values.h"
 
 #include "archive/numeric_value.h"
+#include "archive/readers.h"
 #include "archive/runtime_errors.h"
 #include "forms/plfgraf/chart_rules.h"
+#include "forms/plfgraf/chart_texts.h"
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -23,17 +26,45 @@ std::span<const Record> firstOf(const std::vector<Record>& table, std::int16_t c
     return std::span(table).first(std::min(wanted, table.size()));
 }
 
+/// How an error names a field that numbers rows, and where numbers beyond the last row lie.
+struct CampoRiga {
+    std::string_view nome;
+    std::string_view fuori;
+};
+
+constexpr CampoRiga CampoGiorno{"il giorno", "è fuori dal mese"};
+constexpr CampoRiga CampoMese{"il mese", "è fuori dall'anno"};
+
+/// Where in the file a record stands, counted from 0.
+using Posto = std::size_t;
+
+template <typename Error>
+[[noreturn]] void refuse(Posto posto, std::string_view campo, std::string_view testo, std::string_view che) {
+    throw Error(std::string(FileGrafici.substr(1)) + ", record " + std::to_string(posto + 1) + ": " +
+                std::string(campo) + " \"" + testoVisibile(testo) + "\" " + std::string(che));
+}
+
 /// The row that a text numbers from 1.
-std::size_t rowOf(std::string_view testo, std::size_t rows) {
-    const int number = wholeNumber(testo);
+std::size_t rowOf(std::string_view testo, std::size_t rows, Posto posto, const CampoRiga& campo) {
+    int number = 0;
+    try {
+        number = wholeNumber(testo);
+    } catch (const TypeMismatchError&) {
+        refuse<TypeMismatchError>(posto, campo.nome, testo, "non è un numero");
+    }
     if (number < 1 || static_cast<std::size_t>(number) > rows) {
-        throw SubscriptError();
+        refuse<SubscriptError>(posto, campo.nome, testo, campo.fuori);
     }
     return static_cast<std::size_t>(number - 1);
 }
 
-double oreDi(const RigaGrafico& riga) {
-    return ConvertiOre(riga.ore.front().view());
+double oreDi(const RigaGrafico& riga, Posto posto) {
+    const std::string_view testo = riga.ore.front().view();
+    try {
+        return ConvertiOre(testo);
+    } catch (const OverflowError&) {
+        refuse<OverflowError>(posto, "le ore", testo, "sono troppe");
+    }
 }
 
 bool inYear(const RigaGrafico& riga, const Calendario& calendario) {
@@ -84,10 +115,12 @@ const Collaboratore& collaboratoreGrafico(const Archivi& archivi, std::int16_t i
 
 ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario, std::int16_t collab) {
     ValoriGrafico valori(GiorniMassimi);
-    for (const RigaGrafico& riga : righeGrafico(archivi)) {
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
         if (riga.codice == collaboratoreGrafico(archivi, collab).codice && inMonth(riga, calendario)) {
-            const std::size_t row = rowOf(riga.giorno.view(), GiorniMassimi);
-            valori.metti(row, oreDi(riga));
+            const std::size_t row = rowOf(riga.giorno.view(), GiorniMassimi, posto, CampoGiorno);
+            valori.metti(row, oreDi(riga, posto));
         }
     }
     return valori;
@@ -97,10 +130,12 @@ ValoriGrafico valoriGiornalieri(const Archivi& archivi, const Calendario& calend
     const std::span<const Collaboratore> staff = collaboratoriGrafico(archivi);
     OreCodice oreCodice = noHours(staff);
     ValoriGrafico valori(staff.size());
-    for (const RigaGrafico& riga : righeGrafico(archivi)) {
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
         const auto entry = onDay(riga, calendario) ? oreCodice.find(riga.codice.view()) : oreCodice.end();
         if (entry != oreCodice.end()) {
-            entry->second = oreDi(riga);
+            entry->second = oreDi(riga, posto);
             valori.massimo = std::max(valori.massimo, entry->second);
         }
     }
@@ -111,10 +146,12 @@ ValoriGrafico valoriGiornalieri(const Archivi& archivi, const Calendario& calend
 
 ValoriGrafico valoriAnnuali(const Archivi& archivi, const Calendario& calendario) {
     ValoriGrafico valori(MesiAnno);
-    for (const RigaGrafico& riga : righeGrafico(archivi)) {
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
         if (inYear(riga, calendario)) {
-            const std::size_t row = rowOf(riga.mese.view(), MesiAnno);
-            valori.metti(row, oreDi(riga));
+            const std::size_t row = rowOf(riga.mese.view(), MesiAnno, posto, CampoMese);
+            valori.metti(row, oreDi(riga, posto));
         }
     }
     return valori;

@@ -21,6 +21,13 @@ std::vector<double> workedDays(std::size_t count) {
     return values;
 }
 
+/// The chart of a window that fills nine tenths of a screen of 1366 by 768 pixels.
+constexpr ChartSize OfficeChart{1195, 644};
+
+MATCHER(LevelUnlessAxisTitle, "") {
+    return arg.upwards == (arg.text == "Ore");
+}
+
 TEST(BarLayout, GivesEveryValueAnEqualSlotOfThePlot) {
     const ChartLayout layout = layoutOf(oneSeries({1, 2, 3, 4}, 4));
     ASSERT_THAT(layout.bars, SizeIs(4));
@@ -59,7 +66,7 @@ TEST(BarLayout, AValueThatWouldLeaveTheChartIsNotWritten) {
 }
 
 TEST(BarLayout, ValuesOfNarrowSlotsStayWithinTheChart) {
-    std::vector<double> values(60, 0);
+    std::vector<double> values(60, 1);
     values.back() = 10000.5;
     const ChartLayout layout = layoutOf(oneSeries(values, 32767), {300, 500});
     for (const PlacedText& text : layout.texts) {
@@ -72,7 +79,7 @@ TEST(BarLayout, AnAxisWhoseMaximumIs0IsStillDrawn) {
     const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(31, 0), 0));
     EXPECT_THAT(layout.majorLines, ElementsAre(layout.plot.bottom()));
     EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), SizeIs(1 + 31));
-    EXPECT_THAT(textsOf(layout, ChartTextRole::value), Each("0:00"));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), IsEmpty()) << "a zero writes no value";
 }
 
 TEST(BarLayout, AValueOnAnAxisThatEndsAt0FillsThePlot) {
@@ -126,9 +133,52 @@ TEST(BarLayout, MinorLinesPartTheMajorDivisions) {
 
 TEST(BarLayout, AMonthShowsEveryDayAndEveryValueOnAnOfficeScreen) {
     const ChartLayout layout = layoutOf(oneSeries(workedDays(31), 10));
-    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(31));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(23)) << "one for each worked day";
     EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), SizeIs(11 + 31));
+    EXPECT_THAT(layout.texts, Each(LevelUnlessAxisTitle()));
     EXPECT_THAT(coveredTexts(layout), IsEmpty());
+}
+
+TEST(BarLayout, SixtyBarsShowEveryLabelAndValueUprightOnAnOfficeScreen) {
+    const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(60, 7.25), 8), OfficeChart);
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(60));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::axisLabel), SizeIs(9 + 60));
+    for (const PlacedText& text : layout.texts) {
+        const bool ofABar = text.role == ChartTextRole::value ||
+                            (text.role == ChartTextRole::axisLabel && text.area.y > layout.plot.bottom());
+        EXPECT_EQ(text.upwards, ofABar || text.text == "Ore") << text.text;
+    }
+    EXPECT_THAT(coveredTexts(layout), IsEmpty());
+}
+
+TEST(BarLayout, SixtyBarsShowEveryLabelAndValueOnTheSmallestScreenToo) {
+    const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(60, 7.25), 8), {830, 440});
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(60));
+    EXPECT_THAT(coveredTexts(layout), IsEmpty());
+}
+
+TEST(BarLayout, AnUprightValueStandsAboveItsBarAlsoWhereTheBarReachesTheTop) {
+    const ChartLayout layout = layoutOf(oneSeries(std::vector<double>(60, 10.75), 10), OfficeChart);
+    std::size_t number = 0;
+    for (const PlacedText& text : layout.texts) {
+        if (text.role == ChartTextRole::value) {
+            const ChartArea& bar = layout.bars.at(number++).area;
+            EXPECT_DOUBLE_EQ(bar.y, layout.plot.y);
+            EXPECT_LT(text.area.bottom(), bar.y);
+            EXPECT_GE(text.area.y, layout.frame.y);
+            EXPECT_DOUBLE_EQ(text.area.centre().x, bar.centre().x);
+            EXPECT_DOUBLE_EQ(text.area.height, fixedMeasure(ChartTextRole::value, text.text).width);
+        }
+    }
+    EXPECT_EQ(number, 60U);
+}
+
+TEST(BarLayout, AnImpossibleValueTurnsNoOther) {
+    std::vector<double> values(12, 7.5);
+    values[3] = -9e99;
+    const ChartLayout layout = layoutOf(oneSeries(values, 8));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), SizeIs(11));
+    EXPECT_THAT(layout.texts, Each(LevelUnlessAxisTitle()));
 }
 
 TEST(BarLayout, SeveralSeriesHaveTheirNamesUnderTheirBars) {

@@ -57,6 +57,37 @@ TEST(ChartLayout, TheTitleMovesBesideWhatFloatsOverTheCornerBeforeItMovesBelow) 
     EXPECT_GE(tiny.title.y, floating(300).bottom());
 }
 
+TEST(ChartLayout, OnASheetTheHeadingStandsBetweenTitleAndPlot) {
+    Grafico grafico = oneSeries({1}, 1);
+    grafico.intestazione = "Ore di Nicol\xF2 <b> - marzo 2006";
+    for (const Grafico& each : {grafico, asPie(grafico)}) {
+        const ChartLayout sheet = layoutSheet(each, ScreenChart, fixedMeasure);
+        ASSERT_THAT(textsOf(sheet, ChartTextRole::heading),
+                    testing::ElementsAre("Ore di Nicolò <b> - marzo 2006"));
+        const ChartArea& heading = sheet.texts.at(1).area;
+        EXPECT_GT(heading.y, sheet.title.bottom());
+        EXPECT_LT(heading.bottom(), sheet.frame.y);
+        EXPECT_DOUBLE_EQ(heading.centre().x, ScreenChart.width / 2);
+        EXPECT_THAT(coveredTexts(sheet), IsEmpty());
+        EXPECT_THAT(textsOf(layoutOf(each), ChartTextRole::heading), IsEmpty()) << "the window has its own";
+    }
+}
+
+TEST(ChartLayout, ASheetWithoutAHeadingIsTheChart) {
+    EXPECT_EQ(layoutSheet(oneSeries({1}, 1), ScreenChart, fixedMeasure).frame.y,
+              layoutOf(oneSeries({1}, 1)).frame.y);
+}
+
+TEST(ChartLayout, AHeadingIsNeverWiderThanItsSheet) {
+    Grafico grafico = oneSeries({1}, 1);
+    grafico.intestazione = std::string(80, 'W');
+    for (const double width : {0.0, 10.0, 300.0}) {
+        const ChartArea heading = layoutSheet(grafico, {width, 500}, fixedMeasure).texts.at(1).area;
+        EXPECT_GE(heading.width, 0);
+        EXPECT_LE(heading.right(), std::max(width, heading.x));
+    }
+}
+
 TEST(ChartLayout, AnEmptyTitleTakesNoRoom) {
     Grafico grafico = oneSeries({1}, 1);
     grafico.TitleText.clear();

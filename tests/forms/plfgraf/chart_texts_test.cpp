@@ -34,6 +34,12 @@ std::string sentenceOf(double value) {
     return fraseValore(chart({"1"}, {value}, {"1 marzo"}), 0);
 }
 
+std::string fileNameOf(std::string intestazione) {
+    Grafico grafico;
+    grafico.intestazione = std::move(intestazione);
+    return nomeFileGrafico(grafico);
+}
+
 constexpr double Infinito = std::numeric_limits<double>::infinity();
 constexpr double MassimoDouble = std::numeric_limits<double>::max();
 
@@ -95,54 +101,110 @@ TEST(TestoDecimaleTest, WritesEveryDouble) {
     EXPECT_EQ(testoDecimale(-Infinito), "-inf");
 }
 
-TEST(FraseValoreTest, SaysWhatAndHowMuch) {
-    EXPECT_EQ(sentenceOf(7.5), "1 marzo: 7,5 ore");
-    EXPECT_EQ(sentenceOf(0), "1 marzo: 0 ore");
-    EXPECT_EQ(sentenceOf(2), "1 marzo: 2 ore");
+TEST(OreParlateTest, AreCountedInWords) {
+    EXPECT_EQ(oreParlate(7.5), "7 ore e 30 minuti");
+    EXPECT_EQ(oreParlate(2), "2 ore");
+    EXPECT_EQ(oreParlate(0.5), "30 minuti");
+    EXPECT_EQ(oreParlate(0), "nessuna ora");
 }
 
-TEST(FraseValoreTest, OneHourIsSingular) {
-    EXPECT_EQ(sentenceOf(1), "1 marzo: 1 ora");
-    EXPECT_EQ(sentenceOf(1.25), "1 marzo: 1,25 ore");
-    EXPECT_EQ(sentenceOf(0.25), "1 marzo: 0,25 ore");
+TEST(OreParlateTest, OneIsSingular) {
+    EXPECT_EQ(oreParlate(1), "1 ora");
+    EXPECT_EQ(oreParlate(1 + 1.0 / 60), "1 ora e 1 minuto");
+    EXPECT_EQ(oreParlate(2 + 1.0 / 60), "2 ore e 1 minuto");
+    EXPECT_EQ(oreParlate(1.5), "1 ora e 30 minuti");
+    EXPECT_EQ(oreParlate(1.0 / 60), "1 minuto");
+}
+
+TEST(OreParlateTest, AgreeWithTheWrittenOnes) {
+    EXPECT_EQ(oreParlate(7 + 59.6 / 60), "8 ore");
+    EXPECT_EQ(oreParlate(-1.25), "meno 1 ora e 15 minuti");
+    EXPECT_EQ(oreParlate(-0.001), "nessuna ora");
+    EXPECT_EQ(oreParlate(2e9), "2000000000 ore");
+    EXPECT_EQ(oreParlate(-Infinito), "-inf ore");
+}
+
+TEST(FraseValoreTest, SaysWhatAndHowMuchInHoursAndMinutes) {
+    EXPECT_EQ(sentenceOf(7.5), "1 marzo: 7:30");
+    EXPECT_EQ(sentenceOf(0), "1 marzo: 0:00");
+    EXPECT_EQ(sentenceOf(2), "1 marzo: 2:00");
 }
 
 TEST(FraseValoreTest, CountsThroughTheSeries) {
-    EXPECT_EQ(fraseValore(yearlyChart(), 0), "gennaio 2006: 7,5 ore");
-    EXPECT_EQ(fraseValore(yearlyChart(), 1), "febbraio 2006: 0 ore");
+    EXPECT_EQ(fraseValore(yearlyChart(), 0), "gennaio 2006: 7:30");
+    EXPECT_EQ(fraseValore(yearlyChart(), 1), "febbraio 2006: 0:00");
+    EXPECT_EQ(fraseParlata(yearlyChart(), 0), "gennaio 2006: 7 ore e 30 minuti");
+    EXPECT_EQ(fraseParlata(yearlyChart(), 1), "febbraio 2006: nessuna ora");
 }
 
 TEST(FraseValoreTest, ConvertsNamesAndHidesControlCharacters) {
     const Grafico grafico = chart({"NI"}, {1}, {"Nicol\xF2\nD\x92\xC0ngelo (NI)"});
-    EXPECT_EQ(fraseValore(grafico, 0), "Nicolò D’Àngelo (NI): 1 ora");
+    EXPECT_EQ(fraseValore(grafico, 0), "Nicolò D’Àngelo (NI): 1:00");
+    EXPECT_EQ(fraseParlata(grafico, 0), "Nicolò D’Àngelo (NI): 1 ora");
 }
 
 TEST(FraseValoreTest, RefusesValuesThatTheChartLacks) {
-    EXPECT_THROW(fraseValore(yearlyChart(), 2), std::out_of_range);
-    EXPECT_THROW(fraseValore(Grafico{}, 0), std::out_of_range);
-    EXPECT_THROW(fraseValore(chart({}, {}, {}), 0), std::out_of_range);
+    for (const auto sentence : {fraseValore, fraseParlata}) {
+        EXPECT_THROW(sentence(yearlyChart(), 2), std::out_of_range);
+        EXPECT_THROW(sentence(Grafico{}, 0), std::out_of_range);
+        EXPECT_THROW(sentence(chart({}, {}, {}), 0), std::out_of_range);
+    }
 }
 
 TEST(TabellaValoriTest, HasALineForEachRowOfASingleSeries) {
-    EXPECT_EQ(tabellaValori(chart({"1", "2", "3"}, {7.5, 0, 8}, {})), "Giorni\tOre\n1\t7,5\n2\t0\n3\t8\n");
+    EXPECT_EQ(tabellaValori(chart({"1", "2", "3"}, {7.5, 0, 8}, {})),
+              "Giorni\tOre\tOre decimali\n1\t7:30\t7,5\n2\t0:00\t0\n3\t8:00\t8\n");
 }
 
 TEST(TabellaValoriTest, HasALineForEachOfSeveralSeries) {
-    EXPECT_EQ(tabellaValori(yearlyChart()), "Anno 2006\tOre\nGen\t7,5\nFeb\t0\n");
+    EXPECT_EQ(tabellaValori(yearlyChart()), "Anno 2006\tOre\tOre decimali\nGen\t7:30\t7,5\nFeb\t0:00\t0\n");
+}
+
+TEST(TabellaValoriTest, BeginsWithTheChartsHeading) {
+    Grafico grafico = chart({"1"}, {0.25}, {});
+    grafico.intestazione = "Ore di Nicol\xF2\tRossi - marzo 2006";
+    EXPECT_EQ(tabellaValori(grafico),
+              "Ore di Nicolò Rossi - marzo 2006\nGiorni\tOre\tOre decimali\n1\t0:15\t0,25\n");
 }
 
 TEST(TabellaValoriTest, OfAChartWithoutValuesHasItsHeadings) {
-    EXPECT_EQ(tabellaValori(chart({}, {}, {})), "Giorni\tOre\n");
-    EXPECT_EQ(tabellaValori(Grafico{}), "\tOre\n");
+    EXPECT_EQ(tabellaValori(chart({}, {}, {})), "Giorni\tOre\tOre decimali\n");
+    EXPECT_EQ(tabellaValori(Grafico{}), "\tOre\tOre decimali\n");
 }
 
 TEST(TabellaValoriTest, LabelsCannotBreakTheTable) {
     EXPECT_EQ(tabellaValori(chart({"\t\n", std::string("\r\0", 2), "\x7F\x81"}, {1, 2, 3}, {})),
-              "Giorni\tOre\n  \t1\n  \t2\n  \t3\n");
+              "Giorni\tOre\tOre decimali\n  \t1:00\t1\n  \t2:00\t2\n  \t3:00\t3\n");
 }
 
 TEST(TabellaValoriTest, LabelsBecomeUtf8) {
-    EXPECT_EQ(tabellaValori(chart({"\xC0\xF2", "\x80 "}, {1, 2}, {})), "Giorni\tOre\nÀò\t1\n€ \t2\n");
+    EXPECT_EQ(tabellaValori(chart({"\xC0\xF2", "\x80 "}, {1, 2}, {})),
+              "Giorni\tOre\tOre decimali\nÀò\t1:00\t1\n€ \t2:00\t2\n");
+}
+
+TEST(NomeFileGraficoTest, IsTheHeading) {
+    EXPECT_EQ(fileNameOf("Ore di Rossi Bruno - marzo 2006"), "Ore di Rossi Bruno - marzo 2006");
+    EXPECT_EQ(fileNameOf("Ore dell'anno 2006"), "Ore dell'anno 2006");
+    EXPECT_EQ(fileNameOf("Ore di Nicol\xF2"), "Ore di Nicolò");
+    EXPECT_EQ(fileNameOf(""), "Grafico");
+}
+
+TEST(NomeFileGraficoTest, HoldsNothingThatAFileSystemForbids) {
+    EXPECT_EQ(fileNameOf("Ore di a/b\\c:d*e?f\"g<h>i|j - marzo"), "Ore di a_b_c_d_e_f_g_h_i_j - marzo");
+    EXPECT_EQ(fileNameOf("Ore di .. Dott. Rossi"), "Ore di __ Dott_ Rossi") << "a point begins a suffix";
+    EXPECT_EQ(fileNameOf("Ore di a\n\t b\x7F- marzo "), "Ore di a b - marzo");
+    EXPECT_EQ(fileNameOf(" \x01 "), "Grafico");
+}
+
+TEST(NomeFileGraficoTest, OfTheLongestNameFitsAFolder) {
+    EXPECT_LE(fileNameOf("Ore di " + std::string(50, '\x80') + " - settembre 2006").size(), 250u);
+}
+
+TEST(TestoVisibileTest, ShowsEveryByte) {
+    EXPECT_EQ(testoVisibile("3x"), "3x");
+    EXPECT_EQ(testoVisibile(std::string("3\0", 2)), "3\\x00");
+    EXPECT_EQ(testoVisibile("\xF2\x81\x7F\n"), "ò\\x81\\x7F\\x0A");
+    EXPECT_EQ(testoVisibile("<b>"), "<b>");
 }
 
 } // namespace planner::test

@@ -172,4 +172,16 @@ TEST_F(DailyChart, TheTablesLastRecordLiesBeyondTheFileAndDoesNotCount) {
     EXPECT_THAT(staff(), ElementsAre(0, 0, 0));
 }
 
+TEST_F(DailyChart, ItsHeadingSaysWhichDay) {
+    form.VisualizzaGraficoGiornaliero(1);
+    EXPECT_EQ(form.MSChartg().intestazione, "Ore dei collaboratori - 15 marzo 2006");
+}
+
+TEST_F(DailyChart, AnErrorNamesFileRecordAndHours) {
+    setHours({rigaGrafico("RB", "20060315", "0001:00"), rigaGrafico("RB", "20060314", "9e99900"),
+              rigaGrafico("BI", "20060315", "9e99900")});
+    EXPECT_EQ(errorOf([&] { form.VisualizzaGraficoGiornaliero(1); }),
+              "wgrafici, record 3: le ore \"9e99900\" sono troppe");
+}
+
 } // namespace planner::test

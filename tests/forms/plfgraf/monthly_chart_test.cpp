@@ -249,4 +249,40 @@ TEST_F(MonthlyChart, ANewBuildReplacesEverything) {
     EXPECT_EQ(grafico.asseY.MajorDivision, 2);
 }
 
+TEST_F(MonthlyChart, ItsHeadingSaysWhoseHoursOfWhichMonth) {
+    EXPECT_EQ(chart().intestazione, "Ore di Rossi Bruno - marzo 2006");
+    show(2004, 2, 29);
+    setStaff({collaboratore("BI", std::string(50, 'W')), collaboratore("RB", ""), collaboratore("  ", "")});
+    EXPECT_EQ(chart().intestazione, "Ore di RB - febbraio 2004");
+    form.VisualizzaGraficoMensile(0);
+    EXPECT_EQ(form.MSChartm().intestazione, "Ore di " + std::string(50, 'W') + " - febbraio 2004");
+    form.VisualizzaGraficoMensile(2);
+    EXPECT_EQ(form.MSChartm().intestazione, "Ore senza nome - febbraio 2004");
+}
+
+TEST_F(MonthlyChart, AnErrorNamesFileRecordAndDay) {
+    const RigaGrafico good = rigaGrafico("RB", "20060301", "0001:00");
+    const auto fail = [&](const RigaGrafico& bad) {
+        setHours({good, bad});
+        return errorOf([&] { form.VisualizzaGraficoMensile(1); });
+    };
+    EXPECT_EQ(fail(rigaGrafico("RB", "2006033x", "0001:00")),
+              "wgrafici, record 2: il giorno \"3x\" non è un numero");
+    EXPECT_EQ(fail(rigaGrafico("RB", "20060332", "0001:00")),
+              "wgrafici, record 2: il giorno \"32\" è fuori dal mese");
+    EXPECT_EQ(fail(rigaGrafico("RB", "20060300", "0001:00")),
+              "wgrafici, record 2: il giorno \"00\" è fuori dal mese");
+    EXPECT_EQ(fail(rigaGrafico("RB", std::string("200603") + '\0' + '\xF2', "0001:00")),
+              "wgrafici, record 2: il giorno \"\\x00ò\" non è un numero");
+    EXPECT_EQ(fail(rigaGrafico("RB", "20060301", "9e99900")),
+              "wgrafici, record 2: le ore \"9e99900\" sono troppe");
+}
+
+TEST_F(MonthlyChart, ARecordsErrorKeepsItsClass) {
+    setHours({rigaGrafico("RB", "2006033x", "0001:00")});
+    EXPECT_THROW(form.VisualizzaGraficoMensile(1), TypeMismatchError);
+    setHours({rigaGrafico("RB", "20060332", "0001:00")});
+    EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError);
+}
+
 } // namespace planner::test

@@ -38,6 +38,17 @@ protected:
     plfgraf form{archivi, calendario};
 };
 
+/// What the run-time error says that building a chart ends in; empty when it ends in none.
+template <typename Build>
+std::string errorOf(Build build) {
+    try {
+        build();
+    } catch (const RuntimeError& error) {
+        return error.what();
+    }
+    return {};
+}
+
 /// Values of a chart with `rows` rows, all 0 but the given ones, numbered from 1.
 inline std::vector<double> zerosBut(std::size_t rows,
                                     std::initializer_list<std::pair<std::size_t, double>> set) {

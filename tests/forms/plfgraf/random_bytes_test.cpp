@@ -65,12 +65,15 @@ void expectSound(const Grafico& grafico) {
         EXPECT_TRUE(std::isfinite(grafico.valore(numero)));
         EXPECT_FALSE(testoOre(grafico.valore(numero)).empty());
         EXPECT_FALSE(fraseValore(grafico, numero).empty());
+        EXPECT_FALSE(fraseParlata(grafico, numero).empty());
     }
     const std::string table = tabellaValori(grafico);
     const auto lines = static_cast<std::size_t>(std::count(table.begin(), table.end(), '\n'));
     const auto tabs = static_cast<std::size_t>(std::count(table.begin(), table.end(), '\t'));
-    EXPECT_EQ(lines, grafico.numValori() + 1);
-    EXPECT_EQ(tabs, lines);
+    const std::size_t headings = grafico.intestazione.empty() ? 1 : 2;
+    EXPECT_EQ(lines, grafico.numValori() + headings);
+    EXPECT_EQ(tabs, 2 * (grafico.numValori() + 1));
+    EXPECT_FALSE(nomeFileGrafico(grafico).empty());
 }
 
 /// True when the chart was built; any other error than a run-time error fails the test.

@@ -194,4 +194,18 @@ TEST_F(YearlyChart, TheTablesLastRecordLiesBeyondTheFileAndDoesNotCount) {
     EXPECT_EQ(form.MSCharta().TitleText, "");
 }
 
+TEST_F(YearlyChart, ItsHeadingSaysWhichYear) {
+    form.VisualizzaGraficoAnnuale();
+    EXPECT_EQ(form.MSCharta().intestazione, "Ore dell'anno 2006");
+}
+
+TEST_F(YearlyChart, AnErrorNamesFileRecordAndMonth) {
+    setHours({rigaGrafico("RB", "20051301", "0001:00"), rigaGrafico("RB", "20061301", "0001:00")});
+    EXPECT_EQ(errorOf([&] { form.VisualizzaGraficoAnnuale(); }),
+              "wgrafici, record 2: il mese \"13\" è fuori dall'anno");
+    setHours({rigaGrafico("RB", "2006xx01", "0001:00")});
+    EXPECT_EQ(errorOf([&] { form.VisualizzaGraficoAnnuale(); }),
+              "wgrafici, record 1: il mese \"xx\" non è un numero");
+}
+
 } // namespace planner::test
