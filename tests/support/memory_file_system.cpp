@@ -61,6 +61,9 @@ bool MemoryFileSystem::deleteFile(const std::string& path) {
 }
 
 std::unique_ptr<InputFile> MemoryFileSystem::openForReading(const std::string& path) const {
+    if (beforeOpening) {
+        beforeOpening();
+    }
     const auto found = m_files.find(key(path));
     if (found == m_files.end() || m_refused.contains(key(path))) {
         throw FileError("rifiutato");

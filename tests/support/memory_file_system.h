@@ -34,6 +34,9 @@ public:
     std::size_t readStart(const std::string& path, std::span<char> out) override;
     void writeStart(const std::string& path, std::span<const char> bytes) override;
 
+    /// Runs before each opening of a file; may throw.
+    std::function<void()> beforeOpening;
+
 private:
     static std::string key(const std::string& path);
 

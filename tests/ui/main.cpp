@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "platform/qt/appearance.h"
-
-#include <QApplication>
+#include "platform/qt/guarded_application.h"
 
 #include <gmock/gmock.h>
 
@@ -11,7 +10,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QApplication application(argc, argv);
+    planner::GuardedApplication application(argc, argv);
     planner::setUpAppearance(application);
     return RUN_ALL_TESTS();
 }

@@ -12,12 +12,18 @@ std::unique_ptr<clsplg> WindowBench::newEngine() {
 }
 
 void WindowBench::open(std::string_view tipo, std::string_view giorno, std::string_view windowcaption) {
+    openPeriod(tipo, giorno, "20060101", "20061231", windowcaption);
+}
+
+void WindowBench::openPeriod(std::string_view tipo, std::string_view giorno, std::string_view inizio,
+                             std::string_view fine, std::string_view windowcaption) {
     base.sessione.tipoplanner = tipo;
     base.sessione.PathArchivi = PlannerBench::Cartella;
     base.sessione.ModoFinestra = windowcaption.substr(0, 1);
     base.sessione.FlagFinestra = windowcaption.substr(windowcaption.size() - 1);
     base.sessione.FinePlanner = false;
-    newEngine()->Init_planner(std::string(tipo) + std::string(giorno), "20060101", "20061231", "RB");
+    newEngine()->Init_planner(std::string(tipo) + std::string(giorno), std::string(inizio), std::string(fine),
+                              "RB");
     finestra.show();
     if (!QTest::qWaitForWindowExposed(&vista)) {
         throw std::runtime_error("the window is not shown");
@@ -29,23 +35,21 @@ GridView& WindowBench::view() {
     return widget<GridView>(name.c_str());
 }
 
-namespace {
-
-QPoint centreOf(GridView& view, const Griglia& griglia, int riga, int colonna) {
-    const QModelIndex index = view.model()->index(riga - griglia.FixedRows(), colonna - Griglia::FixedCols());
-    view.scrollTo(index);
-    return view.visualRect(index).center();
+QModelIndex WindowBench::index(int riga, int colonna) {
+    return view().model()->index(riga - griglia().FixedRows(), colonna - Griglia::FixedCols());
 }
 
-} // namespace
+QPoint WindowBench::centreOf(int riga, int colonna) {
+    view().scrollTo(index(riga, colonna));
+    return view().visualRect(index(riga, colonna)).center();
+}
 
 void WindowBench::click(int riga, int colonna) {
-    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier,
-                      centreOf(view(), *base.controlli.grigliaVisibile(), riga, colonna));
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(riga, colonna));
 }
 
 void WindowBench::doubleClick(int riga, int colonna) {
-    const QPoint centre = centreOf(view(), *base.controlli.grigliaVisibile(), riga, colonna);
+    const QPoint centre = centreOf(riga, colonna);
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, centre);
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, centre);
 }

@@ -23,12 +23,19 @@ struct WindowBench {
     /// Prepares a request of the year 2006 and shows the window, as WPlanner does before it waits.
     void open(std::string_view tipo, std::string_view giorno = "20060315",
               std::string_view windowcaption = "                    ");
+    /// The same for another period, first and last day as yyyymmdd.
+    void openPeriod(std::string_view tipo, std::string_view giorno, std::string_view inizio,
+                    std::string_view fine, std::string_view windowcaption = "                    ");
 
+    /// The cell's index in the visible grid's model, and its centre in the view's viewport, scrolled into sight.
+    QModelIndex index(int riga, int colonna);
+    QPoint centreOf(int riga, int colonna);
     /// Presses the left button on a cell of the visible grid, in the grid's own rows and columns.
     void click(int riga, int colonna);
     void doubleClick(int riga, int colonna);
     /// The view of the visible grid.
     GridView& view();
+    const Griglia& griglia() { return *base.controlli.grigliaVisibile(); }
     /// Sends a key to the visible grid.
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     const std::string& reply() const { return base.sessione.valret; }

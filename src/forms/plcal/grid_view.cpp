@@ -74,7 +74,9 @@ void GridView::connectEvents() {
         setFocus();
         Q_EMIT gesture({m_model->gridRow(row), 0, mezzo});
     });
-    connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
+    if (effettoGesto(m_tipo, Luogo::nome) != nullptr) {
+        connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
+    }
     connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
 }
 
@@ -150,11 +152,8 @@ void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
 
 void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTableView::selectionChanged(selected, deselected);
-    if (m_byCode) {
-        return;
-    }
-    // Mouse and keys do not get here: a screen reader has selected a cell, or the selected one again.
-    const QModelIndexList cells = selected.isEmpty() ? deselected.indexes() : selected.indexes();
+    // Mouse and keys do not get here: a screen reader has selected a cell.
+    const QModelIndexList cells = m_byCode ? QModelIndexList() : selected.indexes();
     if (!cells.isEmpty()) {
         announce(cells.front(), Mezzo::assistenza);
         scrollTo(currentIndex());
