@@ -4,8 +4,10 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -129,6 +131,116 @@ TEST_F(StaffWindowTest, EscapeAndTheCloseBoxCloseWithoutAnAnswer) {
     bench.open();
     bench.window().close();
     EXPECT_FALSE(bench.window().isVisible());
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownNeitherClosesNorConfirms) {
+    bench.open();
+    bench.click(1, 1);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+        for (QWidget* target : std::initializer_list<QWidget*>{
+                 &bench.window(), &bench.list(), &bench.button(ComandoCollab::selezionaTutti)}) {
+            bench.holdDown(*target, key);
+        }
+    }
+    EXPECT_TRUE(bench.window().isVisible());
+    EXPECT_EQ(bench.reply(), "");
+    EXPECT_EQ(bench.lista().spuntate(), 0);
+    EXPECT_EQ(bench.lastMessage(), "");
+    bench.key(Qt::Key_Escape);
+    EXPECT_FALSE(bench.window().isVisible());
+}
+
+TEST_F(StaffWindowTest, AHeldArrowMovesOn) {
+    bench.open();
+    bench.key(Qt::Key_Down);
+    bench.holdDown(bench.list(), Qt::Key_Down);
+    EXPECT_EQ(bench.lista().selezionata(), 1);
+}
+
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownDoesNotAnswerTheSearchsQuestion) {
+    bench.open();
+    bench.search([&](QDialog& dialog) {
+        auto* field = dialog.findChild<QLineEdit*>();
+        field->setText(QStringLiteral("Verdi"));
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+            bench.holdDown(*field, key);
+            EXPECT_TRUE(dialog.isVisible()) << key;
+        }
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    EXPECT_EQ(bench.lista().selezionata(), 2);
+}
+
+TEST_F(StaffWindowTest, EscapeAndTheCloseBoxCloseWithoutAnAnswer) {
+    bench.open();
+    bench.click(1, 1);
+    bench.key(Qt::Key_Escape);
+    EXPECT_FALSE(bench.window().isVisible());
+    bench.open();
+    bench.window().close();
+    EXPECT_FALSE(bench.window().isVisible());
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownNeitherClosesNorConfirms) {
+    bench.open();
+    bench.click(1, 1);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+        for (QWidget* target : std::initializer_list<QWidget*>{
+                 &bench.window(), &bench.list(), &bench.button(ComandoCollab::selezionaTutti)}) {
+            bench.holdDown(*target, key);
+        }
+    }
+    EXPECT_TRUE(bench.window().isVisible());
+    EXPECT_EQ(bench.reply(), "");
+    EXPECT_EQ(bench.lista().spuntate(), 0);
+    EXPECT_EQ(bench.lastMessage(), "");
+    bench.key(Qt::Key_Escape);
+    EXPECT_FALSE(bench.window().isVisible());
+}
+
+TEST_F(StaffWindowTest, AHeldArrowMovesOn) {
+    bench.open();
+    bench.key(Qt::Key_Down);
+    bench.holdDown(bench.list(), Qt::Key_Down);
+    EXPECT_EQ(bench.lista().selezionata(), 1);
+}
+
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownDoesNotAnswerTheSearchsQuestion) {
+    bench.open();
+    bench.search([&](QDialog& dialog) {
+        auto* field = dialog.findChild<QLineEdit*>();
+        field->setText(QStringLiteral("Verdi"));
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+            bench.holdDown(*field, key);
+            EXPECT_TRUE(dialog.isVisible()) << key;
+        }
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    EXPECT_EQ(bench.lista().selezionata(), 2);
+}
+
+TEST_F(StaffWindowTest, TheHeaderShowsTheDirectionOfTheSort) {
+    bench.open();
+    const QHeaderView& header = *bench.list().header();
+    EXPECT_FALSE(header.isSortIndicatorShown());
+    bench.press(ComandoCollab::ordina);
+    EXPECT_TRUE(header.isSortIndicatorShown());
+    EXPECT_EQ(header.sortIndicatorSection(), 1);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::AscendingOrder);
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore, in ordine dalla A alla Z"));
+    bench.press(ComandoCollab::ordina);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::DescendingOrder);
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore, in ordine dalla Z alla A"));
+    bench.planner.widget<QAction>("coll").trigger(); // fills the list anew
+    EXPECT_FALSE(header.isSortIndicatorShown());
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore"));
+}
+
+TEST_F(StaffWindowTest, AScreenReaderHearsTheSentenceOfARowOnce) {
+    bench.open();
+    EXPECT_EQ(spoken(0, 0), QStringLiteral("Bianchi Rosa, BI, Avvocato, non spuntato"));
+    EXPECT_EQ(spoken(0, 1), QStringLiteral("Bianchi Rosa"));
+    EXPECT_EQ(spoken(0, 2), QStringLiteral("Avvocato"));
+    bench.clickCheckBox(0);
+    EXPECT_EQ(spoken(0, 0), QStringLiteral("Bianchi Rosa, BI, Avvocato, spuntato"));
+}
+
     EXPECT_EQ(bench.reply(), "");
     EXPECT_FALSE(bench.session().FinePlanner);
     EXPECT_TRUE(bench.planner.vista.isVisible());
