@@ -21,6 +21,12 @@ std::string upperCase(std::string_view text) {
     return upper;
 }
 
+/// A record that the host has not filled holds NUL bytes where others hold blanks.
+std::string blanksForNuls(std::string text) {
+    std::replace(text.begin(), text.end(), '\0', ' ');
+    return text;
+}
+
 std::string withoutTrailingSeparator(std::string_view folder) {
     std::string_view path = trimRight(folder);
     if (!path.empty() && path.back() == '\\') {
@@ -34,11 +40,12 @@ std::string withoutTrailingSeparator(std::string_view folder) {
 void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
                       const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                       std::string& valret, std::string& Windowcaption, std::string& planrichiesto) {
-    openSession(Windowcaption, PathArchivi);
-    m.sessione.tipoplanner = tipoplanner;
-    m.sessione.tipocall = tipocall;
-    m.sessione.planrichiesto = planrichiesto;
-    Init_planner(tipoplanner + std::string(slice(valret, 0, 8)), startdate, enddate, collab);
+    openSession(blanksForNuls(Windowcaption), PathArchivi);
+    m.sessione.tipoplanner = blanksForNuls(tipoplanner);
+    m.sessione.tipocall = blanksForNuls(tipocall);
+    m.sessione.planrichiesto = blanksForNuls(planrichiesto);
+    Init_planner(m.sessione.tipoplanner + blanksForNuls(std::string(slice(valret, 0, 8))),
+                 blanksForNuls(startdate), blanksForNuls(enddate), blanksForNuls(collab));
     m.controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
     m.controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
     m.finestra.show();
@@ -74,12 +81,12 @@ void clsplg::WUscita() {
 void clsplg::Init_planner(const std::string& chiave, const std::string& startdate, const std::string& enddate,
                           const std::string& collab) {
     m.finestra.load();
-    const DateRichiesta dates =
-        readRequestDates(slice(chiave, 1, 8), startdate, enddate, m.orologio.today(), m.messaggi);
+    m.controlli.tipoVisibile = tipoPlanner(slice(chiave, 0, 1));
+    const DateRichiesta dates = readRequestDates(
+        m.controlli.tipoVisibile, {slice(chiave, 1, 8), startdate, enddate}, m.orologio.today(), m.messaggi);
     m.sessione.DataSessione = dates.mostrata;
     m.sessione.periodo.setInizio(dates.inizio);
     m.sessione.periodo.setFine(dates.fine);
-    m.controlli.tipoVisibile = tipoPlanner(slice(chiave, 0, 1));
     setToolbarForKind();
     LeggiCollab();
     m.sessione.IndiceRichiesto =

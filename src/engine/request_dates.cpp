@@ -5,21 +5,34 @@
 #include "archive/cp1252.h"
 #include "archive/fixed_text.h"
 
+#include <string>
+#include <vector>
+
 namespace planner {
 
 namespace {
 
-std::optional<Data> readDate(std::string_view text, std::string_view name, MessageBoxes& messaggi) {
-    const std::string_view digits = trim(text);
-    if (digits.empty() || digits == "00000000") {
+using Guai = std::vector<std::string>;
+
+std::optional<Data> readDate(std::string_view text, std::string_view name, Guai& guai) {
+    if (text.find_first_not_of(" 0") == std::string_view::npos) {
         return std::nullopt;
     }
-    const auto data = parseDate(digits);
+    const auto data = parseDate(trim(text));
     if (!data) {
-        messaggi.critical("Richiesta non valida: " + std::string(name) + " \"" + utf8FromCp1252(digits) +
-                          "\" non è una data.");
+        guai.push_back(std::string(name) + " \"" + utf8FromCp1252(trim(text)) + "\" non è una data");
     }
     return data;
+}
+
+void say(const Guai& guai, MessageBoxes& messaggi) {
+    std::string text;
+    for (const std::string& guaio : guai) {
+        text += (text.empty() ? "Richiesta non valida: " : "; ") + guaio;
+    }
+    if (!text.empty()) {
+        messaggi.critical(text + ".");
+    }
 }
 
 Data firstOfYear(Data data) {
@@ -30,22 +43,36 @@ Data lastOfYear(Data data) {
     return {data.year(), std::chrono::December, std::chrono::day{31}};
 }
 
+/// The same day of another year; 29 February becomes 28 where the year lacks it.
+Data inYear(Data data, std::chrono::year year) {
+    const Data there{year, data.month(), data.day()};
+    return there.ok() ? there : Data{year, data.month(), std::chrono::day{28}};
+}
+
 } // namespace
 
-DateRichiesta readRequestDates(std::string_view giorno, std::string_view startdate, std::string_view enddate,
-                               Data oggi, MessageBoxes& messaggi) {
-    const auto day = readDate(giorno, "il giorno da mostrare", messaggi);
-    const auto start = readDate(startdate, "la data iniziale", messaggi);
-    auto end = readDate(enddate, "la data finale", messaggi);
+DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
+                               MessageBoxes& messaggi) {
+    Guai guai;
+    const auto day = readDate(testi.giorno, "il giorno da mostrare", guai);
+    auto start = readDate(testi.startdate, "la data iniziale", guai);
+    auto end = readDate(testi.enddate, "la data finale", guai);
     if (start && end && *end < *start) {
-        messaggi.critical("Richiesta non valida: la data finale viene prima della data iniziale.");
+        guai.emplace_back("la data finale viene prima della data iniziale");
         end.reset();
     }
-    DateRichiesta dates{};
-    dates.mostrata = day ? *day : start ? *start : oggi;
-    dates.inizio = start ? *start : firstOfYear(end.value_or(dates.mostrata));
-    dates.fine = end ? *end : lastOfYear(start.value_or(dates.mostrata));
-    return dates;
+    if (tipo) {
+        say(guai, messaggi);
+    }
+    if (!start && end) {
+        start = firstOfYear(*end);
+    }
+    Data mostrata = day.value_or(start.value_or(oggi));
+    if (tipo == TipoPlanner::Annuale && start) {
+        mostrata = inYear(mostrata, start->year());
+    }
+    const Data inizio = start.value_or(firstOfYear(mostrata));
+    return {mostrata, inizio, end.value_or(lastOfYear(inizio))};
 }
 
 } // namespace planner

@@ -2,24 +2,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/controls.h"
 #include "engine/session/modpl.h"
 #include "platform/ports/message_boxes.h"
 
+#include <optional>
 #include <string_view>
 
 namespace planner {
 
+/// The three yyyymmdd texts of a request.
+struct DateInArrivo {
+    std::string_view giorno; // the day to show
+    std::string_view startdate;
+    std::string_view enddate;
+};
+
 /// The dates of a request, read and completed.
 struct DateRichiesta {
-    Data mostrata; // the incoming day, else the start date, else today
+    Data mostrata; // the incoming day, else the start, else today
     Data inizio;   // else 1 January of the end date's year
     Data fine;     // else 31 December of the start date's year
 };
 
-/// Reads the three yyyymmdd texts of a request; "00000000" and blanks are no date. An impossible date is
-/// said in a message box and counts as none, and so does an end before the start. Without start and end the
-/// period is the shown day's year.
-DateRichiesta readRequestDates(std::string_view giorno, std::string_view startdate, std::string_view enddate,
-                               Data oggi, MessageBoxes& messaggi);
+/// Reads the dates of a request; a text of blanks and zeros is no date. Impossible dates count as none, and
+/// so does an end before the start: one message box says it of all of them. Without start and end the period
+/// is the shown day's year. The yearly planner shows the day in the year of the start. For an unknown kind,
+/// which shows no day, nothing is said.
+DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
+                               MessageBoxes& messaggi);
 
 } // namespace planner

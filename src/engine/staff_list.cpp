@@ -24,6 +24,7 @@ void ListaCollaboratori::svuota() {
     m_righe.clear();
     m_selezionata.reset();
     m_ordinamento = Ordinamento::nessuno;
+    m_tolte = 0;
 }
 
 void ListaCollaboratori::aggiungi(std::string_view codice, std::string_view nome, std::string_view mansione) {
@@ -52,7 +53,7 @@ void ListaCollaboratori::tieniSpuntate() {
             std::count_if(m_righe.begin(), selected, [](const auto& riga) { return riga.spuntata; });
         m_selezionata = selected->spuntata ? std::optional(static_cast<int>(kept)) : std::nullopt;
     }
-    std::erase_if(m_righe, [](const auto& riga) { return !riga.spuntata; });
+    m_tolte += static_cast<int>(std::erase_if(m_righe, [](const auto& riga) { return !riga.spuntata; }));
 }
 
 void ListaCollaboratori::seleziona(std::optional<int> indice) {

@@ -14,7 +14,7 @@ struct RigaCollaboratore {
     std::string codice; // both bytes, blanks included
     std::string nome;
     std::string mansione;
-    bool spuntata = false; // its check box
+    bool spuntata = false; // its check box is ticked
 
     friend bool operator==(const RigaCollaboratore&, const RigaCollaboratore&) = default;
 };
@@ -38,6 +38,8 @@ public:
     int spuntate() const;
     /// Deletes the unchecked rows; a selected row that goes leaves none selected.
     void tieniSpuntate();
+    /// How many rows `tieniSpuntate` has deleted since the list was emptied.
+    int tolte() const { return m_tolte; }
 
     std::optional<int> selezionata() const { return m_selezionata; }
     /// Selects the row, or none.
@@ -55,6 +57,7 @@ private:
     std::vector<RigaCollaboratore> m_righe;
     std::optional<int> m_selezionata;
     Ordinamento m_ordinamento = Ordinamento::nessuno;
+    int m_tolte = 0;
 };
 
 } // namespace planner

@@ -25,31 +25,75 @@ Seguito Ftavtrmpl::Form_Load() {
 
 Seguito Ftavtrmpl::Timer1_Timer() {
     if (!m_files.fileExists(FileLockPl)) {
+        m_servita.reset();
         return Seguito::Continua;
     }
     if (!m_files.fileExists(m_collegamento.PathTransito())) {
         return Seguito::Termina;
     }
-    try {
-        m_collegamento.readRequest();
-    } catch (const FileError&) {
-        return Seguito::Continua; // the host may be busy with the file; the next tick looks again
+    Timer1.setEnabled(false); // no tick while the planner or a message is open
+    const Seguito seguito = lookAtRequest();
+    Timer1.setEnabled(true);
+    if (seguito == Seguito::Termina) {
+        m_collegamento.releaseEngine();
     }
-    return serveRequest();
+    return seguito;
 }
 
-Seguito Ftavtrmpl::serveRequest() {
-    Timer1.setEnabled(false);
-    const bool written = m_collegamento.dispatch();
-    if (written) {
-        m_files.deleteFile(FileLockPl);
-    }
-    Timer1.setEnabled(true);
-    if (!m_collegamento.finished()) {
+Seguito Ftavtrmpl::lookAtRequest() {
+    if (!readRequest()) {
         return Seguito::Continua;
     }
-    m_collegamento.releaseEngine();
-    return Seguito::Termina;
+    if (alreadyServed()) {
+        completeAnswer();
+        return Seguito::Continua;
+    }
+    serveRequest();
+    return m_collegamento.finished() ? Seguito::Termina : Seguito::Continua;
+}
+
+bool Ftavtrmpl::readRequest() {
+    try {
+        m_collegamento.readRequest();
+        m_guaioTransito.over();
+        return true;
+    } catch (const FileError&) {
+        if (m_guaioTransito.firstTime()) {
+            m_collegamento.reportTransitFile();
+        }
+        return false;
+    }
+}
+
+bool Ftavtrmpl::alreadyServed() const {
+    const TransitRequest& now = m_collegamento.richiesta();
+    // A failed write can have left the request or the answer in the file.
+    return m_servita && (now == m_servita->risposta || (!m_servita->scritta && now == m_servita->richiesta));
+}
+
+void Ftavtrmpl::serveRequest() {
+    const TransitRequest richiesta = m_collegamento.richiesta();
+    const bool scritta = m_collegamento.dispatch();
+    m_servita = {richiesta, m_collegamento.richiesta(), scritta};
+    if (scritta) {
+        deleteMarker();
+    }
+}
+
+void Ftavtrmpl::completeAnswer() {
+    m_servita->scritta = m_servita->scritta || m_collegamento.repeatAnswer(m_servita->risposta);
+    if (m_servita->scritta) {
+        deleteMarker();
+    }
+}
+
+void Ftavtrmpl::deleteMarker() {
+    if (m_files.deleteFile(FileLockPl) || !m_files.fileExists(FileLockPl)) {
+        m_guaioLock.over();
+        m_servita.reset(); // the marker was away: whatever comes next is a new request
+    } else if (m_guaioLock.firstTime()) {
+        m_collegamento.reportMarker(FileLockPl);
+    }
 }
 
 } // namespace planner

@@ -5,9 +5,22 @@
 #include "host/mtavtrmpl.h"
 #include "platform/ports/periodic_timer.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace planner {
+
+/// A trouble that goes on is said once, and again only after it was over.
+class SaidOnce {
+public:
+    /// True when the trouble has not been said since it was over.
+    bool firstTime() { return !std::exchange(m_said, true); }
+    void over() { m_said = false; }
+
+private:
+    bool m_said = false;
+};
 
 /// Polling mode: a hidden form whose timer looks for the host's marker file.
 class Ftavtrmpl {
@@ -18,17 +31,33 @@ public:
     Seguito Form_Load();
 
     /// One tick: serves the request that the marker announces, if there is one. The marker goes after the
-    /// answer is in the file and never before: an answer that could not be written leaves it, and the next
-    /// tick serves the request again.
+    /// answer is in the file and never before. A request is served once, until the marker was away or the
+    /// record is another. A transit file that cannot be read, an answer that cannot be written and a marker
+    /// that cannot be deleted are said once and tried again silently at each tick.
     Seguito Timer1_Timer();
 
 private:
-    Seguito serveRequest();
+    /// A request whose marker is still there.
+    struct Servita {
+        TransitRequest richiesta;
+        TransitRequest risposta;
+        bool scritta;
+    };
+
+    Seguito lookAtRequest();
+    bool readRequest();
+    bool alreadyServed() const;
+    void serveRequest();
+    void completeAnswer();
+    void deleteMarker();
 
     mtavtrmpl& m_collegamento;
     FileSystem& m_files;
     PeriodicTimer& Timer1;
     std::string FileLockPl;
+    std::optional<Servita> m_servita;
+    SaidOnce m_guaioTransito;
+    SaidOnce m_guaioLock;
 };
 
 } // namespace planner

@@ -69,6 +69,15 @@ bool mtavtrmpl::dispatch() {
             "Il planner si chiude per un errore imprevisto: " + std::string(error.what()) + ".");
         answerWithClose();
     }
+    if (!writeAnswer()) {
+        reportTransitFile();
+        return false;
+    }
+    return true;
+}
+
+bool mtavtrmpl::repeatAnswer(const TransitRequest& risposta) {
+    m_richiesta = risposta;
     return writeAnswer();
 }
 
@@ -102,13 +111,18 @@ bool mtavtrmpl::writeAnswer() {
         m_porte.files.writeStart(m_riga.PathTransito, bytes);
         return true;
     } catch (const FileError&) {
-        reportTransitFile();
         return false;
     }
 }
 
 void mtavtrmpl::reportTransitFile() {
     m_porte.messaggi.critical("Attenzione ! Problemi con il file di transito " + m_riga.PathTransito);
+}
+
+void mtavtrmpl::reportMarker(const std::string& marker) {
+    m_porte.messaggi.critical("Attenzione ! La risposta è pronta, ma il file " + marker +
+                              " non può essere eliminato e il programma dello studio resta in attesa. "
+                              "Controllare i permessi della cartella, oppure eliminare il file a mano.");
 }
 
 } // namespace planner

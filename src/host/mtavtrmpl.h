@@ -43,6 +43,12 @@ public:
     /// written, which the user has then been told.
     bool dispatch();
 
+    /// The request buffer: what was read, and after a dispatch the answer.
+    const TransitRequest& richiesta() const { return m_richiesta; }
+
+    /// Writes an answer that could not be written before, without a word. False when it still cannot be.
+    bool repeatAnswer(const TransitRequest& risposta);
+
     /// True when the answer in the buffer ends the program.
     bool finished() const { return m_richiesta.azione() == 'E'; }
 
@@ -51,6 +57,8 @@ public:
 
     /// Says that the transit file is the trouble.
     void reportTransitFile();
+    /// Says that the marker, a path, cannot be deleted, and what to do.
+    void reportMarker(const std::string& marker);
 
     const std::string& PathTransito() const { return m_riga.PathTransito; }
     const std::string& CartellaTransito() const { return m_CartellaTransito; }

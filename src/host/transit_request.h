@@ -24,6 +24,8 @@ struct TransitRequest {
 
     /// The action letter of the answer: the last character of `valret`.
     char azione() const { return valret.view().back(); }
+
+    friend bool operator==(const TransitRequest&, const TransitRequest&) = default;
 };
 
 inline constexpr std::array TransitRequestFields{

@@ -20,7 +20,7 @@ Json critical(const std::string& text) {
 
 } // namespace
 
-TEST(DumpMessages, ImpossibleDatesAreSaidInTheirOrderAndCountAsMissing) {
+TEST(DumpMessages, ImpossibleDatesAreSaidTogetherAndCountAsMissing) {
     SmallOffice office;
     office.richiesta = request("G");
     office.richiesta.valret.assign("20060230");
@@ -29,9 +29,9 @@ TEST(DumpMessages, ImpossibleDatesAreSaidInTheirOrderAndCountAsMissing) {
     const Json dump = office.dump();
     EXPECT_EQ(
         dump.at("messaggi"),
-        Json::array({critical("Richiesta non valida: il giorno da mostrare \"20060230\" non è una data."),
-                     critical("Richiesta non valida: la data iniziale \"20061301\" non è una data."),
-                     critical("Richiesta non valida: la data finale \"domani\" non è una data.")}));
+        Json::array({critical("Richiesta non valida: il giorno da mostrare \"20060230\" non è una data; "
+                              "la data iniziale \"20061301\" non è una data; "
+                              "la data finale \"domani\" non è una data.")}));
     EXPECT_EQ(dump.at("calendario"), "2025-11-20") << "today is left";
     EXPECT_EQ(dump.at("finestra").at("titolo"), "Dal 1 Gennaio 2025 al 31 Dicembre 2025");
 }

@@ -36,7 +36,7 @@ TEST_F(HostileNames, AreShownAsTheyAreInTheStaffList) {
     open("ctrl+l", "Selezione Collaboratori");
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::string jobTitle = names.at(i).substr(0, JobTitleLength); // the same as the name
-        checkCell("Collaboratori", i, ", " + codeOf(i) + ", " + jobTitle + ", non selezionato");
+        checkCell("Collaboratori", i, ", " + codeOf(i) + ", " + jobTitle + ", non spuntato");
     }
 }
 

@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "e2e/support/inamovibile.h"
 #include "e2e/support/scenario.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <sys/stat.h>
 
 namespace planner::e2e {
 
@@ -19,6 +22,23 @@ protected:
     }
     std::string missingFileText() const {
         return "Attenzione ! Problemi con il file di transito " + archivio.transitPath();
+    }
+    std::string undeletableMarkerText() const {
+        return "Attenzione ! La risposta è pronta, ma il file " + archivio.path(Archivio::LockPl) +
+               " non può essere eliminato e il programma dello studio resta in attesa. Controllare i "
+               "permessi della cartella, oppure eliminare il file a mano.";
+    }
+    /// There is a transit file at every moment, the old one or the new one.
+    void replaceTransit(const std::string& bytes) const {
+        archivio.write("nuovo", bytes);
+        std::filesystem::rename(archivio.path("nuovo"), archivio.transitPath());
+    }
+    /// Answers "P" in the yearly planner.
+    void previousYear(const Programma& planner) const {
+        const Finestra finestra = window(planner, "Planner Annuale");
+        finestra.activate();
+        finestra.press("alt+Left");
+        EXPECT_TRUE(finestra.disappears());
     }
 };
 
@@ -125,6 +145,59 @@ TEST_F(PollingMode, AMarkerWithoutTransitFileEndsTheProgramSilently) {
     EXPECT_EQ(planner.exitCode(), 0);
     EXPECT_FALSE(archivio.exists(Archivio::Transit));
     EXPECT_TRUE(archivio.exists(Archivio::LockPl));
+}
+
+TEST_F(PollingMode, ATransitFileThatIsNoFileIsSaidOnceAndServedAsSoonAsItIsOne) {
+    archivio.writeTransit(requestBytes('M'));
+    Programma& planner = startPolling();
+    ASSERT_TRUE(planner.comesToRest());
+    ASSERT_EQ(::mkfifo(archivio.path("pipe").c_str(), 0600), 0);
+    std::filesystem::rename(archivio.path("pipe"), archivio.transitPath());
+    archivio.putMarker(Archivio::LockPl);
+    confirmMessage(planner, "critical", missingFileText());
+    EXPECT_TRUE(planner.comesToRest(std::chrono::seconds{2}));
+    EXPECT_TRUE(showsNoWindow(planner));
+    replaceTransit(requestBytes('M'));
+    escape(planner);
+    EXPECT_EQ(planner.exitCode(), 0);
+    EXPECT_EQ(archivio.transit(), closedOn("20060315", requestBytes('M')));
+    EXPECT_FALSE(archivio.exists(Archivio::LockPl));
+}
+
+TEST_F(PollingMode, AMarkerThatCannotBeDeletedIsSaidOnceAndTheRequestServedOnce) {
+    putRequest('A');
+    Inamovibile marker(archivio.path(Archivio::LockPl));
+    if (!marker.holds()) {
+        GTEST_SKIP() << "this file system, or this user, cannot keep a file from being deleted";
+    }
+    Programma& planner = startPolling();
+    previousYear(planner);
+    confirmMessage(planner, "critical", undeletableMarkerText());
+    EXPECT_TRUE(planner.comesToRest(std::chrono::seconds{2}));
+    EXPECT_TRUE(showsNoWindow(planner));
+    EXPECT_EQ(archivio.transit(), answeredWith("20060315  P", requestBytes('A')));
+    replaceTransit(requestBytes('G')); // another record under the same marker
+    escape(planner, "Planner Giornaliero");
+    EXPECT_EQ(planner.exitCode(), 0) << "an answer \"E\" ends it, without another message";
+    EXPECT_TRUE(archivio.exists(Archivio::LockPl));
+    EXPECT_EQ(archivio.transit(), closedOn("20060315", requestBytes('G')));
+}
+
+TEST_F(PollingMode, AMarkerThatCanBeDeletedAgainGoesByItself) {
+    putRequest('A');
+    Inamovibile marker(archivio.path(Archivio::LockPl));
+    if (!marker.holds()) {
+        GTEST_SKIP() << "this file system, or this user, cannot keep a file from being deleted";
+    }
+    Programma& planner = startPolling();
+    previousYear(planner);
+    confirmMessage(planner, "critical", undeletableMarkerText());
+    marker.release();
+    EXPECT_TRUE(comesTrue([&] { return !archivio.exists(Archivio::LockPl); }));
+    EXPECT_TRUE(showsNoWindow(planner));
+    putRequest();
+    escape(planner);
+    EXPECT_EQ(planner.exitCode(), 0);
 }
 
 } // namespace planner::e2e

@@ -30,7 +30,7 @@ protected:
 
     /// The staff member's code as it stands in a row of the list.
     static Accessibilita::Cella cell(int riga, const std::string& nome, const std::string& codice,
-                                     const std::string& spunta = "non selezionato") {
+                                     const std::string& spunta = "non spuntato") {
         return {"Collaboratori", riga, 0, nome + ", " + codice + ", " + nome + ", " + spunta};
     }
     void clickOnRossi() const { bus.click(planner(), cell(3, "Rossi Dario", "04")); }
@@ -66,7 +66,7 @@ protected:
 TEST_F(StaffSelection, ComesWithItsKeysAndLeavesThePlannerUsable) {
     const Finestra list = openList();
     EXPECT_EQ(list.title(), Elenco);
-    bus.waitFor(planner(), "0 selezionati su 4");
+    bus.waitFor(planner(), "0 spuntati su 4");
     finestra().activate();
     click("Mese successivo");
     bus.waitFor(planner(), "Mese di Aprile 2006");
@@ -108,10 +108,10 @@ TEST_F(StaffSelection, TheSpaceBarChecksTheSelectedRowAndClearsItAgain) {
     const Finestra list = openList();
     clickOnRossi();
     list.press("space");
-    bus.waitFor(planner(), "1 selezionato su 4");
-    bus.waitFor(planner(), cell(3, "Rossi Dario", "04", "selezionato"));
+    bus.waitFor(planner(), "1 spuntato su 4");
+    bus.waitFor(planner(), cell(3, "Rossi Dario", "04", "spuntato"));
     list.press("space");
-    bus.waitFor(planner(), "0 selezionati su 4");
+    bus.waitFor(planner(), "0 spuntati su 4");
     bus.waitFor(planner(), cell(3, "Rossi Dario", "04"));
 }
 
@@ -120,10 +120,10 @@ TEST_F(StaffSelection, OnlyTheCheckedRowsStayUntilTheListIsFilledAnew) {
     clickOnRossi();
     list.press("space");
     click("Visualizza solo i selezionati");
-    bus.waitFor(planner(), "1 selezionato su 1");
-    bus.waitFor(planner(), cell(0, "Rossi Dario", "04", "selezionato"));
+    bus.waitFor(planner(), "1 spuntato su 1, 3 tolti dall'elenco");
+    bus.waitFor(planner(), cell(0, "Rossi Dario", "04", "spuntato"));
     openListAgain();
-    bus.waitFor(planner(), "0 selezionati su 4");
+    bus.waitFor(planner(), "0 spuntati su 4");
     EXPECT_TRUE(list.isVisible());
 }
 
@@ -159,7 +159,9 @@ TEST_F(StaffSelection, TheConfirmButtonAnswersCWithTheDayThatTheCalendarShowsThe
 TEST_F(StaffSelection, ConfirmingWithNobodySelectedAsksForOneAndAnswersNothing) {
     const Finestra list = openList();
     click("Conferma selezioni");
-    confirmMessage(planner(), "information", "Selezionare un collaboratore prima di confermare.");
+    confirmMessage(planner(), "information",
+                   "Scegliere un collaboratore prima di confermare: fare clic sulla sua riga (la spunta non "
+                   "basta).");
     EXPECT_TRUE(list.isVisible());
     EXPECT_TRUE(finestra().isVisible());
     checkNothingAnswered();
@@ -238,7 +240,7 @@ TEST_F(StaffSelection, IsClosedWhenTheNextRequestComes) {
     bus.waitFor(planner(), "Mese successivo");
     EXPECT_FALSE(showsTheList());
     openListAgain();
-    bus.waitFor(planner(), "0 selezionati su 4");
+    bus.waitFor(planner(), "0 spuntati su 4");
     window(planner(), Elenco).press("Escape");
     checkNothingAnswered();
 }

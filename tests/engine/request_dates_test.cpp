@@ -13,8 +13,12 @@ using testing::IsEmpty;
 
 class RequestDatesTest : public testing::Test {
 protected:
-    DateRichiesta read(std::string_view giorno, std::string_view start, std::string_view end) {
-        return readRequestDates(giorno, start, end, *makeDate(2010, 7, 20), messaggi);
+    DateRichiesta read(std::string_view giorno, std::string_view start, std::string_view end,
+                       std::optional<TipoPlanner> tipo = TipoPlanner::Mensile) {
+        return readRequestDates(tipo, {giorno, start, end}, *makeDate(2010, 7, 20), messaggi);
+    }
+    std::string shownInYear(std::string_view giorno, std::string_view start, std::string_view end) {
+        return formatDate(read(giorno, start, end, TipoPlanner::Annuale).mostrata);
     }
     std::vector<std::string> texts() const {
         std::vector<std::string> texts;
@@ -35,14 +39,39 @@ TEST_F(RequestDatesTest, TheIncomingDayIsShown) {
 }
 
 TEST_F(RequestDatesTest, WithoutAnIncomingDayTheStartDateIsShown) {
-    for (const std::string_view none : {"00000000", "        ", ""}) {
+    for (const std::string_view none : {"00000000", "        ", "", "0000    ", "  00  00", "0"}) {
         EXPECT_EQ(formatDate(read(none, "20060315", "20061231").mostrata), "20060315") << none;
     }
     EXPECT_THAT(texts(), IsEmpty());
 }
 
-TEST_F(RequestDatesTest, WithoutDayAndStartTodayIsShown) {
-    EXPECT_EQ(formatDate(read("00000000", "00000000", "20061231").mostrata), "20100720");
+TEST_F(RequestDatesTest, WithoutDayAndStartTheFirstDayOfTheEndsYearIsShown) {
+    EXPECT_EQ(formatDate(read("00000000", "00000000", "20060614").mostrata), "20060101");
+}
+
+TEST_F(RequestDatesTest, WithoutAnyDateTodayIsShown) {
+    EXPECT_EQ(formatDate(read("00000000", "        ", "0000    ").mostrata), "20100720");
+    EXPECT_THAT(texts(), IsEmpty());
+}
+
+TEST_F(RequestDatesTest, TheYearlyPlannerShowsTheDayInTheYearOfTheStart) {
+    EXPECT_EQ(shownInYear("20060605", "20070101", "20071231"), "20070605");
+    EXPECT_EQ(shownInYear("20060605", "20050301", "00000000"), "20050605");
+    EXPECT_EQ(shownInYear("20060605", "00000000", "20071231"), "20070605");
+    EXPECT_EQ(shownInYear("20060605", "00000000", "00000000"), "20060605");
+    EXPECT_EQ(shownInYear("00000000", "00000000", "00000000"), "20100720");
+    EXPECT_EQ(shownInYear("00000000", "20070315", "20071231"), "20070315");
+}
+
+TEST_F(RequestDatesTest, TheYearlyPlannerShows28FebruaryWhereTheYearLacksThe29th) {
+    EXPECT_EQ(shownInYear("20080229", "20070101", "20071231"), "20070228");
+    EXPECT_EQ(shownInYear("20080229", "20040101", "20041231"), "20040229");
+}
+
+TEST_F(RequestDatesTest, OnlyTheYearlyPlannerMovesTheDayIntoTheStartsYear) {
+    for (const TipoPlanner tipo : {TipoPlanner::Mensile, TipoPlanner::Giornaliero}) {
+        EXPECT_EQ(formatDate(read("20060605", "20070101", "20071231", tipo).mostrata), "20060605");
+    }
 }
 
 TEST_F(RequestDatesTest, ThePeriodIsTheRequests) {
@@ -69,15 +98,26 @@ TEST_F(RequestDatesTest, WithoutStartAndEndThePeriodIsTheShownDaysYear) {
     EXPECT_EQ(formatDate(dates.fine), "20101231");
 }
 
-TEST_F(RequestDatesTest, AnImpossibleDateIsSaidAndCountsAsMissing) {
+TEST_F(RequestDatesTest, ImpossibleDatesAreSaidTogetherAndCountAsMissing) {
     const DateRichiesta dates = read("20060231", "20061301", "abcdefgh");
     EXPECT_EQ(formatDate(dates.mostrata), "20100720");
     EXPECT_EQ(formatDate(dates.inizio), "20100101");
     EXPECT_EQ(formatDate(dates.fine), "20101231");
     EXPECT_THAT(texts(),
-                ElementsAre("Richiesta non valida: il giorno da mostrare \"20060231\" non è una data.",
-                            "Richiesta non valida: la data iniziale \"20061301\" non è una data.",
-                            "Richiesta non valida: la data finale \"abcdefgh\" non è una data."));
+                ElementsAre("Richiesta non valida: il giorno da mostrare \"20060231\" non è una data; "
+                            "la data iniziale \"20061301\" non è una data; "
+                            "la data finale \"abcdefgh\" non è una data."));
+}
+
+TEST_F(RequestDatesTest, AnImpossibleDayAndAnEndBeforeTheStartAreSaidTogether) {
+    read("2006", "20060315", "20060314");
+    EXPECT_THAT(texts(), ElementsAre("Richiesta non valida: il giorno da mostrare \"2006\" non è una data; "
+                                     "la data finale viene prima della data iniziale."));
+}
+
+TEST_F(RequestDatesTest, OfAnUnknownKindNoDateIsSaidToBeImpossible) {
+    EXPECT_EQ(formatDate(read("20060231", "20061301", "abcdefgh", std::nullopt).mostrata), "20100720");
+    EXPECT_THAT(texts(), IsEmpty());
 }
 
 TEST_F(RequestDatesTest, BytesOfTheRequestAreShownAsTheirCharacters) {

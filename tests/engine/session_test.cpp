@@ -163,11 +163,75 @@ TEST_F(SessionTest, AnIncomingAnswerOfZerosGivesNoDay) {
     }
 }
 
-TEST_F(SessionTest, WithoutIncomingDayAndStartTodayIsShown) {
+TEST_F(SessionTest, WithoutAnyDateTodayIsShown) {
     call.startdate = "00000000";
+    call.enddate = "00000000";
     call.valret = "";
     serve();
     EXPECT_EQ(bench.controlli.calendario.Value(), PlannerBench::Oggi);
+}
+
+TEST_F(SessionTest, WithoutIncomingDayAndStartTheFirstDayOfTheEndsYearIsShown) {
+    for (const char* tipo : {"M", "G", "A"}) {
+        call.tipoplanner = tipo;
+        call.startdate = "00000000";
+        call.enddate = "20081231";
+        call.valret = "";
+        serve();
+        EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20080101") << tipo;
+        EXPECT_EQ(sessione.periodo.AnnoInizio, "2008") << tipo;
+    }
+}
+
+TEST_F(SessionTest, ZerosBlanksAndNulsInAnyMixtureAreNoDateAndNeedNoMessage) {
+    using namespace std::string_literals;
+    for (const std::string& none : {"\0\0\0\0\0\0\0\0"s, "0000\0\0\0\0"s, " 0\0 0\0 0"s}) {
+        call.valret = none + "\0\0\0"s;
+        call.startdate = none;
+        call.enddate = none;
+        serve();
+        EXPECT_EQ(bench.controlli.calendario.Value(), PlannerBench::Oggi);
+    }
+    EXPECT_THAT(bench.messaggi.shown, IsEmpty());
+}
+
+TEST_F(SessionTest, NulsInCodesAndFlagsCountAsBlanks) {
+    using namespace std::string_literals;
+    call.tipoplanner = "A";
+    call.collab = "7\0"s;
+    call.tipocall = "\0"s;
+    call.planrichiesto = "\0"s;
+    call.Windowcaption = std::string(21, '\0');
+    serve();
+    EXPECT_EQ(bench.controlli.lbldescr, "Anno 2006 Impegni di: Verdi Ugo");
+    EXPECT_EQ(sessione.tipocall, " ");
+    EXPECT_EQ(sessione.planrichiesto, " ");
+    EXPECT_EQ(sessione.ModoFinestra, " ");
+    EXPECT_EQ(sessione.FlagFinestra, " ");
+}
+
+TEST_F(SessionTest, TheTextsThatThePlannerDoesNotChangeComeBackWithTheirNuls) {
+    using namespace std::string_literals;
+    call.tipoplanner = "\0"s;
+    call.Windowcaption = "N\0B"s;
+    call.planrichiesto = "\0"s;
+    serve();
+    EXPECT_EQ(call.tipoplanner, "\0"s);
+    EXPECT_EQ(call.Windowcaption, "N\0B"s);
+    EXPECT_EQ(call.planrichiesto, "\0"s);
+}
+
+TEST_F(SessionTest, TheYearlyPlannerShowsGridAndTitleOfTheStartsYearWhateverTheIncomingDay) {
+    bench.putAnnuale(annoPlanner("2007"));
+    call.tipoplanner = "A";
+    call.startdate = "20070101";
+    call.enddate = "20071231";
+    call.Windowcaption = "N";
+    call.valret = "20080229RBS";
+    serve();
+    EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20070228");
+    EXPECT_EQ(bench.controlli.lbldescr, "Anno 2007");
+    EXPECT_EQ(bench.controlli.flxa.TextMatrix(1, 1), "1"); // 1 January 2007 is a Monday
 }
 
 TEST_F(SessionTest, ARefillDoesNotMoveTheShownDay) {

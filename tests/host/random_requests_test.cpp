@@ -121,6 +121,12 @@ TEST_F(RandomRequestsTest, RandomArchivesAreShownToo) {
     }
 }
 
+TEST_F(RandomRequestsTest, ARecordOfNulsIsSaidToHaveNoKindAndIsAnswered) {
+    serve(std::string(121, '\0'), 'E');
+    ASSERT_EQ(bench.messaggi.shown.size(), 1u);
+    EXPECT_EQ(bench.messaggi.shown[0].text, "Richiesta non valida: il tipo di planner \" \" non è M, G o A.");
+}
+
 TEST_F(RandomRequestsTest, ABlankRecordIsSaidToHaveNoKindAndIsAnswered) {
     serve(std::string(121, ' '), 'E');
     ASSERT_EQ(bench.messaggi.shown.size(), 1u);

@@ -48,6 +48,7 @@ std::string MemoryFileSystem::get(const std::string& path) const {
 void MemoryFileSystem::allow(const std::string& path) {
     m_refused.erase(key(path));
     m_readOnly.erase(key(path));
+    m_undeletable.erase(key(path));
 }
 
 bool MemoryFileSystem::fileExists(const std::string& path) const {
@@ -55,6 +56,10 @@ bool MemoryFileSystem::fileExists(const std::string& path) const {
 }
 
 bool MemoryFileSystem::deleteFile(const std::string& path) {
+    if (fileExists(path) && m_undeletable.contains(key(path))) {
+        m_journal.push_back("delete refused " + nameOf(key(path)));
+        return false;
+    }
     const bool deleted = m_files.erase(key(path)) == 1;
     m_journal.push_back((deleted ? "delete " : "delete missing ") + nameOf(key(path)));
     return deleted;

@@ -25,6 +25,8 @@ public:
     void refuse(const std::string& path) { m_refused.insert(key(path)); }
     /// From now on the file can be read, but not written.
     void refuseWriting(const std::string& path) { m_readOnly.insert(key(path)); }
+    /// From now on the file cannot be deleted.
+    void refuseDeleting(const std::string& path) { m_undeletable.insert(key(path)); }
     /// Lifts what was refused.
     void allow(const std::string& path);
 
@@ -44,6 +46,7 @@ private:
     std::map<std::string, std::string> m_files;
     std::set<std::string> m_refused;
     std::set<std::string> m_readOnly;
+    std::set<std::string> m_undeletable;
 };
 
 } // namespace planner::test

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QTest>
 #include <QTimer>
 
 namespace planner::test {
@@ -14,8 +15,9 @@ void whileModal(const std::function<void()>& open, const std::function<void(QDia
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* modal = QApplication::activeModalWidget();
         auto* dialog = modal != outer ? qobject_cast<QDialog*>(modal) : nullptr;
-        if (dialog != nullptr && dialog->isActiveWindow()) { // before, keys do not find their way in it
+        if (dialog != nullptr && dialog->isVisible()) {
             poll.stop();
+            QTest::qWaitForWindowActive(dialog, 500); // before, keys do not find their way in it
             user(*dialog);
         }
     });

@@ -4,7 +4,9 @@
 
 #include "ui/modal_dialog.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyleOptionViewItem>
@@ -96,6 +98,11 @@ void StaffBench::clickCheckBox(int row) {
 
 void StaffBench::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(&list(), key, modifiers);
+}
+
+void StaffBench::holdDown(QWidget& target, Qt::Key key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&target, &press);
 }
 
 void StaffBench::search(const std::function<void(QDialog&)>& user) {

@@ -43,6 +43,8 @@ struct StaffBench {
     QRect checkBox(int row);
     /// Sends a key to the list.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Sends a press of a key that has been held down for a while.
+    static void holdDown(QWidget& target, Qt::Key key);
     /// Opens the search with its shortcut and has `user` act on the question.
     void search(const std::function<void(QDialog&)>& user);
     /// Searches for the text.

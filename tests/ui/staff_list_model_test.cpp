@@ -95,11 +95,71 @@ TEST_F(StaffListModelTest, OtherRowsResetTheModel) {
     EXPECT_EQ(changes.size(), 0);
 }
 
-TEST_F(StaffListModelTest, ARowIsReadAloudAsOneSentenceWhateverTheColumn) {
+TEST_F(StaffListModelTest, TheFirstCellIsReadAloudAsASentenceAndTheOthersAsTheyAre) {
     lista.spunta(0, true);
-    for (int column = 0; column < 3; ++column) {
-        EXPECT_EQ(model.index(0, column).data(Qt::AccessibleTextRole).toString(),
-                  QStringLiteral("Rossi Bruno, RB, Avvocato, selezionato"));
+    EXPECT_EQ(model.index(0, 0).data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("Rossi Bruno, RB, Avvocato, spuntato"));
+    EXPECT_FALSE(model.index(0, 1).data(Qt::AccessibleTextRole).isValid()) << "its text is enough";
+    EXPECT_FALSE(model.index(0, 2).data(Qt::AccessibleTextRole).isValid());
+}
+
+TEST_F(StaffListModelTest, TheTitleOfTheNamesIsReadAloudWithTheirOrder) {
+    const auto spoken = [&](int column) {
+        return model.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(spoken(1), QStringLiteral("Collaboratore"));
+    lista.riordina({1, 0}, Ordinamento::crescente);
+    EXPECT_EQ(spoken(1), QStringLiteral("Collaboratore, in ordine dalla A alla Z"));
+    lista.riordina({1, 0}, Ordinamento::decrescente);
+    EXPECT_EQ(spoken(1), QStringLiteral("Collaboratore, in ordine dalla Z alla A"));
+    EXPECT_EQ(spoken(0), QStringLiteral("Codice"));
+    EXPECT_EQ(spoken(2), QStringLiteral("Mansione"));
+}
+
+namespace {
+
+/// Asks a model everything that can be asked about an index and about the headers.
+void askEverything(const StaffListModel& model, const QModelIndex& index) {
+    for (int role = -1; role <= Qt::UserRole + 1; ++role) {
+        EXPECT_NO_THROW(model.data(index, role)) << role;
+        for (const int section : {-1, 0, 1, 2, 3, 1000000}) {
+            EXPECT_NO_THROW(model.headerData(section, Qt::Horizontal, role)) << section;
+            EXPECT_NO_THROW(model.headerData(section, Qt::Vertical, role)) << section;
+        }
+    }
+    EXPECT_NO_THROW(model.flags(index));
+    EXPECT_NO_THROW(static_cast<const QAbstractItemModel&>(model).parent(index));
+    EXPECT_NO_THROW(model.rowCount(index));
+    EXPECT_NO_THROW(model.columnCount(index));
+}
+
+} // namespace
+
+TEST(StaffListModelAnswersTest, AnyQuestionAtAnyTime) {
+    ListaCollaboratori lista;
+    for (int i = 0; i < 3; ++i) {
+        lista.aggiungi("RB", "Rossi Bruno", "Avvocato");
+    }
+    StaffListModel model;
+    StaffListModel other;
+    askEverything(model, {});
+    model.setLista(lista);
+    other.setLista(lista);
+    model.rowsChanged();
+    other.rowsChanged();
+    const std::vector<QModelIndex> indexes{{},
+                                           model.index(0, 0),
+                                           model.index(2, 2),
+                                           model.index(3, 0),
+                                           model.index(0, 3),
+                                           model.index(-1, -1),
+                                           other.index(1, 1)};
+    for (const bool shrunk : {false, true}) {
+        for (const QModelIndex& index : indexes) {
+            askEverything(model, index);
+        }
+        lista.svuota(); // the view has not been told yet
+        EXPECT_FALSE(shrunk && model.index(0, 0).data().isValid());
     }
 }
 

@@ -137,10 +137,10 @@ TEST_F(StaffSearchWindowTest, CheckingLeavesTheListWhereItWasScrolled) {
     const int first = firstRow();
     bench.press(ComandoCollab::selezionaTutti);
     EXPECT_EQ(firstRow(), first);
-    EXPECT_EQ(bench.count(), QStringLiteral("5000 selezionati su 5000"));
+    EXPECT_EQ(bench.count(), QStringLiteral("5000 spuntati su 5000"));
     bench.clickCheckBox(first + 2);
     EXPECT_EQ(firstRow(), first);
-    EXPECT_EQ(bench.count(), QStringLiteral("4999 selezionati su 5000"));
+    EXPECT_EQ(bench.count(), QStringLiteral("4999 spuntati su 5000"));
 }
 
 TEST_F(StaffSearchWindowTest, ARefilledListStartsAtItsTop) {

@@ -4,8 +4,10 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -21,6 +23,14 @@ struct StaffWindowTest : testing::Test {
 
     static QString nameOf(QWidget& widget) {
         return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+    }
+    QAccessibleTableInterface& table() {
+        return *QAccessible::queryAccessibleInterface(&bench.list())->tableInterface();
+    }
+    QString spoken(int row, int column) { return table().cellAt(row, column)->text(QAccessible::Name); }
+    QString spokenTitle(int column) {
+        QAccessibleTableCellInterface* cell = table().cellAt(0, column)->tableCellInterface();
+        return cell->columnHeaderCells().first()->text(QAccessible::Name);
     }
 };
 
@@ -42,7 +52,7 @@ TEST_F(StaffWindowTest, ItListsTheStaffWithNoneSelectedAndNoneChecked) {
     EXPECT_EQ(bench.names(), (QStringList{QStringLiteral("Bianchi Rosa"), QStringLiteral("Rossi Bruno"),
                                           QStringLiteral("Verdi Ugo")}));
     EXPECT_EQ(bench.lista().selezionata(), std::nullopt);
-    EXPECT_EQ(bench.count(), QStringLiteral("0 selezionati su 3"));
+    EXPECT_EQ(bench.count(), QStringLiteral("0 spuntati su 3"));
 }
 
 TEST_F(StaffWindowTest, AClickSelectsTheRowAndChecksNothing) {
@@ -56,7 +66,7 @@ TEST_F(StaffWindowTest, AClickOnTheCheckBoxTogglesIt) {
     bench.open();
     bench.clickCheckBox(1);
     EXPECT_TRUE(bench.lista().riga(1).spuntata);
-    EXPECT_EQ(bench.count(), QStringLiteral("1 selezionato su 3"));
+    EXPECT_EQ(bench.count(), QStringLiteral("1 spuntato su 3"));
     bench.clickCheckBox(1);
     EXPECT_FALSE(bench.lista().riga(1).spuntata);
 }
@@ -107,7 +117,7 @@ TEST_F(StaffWindowTest, EnterConfirmsTheSelectedRow) {
 TEST_F(StaffWindowTest, EnterWithoutASelectedRowAsksForOne) {
     bench.open();
     bench.key(Qt::Key_Enter);
-    EXPECT_EQ(bench.lastMessage(), "Selezionare un collaboratore prima di confermare.");
+    EXPECT_EQ(bench.lastMessage(), std::string(TestoScegliere));
     EXPECT_EQ(bench.reply(), "");
     EXPECT_TRUE(bench.window().isVisible());
 }
@@ -119,6 +129,70 @@ TEST_F(StaffWindowTest, EnterOnAButtonPressesThatButton) {
     QTest::keyClick(&bench.button(ComandoCollab::selezionaTutti), Qt::Key_Return);
     EXPECT_EQ(bench.lista().spuntate(), 3);
     EXPECT_EQ(bench.reply(), "");
+}
+
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownNeitherClosesNorConfirms) {
+    bench.open();
+    bench.click(1, 1);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+        for (QWidget* target : std::initializer_list<QWidget*>{
+                 &bench.window(), &bench.list(), &bench.button(ComandoCollab::selezionaTutti)}) {
+            bench.holdDown(*target, key);
+        }
+    }
+    EXPECT_TRUE(bench.window().isVisible());
+    EXPECT_EQ(bench.reply(), "");
+    EXPECT_EQ(bench.lista().spuntate(), 0);
+    EXPECT_EQ(bench.lastMessage(), "");
+    bench.key(Qt::Key_Escape);
+    EXPECT_FALSE(bench.window().isVisible());
+}
+
+TEST_F(StaffWindowTest, AHeldArrowMovesOn) {
+    bench.open();
+    bench.key(Qt::Key_Down);
+    bench.holdDown(bench.list(), Qt::Key_Down);
+    EXPECT_EQ(bench.lista().selezionata(), 1);
+}
+
+TEST_F(StaffWindowTest, AKeyThatIsHeldDownDoesNotAnswerTheSearchsQuestion) {
+    bench.open();
+    bench.search([&](QDialog& dialog) {
+        auto* field = dialog.findChild<QLineEdit*>();
+        field->setText(QStringLiteral("Verdi"));
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
+            bench.holdDown(*field, key);
+            EXPECT_TRUE(dialog.isVisible()) << key;
+        }
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    EXPECT_EQ(bench.lista().selezionata(), 2);
+}
+
+TEST_F(StaffWindowTest, TheHeaderShowsTheDirectionOfTheSort) {
+    bench.open();
+    const QHeaderView& header = *bench.list().header();
+    EXPECT_FALSE(header.isSortIndicatorShown());
+    bench.press(ComandoCollab::ordina);
+    EXPECT_TRUE(header.isSortIndicatorShown());
+    EXPECT_EQ(header.sortIndicatorSection(), 1);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::AscendingOrder);
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore, in ordine dalla A alla Z"));
+    bench.press(ComandoCollab::ordina);
+    EXPECT_EQ(header.sortIndicatorOrder(), Qt::DescendingOrder);
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore, in ordine dalla Z alla A"));
+    bench.planner.widget<QAction>("coll").trigger(); // fills the list anew
+    EXPECT_FALSE(header.isSortIndicatorShown());
+    EXPECT_EQ(spokenTitle(1), QStringLiteral("Collaboratore"));
+}
+
+TEST_F(StaffWindowTest, AScreenReaderHearsTheSentenceOfARowOnce) {
+    bench.open();
+    EXPECT_EQ(spoken(0, 0), QStringLiteral("Bianchi Rosa, BI, Avvocato, non spuntato"));
+    EXPECT_EQ(spoken(0, 1), QStringLiteral("Bianchi Rosa"));
+    EXPECT_EQ(spoken(0, 2), QStringLiteral("Avvocato"));
+    bench.clickCheckBox(0);
+    EXPECT_EQ(spoken(0, 0), QStringLiteral("Bianchi Rosa, BI, Avvocato, spuntato"));
 }
 
 TEST_F(StaffWindowTest, EscapeAndTheCloseBoxCloseWithoutAnAnswer) {
@@ -137,14 +211,14 @@ TEST_F(StaffWindowTest, EscapeAndTheCloseBoxCloseWithoutAnAnswer) {
 TEST_F(StaffWindowTest, TheButtonsDoWhatTheySay) {
     bench.open();
     bench.press(ComandoCollab::selezionaTutti);
-    EXPECT_EQ(bench.count(), QStringLiteral("3 selezionati su 3"));
+    EXPECT_EQ(bench.count(), QStringLiteral("3 spuntati su 3"));
     bench.press(ComandoCollab::deselezionaTutti);
-    EXPECT_EQ(bench.count(), QStringLiteral("0 selezionati su 3"));
+    EXPECT_EQ(bench.count(), QStringLiteral("0 spuntati su 3"));
     bench.clickCheckBox(2);
     bench.press(ComandoCollab::soloSelezionati);
     EXPECT_EQ(bench.names(), QStringList{QStringLiteral("Verdi Ugo")});
     bench.press(ComandoCollab::visualizzaTutti);
-    EXPECT_EQ(bench.count(), QStringLiteral("1 selezionato su 1"));
+    EXPECT_EQ(bench.count(), QStringLiteral("1 spuntato su 1, 2 tolti dall'elenco"));
 }
 
 TEST_F(StaffWindowTest, ShortcutsCheckAndClearAll) {

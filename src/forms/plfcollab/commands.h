@@ -39,6 +39,11 @@ inline constexpr std::array ComandiCollab{
     DescrizioneComandoCollab{ComandoCollab::conferma, "Conferma selezioni", "conferma", "Return"},
 };
 
+/// What the user reads who confirms without a highlighted row. A row with a tick is "spuntata", the
+/// highlighted one is "scelta", in every text of this window but the captions.
+inline constexpr std::string_view TestoScegliere =
+    "Scegliere un collaboratore prima di confermare: fare clic sulla sua riga (la spunta non basta).";
+
 /// The buttons of the control array `ButtonFrecce`, by their index.
 enum class Freccia : int { rigaSu, rigaGiu, paginaSu, paginaGiu, inizio, fine };
 

@@ -147,7 +147,7 @@ void plfcollab::ordina() {
 void plfcollab::conferma() {
     const auto selezionata = m_lista.selezionata();
     if (!selezionata) {
-        m_porte.messaggi.information("Selezionare un collaboratore prima di confermare.");
+        m_porte.messaggi.information(std::string(TestoScegliere));
         return;
     }
     m_sessione.collab = m_lista.riga(*selezionata).codice;
@@ -191,9 +191,14 @@ void plfcollab::List_Prenotazione_ItemCheck(int riga, bool spuntata) {
 }
 
 std::string plfcollab::conteggio() const {
-    const int spuntate = m_lista.spuntate();
-    return std::to_string(spuntate) + (spuntate == 1 ? " selezionato su " : " selezionati su ") +
-           std::to_string(m_lista.righe());
+    const auto count = [](int number, std::string_view one, std::string_view several) {
+        return std::to_string(number) + std::string(number == 1 ? one : several);
+    };
+    const std::string ticks = count(m_lista.spuntate(), " spuntato su ", " spuntati su ") + //
+                              std::to_string(m_lista.righe());
+    return m_lista.tolte() == 0
+               ? ticks
+               : ticks + ", " + count(m_lista.tolte(), " tolto dall'elenco", " tolti dall'elenco");
 }
 
 std::string fraseCollaboratore(const RigaCollaboratore& riga) {
@@ -204,7 +209,7 @@ std::string fraseCollaboratore(const RigaCollaboratore& riga) {
             frase += utf8FromCp1252(part) + ", ";
         }
     }
-    return frase + (riga.spuntata ? "selezionato" : "non selezionato");
+    return frase + (riga.spuntata ? "spuntato" : "non spuntato");
 }
 
 } // namespace planner

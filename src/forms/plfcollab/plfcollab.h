@@ -49,7 +49,8 @@ public:
     /// Searches the last text again; asks for one when there is none.
     void cercaAncora();
 
-    /// How many rows are checked, UTF-8: "3 selezionati su 12".
+    /// How many rows have a tick, and how many were taken out, UTF-8: "3 spuntati su 12, 4 tolti
+    /// dall'elenco".
     std::string conteggio() const;
 
 private:
@@ -75,7 +76,7 @@ private:
     bool m_shown = false;
 };
 
-/// One sentence on a staff member for a screen reader, UTF-8: "Rossi Bruno, RB, Avvocato, selezionato".
+/// One sentence on a staff member for a screen reader, UTF-8: "Rossi Bruno, RB, Avvocato, spuntato".
 std::string fraseCollaboratore(const RigaCollaboratore& riga);
 
 } // namespace planner

@@ -15,6 +15,12 @@ const std::string& textOf(const RigaCollaboratore& riga, int column) {
                                             : riga.mansione;
 }
 
+QString title(int column) {
+    return column == StaffListModel::Codice ? QStringLiteral("Codice")
+           : column == StaffListModel::Nome ? QStringLiteral("Collaboratore")
+                                            : QStringLiteral("Mansione");
+}
+
 /// A line break in a field must not make its row higher than the others.
 QString onOneLine(QString text) {
     for (QChar& character : text) {
@@ -31,6 +37,7 @@ void StaffListModel::rowsChanged() {
     beginResetModel();
     m_rows = m_lista == nullptr ? 0 : m_lista->righe();
     endResetModel();
+    Q_EMIT headerDataChanged(Qt::Horizontal, Nome, Nome); // the new order of the rows
 }
 
 void StaffListModel::checksChanged() {
@@ -62,7 +69,9 @@ QVariant StaffListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) {
         return onOneLine(fromCp1252(textOf(*riga, index.column())));
     }
-    if (role == Qt::AccessibleTextRole) {
+    // A screen reader reads a row cell by cell: the sentence stands in the first one, the others say their
+    // text.
+    if (role == Qt::AccessibleTextRole && index.column() == Codice) {
         return onOneLine(fromUtf8(fraseCollaboratore(*riga)));
     }
     if (role == Qt::CheckStateRole && index.column() == Codice) {
@@ -80,19 +89,26 @@ bool StaffListModel::setData(const QModelIndex& index, const QVariant& value, in
 }
 
 QVariant StaffListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-        return {};
+    const bool known = orientation == Qt::Horizontal && section >= 0 && section < Colonne;
+    if (known && role == Qt::DisplayRole) {
+        return title(section);
     }
-    switch (section) {
-    case Codice:
-        return QStringLiteral("Codice");
-    case Nome:
-        return QStringLiteral("Collaboratore");
-    case Mansione:
-        return QStringLiteral("Mansione");
-    default:
-        return {};
+    if (known && role == Qt::AccessibleTextRole) {
+        return section == Nome ? title(section) + spokenOrder() : title(section);
     }
+    return {};
+}
+
+QString StaffListModel::spokenOrder() const {
+    switch (m_lista == nullptr ? Ordinamento::nessuno : m_lista->ordinamento()) {
+    case Ordinamento::crescente:
+        return QStringLiteral(", in ordine dalla A alla Z");
+    case Ordinamento::decrescente:
+        return QStringLiteral(", in ordine dalla Z alla A");
+    case Ordinamento::nessuno:
+        break;
+    }
+    return {};
 }
 
 Qt::ItemFlags StaffListModel::flags(const QModelIndex& index) const {

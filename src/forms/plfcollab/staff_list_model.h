@@ -36,6 +36,7 @@ Q_SIGNALS:
 
 private:
     const RigaCollaboratore* row(const QModelIndex& index) const;
+    QString spokenOrder() const;
 
     const ListaCollaboratori* m_lista = nullptr;
     int m_rows = 0; // what the view knows

@@ -74,6 +74,7 @@ void StaffListView::setLista(const ListaCollaboratori& lista) {
 
 void StaffListView::showRows() {
     m_model->rowsChanged();
+    showOrder();
     fitColumns();
     scrollToRow(0);
     showMarks();
@@ -93,6 +94,14 @@ void StaffListView::showMarks() {
         clearSelection();
     }
     setAutoScroll(true);
+}
+
+void StaffListView::showOrder() {
+    const Ordinamento ordinamento = m_lista->ordinamento();
+    header()->setSortIndicatorShown(ordinamento != Ordinamento::nessuno);
+    header()->setSortIndicator(ordinamento == Ordinamento::nessuno ? -1 : StaffListModel::Nome,
+                               ordinamento == Ordinamento::decrescente ? Qt::DescendingOrder
+                                                                       : Qt::AscendingOrder);
 }
 
 void StaffListView::fitColumns() {

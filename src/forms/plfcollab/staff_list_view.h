@@ -44,6 +44,7 @@ protected:
 
 private:
     void setUpBehaviour();
+    void showOrder();
     void fitColumns();
     void toggleCheck();
     std::optional<int> selectedRow() const;

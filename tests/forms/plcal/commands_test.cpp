@@ -196,7 +196,7 @@ TEST_F(CommandsTest, CollShowsTheWholeStaffAndMakesNoReply) {
     open("M");
     press("coll");
     EXPECT_TRUE(collaboratori.isShown());
-    EXPECT_EQ(collaboratori.conteggio(), "0 selezionati su 3");
+    EXPECT_EQ(collaboratori.conteggio(), "0 spuntati su 3");
     EXPECT_EQ(collaboratori.List_Prenotazione().riga(1).nome, "Rossi Bruno");
     EXPECT_THAT(bench.journal, testing::ElementsAre("staff rows", "show staff"));
     EXPECT_THAT(reply(), IsEmpty());

@@ -125,6 +125,32 @@ TEST_F(HostSessionTest, EachKindInTurn) {
     EXPECT_THAT(bench.messaggi.shown, IsEmpty());
 }
 
+TEST_F(HostSessionTest, AHostThatKeepsItsRecordGoesOnYearAfterYear) {
+    const auto yearly = [this](const std::string& year) {
+        auto request = recordOf<TransitRequest>(bench.files.get(Transito)); // with the last answer in it
+        request.tipoplanner.assign("A");
+        request.startdate.assign(year + "0101");
+        request.enddate.assign(year + "1231");
+        bench.files.put(Transito, bytesOf(request));
+    };
+    const auto asks = [&](const std::string& answered, const std::string& year) {
+        return [this, yearly, answered, year] {
+            EXPECT_EQ(answer(), answered);
+            yearly(year);
+        };
+    };
+    const auto button = [this](int indice) { return [this, indice] { form.bselA_Click(indice); }; };
+    auto first = richiesta();
+    first.valret.assign("20060605");
+    bench.files.put(Transito, bytesOf(first));
+    yearly("2006");
+    bench.eventi.actions = {button(2), button(2), button(1), escape()};
+    ipc.hostActions = {asks("20060605  S", "2007"), asks("20070605  S", "2008"), asks("20080605  P", "2007")};
+    EXPECT_TRUE(link.eventLoop());
+    EXPECT_EQ(answer(), "20070605  E");
+    EXPECT_EQ(controlli.lbldescr, "Anno 2007 Impegni di: ");
+}
+
 TEST_F(HostSessionTest, AnUnknownKindIsSaidAndTheWindowClosesAsEver) {
     bench.files.put(Transito, bytesOf(richiesta("?")));
     bench.eventi.actions = {escape()};

@@ -50,8 +50,8 @@ TEST_F(StaffAnswerTest, ConfirmingClosesTheWindow) {
 TEST_F(StaffAnswerTest, ConfirmingWithoutASelectedRowAsksForOneAndAnswersNothing) {
     check({0, 1});
     press(ComandoCollab::conferma);
-    EXPECT_THAT(messages(), ElementsAre(Message{MessageIcon::Information, "Planner",
-                                                "Selezionare un collaboratore prima di confermare."}));
+    EXPECT_THAT(messages(),
+                ElementsAre(Message{MessageIcon::Information, "Planner", std::string(TestoScegliere)}));
     EXPECT_EQ(sessione.valret, "");
     EXPECT_EQ(sessione.collab, "  ");
     EXPECT_FALSE(sessione.FinePlanner);
@@ -99,9 +99,9 @@ TEST_F(StaffAnswerTest, ShowingShowsTheRowsFirst) {
 
 TEST_F(StaffAnswerTest, ARowIsOneSentence) {
     EXPECT_EQ(fraseCollaboratore({"RB", "Rossi Bruno", "Avvocato", true}),
-              "Rossi Bruno, RB, Avvocato, selezionato");
-    EXPECT_EQ(fraseCollaboratore({"7 ", "Nicol\xF2", "", false}), "Nicolò, 7, non selezionato");
-    EXPECT_EQ(fraseCollaboratore({"  ", "", "", false}), "non selezionato");
+              "Rossi Bruno, RB, Avvocato, spuntato");
+    EXPECT_EQ(fraseCollaboratore({"7 ", "Nicol\xF2", "", false}), "Nicolò, 7, non spuntato");
+    EXPECT_EQ(fraseCollaboratore({"  ", "", "", false}), "non spuntato");
 }
 
 } // namespace

@@ -74,7 +74,7 @@ TEST_F(StaffCommandsTest, SoloISelezionatiDeletesTheUncheckedRows) {
 TEST_F(StaffCommandsTest, SoloISelezionatiWithoutAnyCheckEmptiesTheList) {
     press(ComandoCollab::soloSelezionati);
     EXPECT_EQ(lista.righe(), 0);
-    EXPECT_EQ(form.conteggio(), "0 selezionati su 0");
+    EXPECT_EQ(form.conteggio(), "0 spuntati su 0, 4 tolti dall'elenco");
 }
 
 TEST_F(StaffCommandsTest, SoloISelezionatiKeepsTheSelectedRowWhenItIsChecked) {
@@ -181,11 +181,27 @@ TEST_F(StaffCommandsTest, ACheckOutsideTheListDoesNothing) {
 }
 
 TEST_F(StaffCommandsTest, TheCountSaysHowManyAreChecked) {
-    EXPECT_EQ(form.conteggio(), "0 selezionati su 4");
+    EXPECT_EQ(form.conteggio(), "0 spuntati su 4");
     check({2});
-    EXPECT_EQ(form.conteggio(), "1 selezionato su 4");
+    EXPECT_EQ(form.conteggio(), "1 spuntato su 4");
     check({0, 1});
-    EXPECT_EQ(form.conteggio(), "3 selezionati su 4");
+    EXPECT_EQ(form.conteggio(), "3 spuntati su 4");
+}
+
+TEST_F(StaffCommandsTest, TheCountSaysHowManyRowsWereTakenOutUntilANewFilling) {
+    press(ComandoCollab::selezionaTutti);
+    press(ComandoCollab::soloSelezionati);
+    EXPECT_EQ(form.conteggio(), "4 spuntati su 4");
+    form.List_Prenotazione_ItemCheck(0, false);
+    press(ComandoCollab::soloSelezionati);
+    EXPECT_EQ(form.conteggio(), "3 spuntati su 3, 1 tolto dall'elenco");
+    form.List_Prenotazione_ItemCheck(0, false);
+    form.List_Prenotazione_ItemCheck(1, false);
+    press(ComandoCollab::soloSelezionati);
+    press(ComandoCollab::ordina);
+    EXPECT_EQ(form.conteggio(), "1 spuntato su 1, 3 tolti dall'elenco");
+    lista.svuota();
+    EXPECT_EQ(form.conteggio(), "0 spuntati su 0");
 }
 
 } // namespace
