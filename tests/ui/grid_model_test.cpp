@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace planner {
 
@@ -90,6 +91,20 @@ TEST_F(GridModelTest, HeadersAreAnnouncedApartFromData) {
     griglia.setText(0, 2, "day");
     EXPECT_EQ(headers.size(), 2);
     EXPECT_EQ(changes.size(), 1);
+}
+
+TEST_F(GridModelTest, NoTwoCellsShareAPlaceInTheToolkitsTables) {
+    for (const int columns : {38, 97, 4}) {
+        Griglia large(40, columns, 1, Colore::bianco);
+        const GridModel wide(large, [](int, int) { return std::string(); });
+        std::set<std::size_t> places;
+        for (int row = 0; row < wide.rowCount(); ++row) {
+            for (int column = 0; column < wide.columnCount(); ++column) {
+                places.insert(qHash(wide.index(row, column)));
+            }
+        }
+        EXPECT_EQ(places.size(), static_cast<std::size_t>(wide.rowCount()) * wide.columnCount()) << columns;
+    }
 }
 
 } // namespace planner

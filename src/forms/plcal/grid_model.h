@@ -23,6 +23,7 @@ public:
     GridModel(Griglia& griglia, Frase frase, QObject* parent = nullptr);
     ~GridModel() override;
 
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
