@@ -3,9 +3,12 @@
 #include "forms/plcal/grid_header.h"
 
 #include "forms/plcal/grid_model.h"
+#include "platform/qt/text.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <numeric>
 
@@ -42,6 +45,26 @@ void GridHeader::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && section >= 0) {
         Q_EMIT pressed(section);
     }
+}
+
+bool GridHeader::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QHeaderView::viewportEvent(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), viewport());
+    return true;
+}
+
+QString GridHeader::toolTipAt(const QPoint& position) const {
+    const int section = logicalIndexAt(position);
+    if (orientation() == Qt::Horizontal || section < 0) {
+        return {};
+    }
+    const QRect place(0, sectionViewportPosition(section), width(), sectionSize(section));
+    const int row = m_model.gridRow(section);
+    return m_painter.cut(place, m_model.griglia(), row, 0) ? fromCp1252(m_model.griglia().TextMatrix(row, 0))
+                                                           : QString();
 }
 
 void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {

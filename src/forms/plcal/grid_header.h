@@ -28,9 +28,12 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:
+    QString toolTipAt(const QPoint& position) const;
+
     const GridModel& m_model;
     CellPainter& m_painter;
     std::vector<int> m_sizes;
