@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/planner_windows.h"
 
+#include "forms/screen_scale.h"
+
+#include <QScreen>
+
 namespace planner {
 
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi,
@@ -10,6 +14,7 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Messa
       collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
       finestra(sessione, controlli, {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici},
                std::move(fabbrica)) {
+    fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);
 }
