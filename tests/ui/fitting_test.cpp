@@ -102,4 +102,15 @@ TEST_F(FittingTest, ANameThatItsColumnCutsOffIsTheHeadersToolTip) {
     }
 }
 
+TEST_F(FittingTest, ATitleTooLongIsCutAndItsToolTipIsWhole) {
+    WindowBench bench;
+    const std::string name(30, 'W');
+    bench.base.putCollaboratori({collaboratore("RB", name)});
+    bench.open("A");
+    auto& title = bench.widget<FittedLabel>("lbldescr");
+    EXPECT_TRUE(title.fitted().cut);
+    EXPECT_EQ(toolTipAt(title, {5, 5}), plainToolTip(title.text()));
+    EXPECT_TRUE(title.text().endsWith(QString::fromStdString(name)));
+}
+
 } // namespace planner::test

@@ -9,12 +9,11 @@
 
 #include <QWidget>
 
-class QLabel;
-
 namespace planner {
 
 class CommandBar;
 class DetailPanel;
+class FittedLabel;
 class GridView;
 class ShownCalendar;
 
@@ -55,6 +54,7 @@ private:
     void updateCalendar();
     void updateGrid();
     void place(QWidget& widget, const Rettangolo& twips) const;
+    void setSmallestSize();
     void fillRemainingSpace();
     GridView* visibleGrid() const;
 
@@ -66,9 +66,9 @@ private:
 
     CommandBar* m_Toolbar1;
     ShownCalendar* m_calendario;
-    QLabel* m_lbldescr;
-    QLabel* m_lblcollab;
-    QLabel* m_stato;
+    FittedLabel* m_lbldescr;
+    FittedLabel* m_lblcollab;
+    FittedLabel* m_stato;
     DetailPanel* m_panel;
     GridView* m_Flxm;
     GridView* m_flxg;
