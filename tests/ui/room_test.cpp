@@ -90,6 +90,12 @@ TEST_P(RoomTest, TheWindowIsWholeOnTheScreen) {
     }
 }
 
+TEST_P(RoomTest, ARestoredWindowKeepsItsTitleOnTheScreen) {
+    bench.vista.showNormal();
+    const QRect screen = bench.vista.screen()->availableGeometry();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(bench.vista.frameGeometry().topLeft()); }));
+}
+
 TEST_P(RoomTest, NothingStandsOverAnythingElse) {
     EXPECT_EQ(overlaps(parts()), "");
 }

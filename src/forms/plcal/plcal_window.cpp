@@ -139,7 +139,9 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
         }
     }
     setSmallestSize();
-    setGeometry(screen()->availableGeometry());
+    const QRect available = screen()->availableGeometry();
+    resize(available.size());
+    move(available.topLeft()); // of the frame: the title stays on the screen
     fillRemainingSpace();
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
         grid->setScala(scala);
