@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/planner_windows.h"
 
+#include "forms/screen_scale.h"
+
+#include <QScreen>
+
 namespace planner {
 
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi,
@@ -11,6 +15,7 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Messa
       finestra(sessione, controlli,
                {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici, orologio},
                std::move(fabbrica)) {
+    fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);
 }

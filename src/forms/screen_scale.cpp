@@ -2,17 +2,36 @@
 // SPDX-License-Identifier: MIT
 #include "forms/screen_scale.h"
 
+#include "platform/qt/appearance.h"
+
+#include <QApplication>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace planner {
+
+namespace {
+
+constexpr double SmallestFontFactor = 5.0 / 6; // ordinary letters of 7.5 points
+
+} // namespace
 
 Dimensioni roomOn(const QScreen& screen) {
     const QSize twips = screen.availableSize() * TwipsPerPixel;
     return {twips.width(), twips.height()};
 }
 
+double fontFactorFor(const Scala& scala) {
+    return std::max(static_cast<double>(scala.ScalaMin()), SmallestFontFactor);
+}
+
 double fontFactorFor(const QScreen& screen) {
-    return static_cast<double>(scalaPer(roomOn(screen), ProgettoSchermo).ScalaMin());
+    return fontFactorFor(scalaPer(roomOn(screen), ProgettoSchermo));
+}
+
+void fitFontsTo(const QScreen& screen) {
+    QApplication::setFont(qtFont(Carattere::normale, fontFactorFor(screen)));
 }
 
 } // namespace planner

@@ -11,7 +11,13 @@ namespace planner {
 /// The room that a screen gives to windows, in twips of a 96 dpi screen.
 Dimensioni roomOn(const QScreen& screen);
 
-/// How much larger than designed letters are on the screen.
+/// How much larger than designed letters are where positions are scaled by `scala`; they shrink only as far
+/// as they stay legible.
+double fontFactorFor(const Scala& scala);
 double fontFactorFor(const QScreen& screen);
+
+/// Makes what the toolkit shows by itself (menus, tool tips, dialogs) write as large as the windows on the
+/// screen.
+void fitFontsTo(const QScreen& screen);
 
 } // namespace planner

@@ -3,12 +3,34 @@
 #include "platform/qt/appearance.h"
 #include "platform/qt/guarded_application.h"
 
+#include <QTemporaryFile>
+
 #include <gmock/gmock.h>
+
+namespace {
+
+constexpr const char* ScreenVariable = "PLANNER_TEST_SCREEN"; // the screen's size, "WIDTHxHEIGHT"
+
+/// The description of the toolkit's offscreen platform: one screen of the size asked for.
+QByteArray screenDescription() {
+    const QByteArray wanted = qEnvironmentVariable(ScreenVariable, QStringLiteral("1366x768")).toLatin1();
+    const QList<QByteArray> size = wanted.split('x');
+    return R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": )" + size.value(0) +
+           R"(, "height": )" + size.value(1) + R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+}
+
+bool offscreen() {
+    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen"));
+    return platform == QLatin1String("offscreen");
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile screen;
+    if (offscreen() && screen.open() && screen.write(screenDescription()) > 0 && screen.flush()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toLocal8Bit());
     }
     planner::GuardedApplication application(argc, argv);
     planner::setUpAppearance(application);

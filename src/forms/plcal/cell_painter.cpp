@@ -40,6 +40,10 @@ QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
     return {bars.left(), bars.top() + top, bars.width(), std::max(bottom - top - gap, 1)};
 }
 
+bool centred(const Cella& cella) {
+    return cella.allineamento == Allineamento::centro;
+}
+
 } // namespace
 
 CellPainter::CellPainter(double fontFactor) {
@@ -48,11 +52,12 @@ CellPainter::CellPainter(double fontFactor) {
 
 void CellPainter::setFontFactor(double fontFactor) {
     for (std::size_t i = 0; i < m_fonts.size(); ++i) {
-        m_fonts[i] = qtFont(static_cast<Carattere>(i), fontFactor);
+        m_fonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor));
     }
 }
 
-void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+                        int keptFree) {
     const Cella& cella = griglia.cella(row, col);
     painter.fillRect(rect, qtColor(cella.impegno && cella.sfondo == Colore::azzurro
                                        ? Colore::gialloChiaro // the span is a bar on the plain row
@@ -67,7 +72,7 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
-        paintText(painter, rect, griglia, row, col);
+        paintText(painter, textPlace(rect, cella, keptFree), griglia, row, col);
     }
     if (cella.oggi) {
         paintToday(painter, rect);
@@ -75,27 +80,44 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
 }
 
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
-    const int side = besideText ? std::min(pictureSide(rect), 32) : pictureSide(rect);
+    const int side = besideText ? sideBesideText(rect) : pictureSide(rect);
     const QPixmap& pixmap = m_pictures.picture(picture, side, painter.device()->devicePixelRatioF());
     const int left =
         besideText ? rect.right() - side - TextMargin : rect.left() + (rect.width() - 1 - side) / 2;
     painter.drawPixmap(QPoint(left, rect.top() + (rect.height() - 1 - side) / 2), pixmap);
 }
 
-void CellPainter::paintText(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+int CellPainter::sideBesideText(const QRect& rect) const {
+    constexpr int lines = 2;
+    const QFont& font = m_fonts.at(static_cast<std::size_t>(Carattere::normale)).font();
+    return std::min(pictureSide(rect), lines * QFontMetrics(font).height());
+}
+
+QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree) const {
+    const int pictureWidth = cella.immagine != 0 ? sideBesideText(rect) + TextMargin : 0;
+    const int left = std::max(keptFree, centred(cella) ? 0 : TextMargin);
+    return rect.adjusted(left, 0, -1 - std::max(keptFree, pictureWidth), -1);
+}
+
+FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
+    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(griglia.cella(row, col).carattere));
+    return font.fit(fromCp1252(griglia.TextMatrix(row, col)), place.width());
+}
+
+bool CellPainter::cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree) const {
+    const QRect place = textPlace(rect, griglia.cella(row, col), keptFree);
+    return fittedText(place, griglia, row, col).cut;
+}
+
+void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col) {
     const Cella& cella = griglia.cella(row, col);
-    const bool centred = cella.allineamento == Allineamento::centro;
-    const int pictureWidth = cella.immagine != 0 ? std::min(pictureSide(rect), 32) + TextMargin : 0;
-    const QRect inner = rect.adjusted(centred ? 0 : TextMargin, 0, -1 - pictureWidth, -1);
-    painter.setFont(m_fonts.at(static_cast<std::size_t>(cella.carattere)));
+    const FittedText fitted = fittedText(place, griglia, row, col);
+    painter.setFont(fitted.font);
     painter.setPen(qtColor(cella.colore));
-    const QString text = fromCp1252(griglia.TextMatrix(row, col));
-    const QString shown =
-        col == 0 ? painter.fontMetrics().elidedText(text, Qt::ElideRight, inner.width()) : text;
-    painter.drawText(inner,
+    painter.drawText(place,
                      static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
-                                      (centred ? Qt::AlignHCenter : Qt::AlignLeft)),
-                     shown);
+                                      (centred(cella) ? Qt::AlignHCenter : Qt::AlignLeft)),
+                     fitted.shown);
 }
 
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,

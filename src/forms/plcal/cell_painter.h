@@ -4,9 +4,8 @@
 
 #include "grids/griglia.h"
 #include "platform/qt/appearance.h"
+#include "platform/qt/fitting_font.h"
 #include "platform/qt/pictures.h"
-
-#include <QFont>
 
 #include <array>
 
@@ -19,21 +18,29 @@ namespace planner {
 /// that every cell looks the same wherever it stands.
 class CellPainter {
 public:
-    /// Fonts grow with the screen; below the design-time size they stay readable.
+    /// Fonts follow the screen, as far as they stay legible.
     explicit CellPainter(double fontFactor);
 
     void setFontFactor(double fontFactor);
 
-    void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
+    void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+               int keptFree = 0);
+    /// True when the cell's text is not shown whole in the place.
+    bool cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree = 0) const;
 
 private:
+    int sideBesideText(const QRect& rect) const;
+    /// Where a cell's text stands: beside its picture, and between what stands at either side.
+    QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
+    FittedText fittedText(const QRect& place, const Griglia& griglia, int row, int col) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
-    void paintText(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col);
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, bool marked);
     void paintToday(QPainter& painter, const QRect& rect);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
 
-    std::array<QFont, Caratteri.size()> m_fonts;
+    std::array<FittingFont, Caratteri.size()> m_fonts;
     Pictures m_pictures;
 };
 

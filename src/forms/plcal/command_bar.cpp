@@ -35,6 +35,11 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
     m_comandi.push_back({described.posizione, action});
 }
 
+void CommandBar::resizeEvent(QResizeEvent* event) {
+    fitPictures(*this, height());
+    QToolBar::resizeEvent(event);
+}
+
 QAction* CommandBar::command(Pulsante pulsante) const {
     for (const Comando& comando : m_comandi) {
         if (comando.pulsante == pulsante) {

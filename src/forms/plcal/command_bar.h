@@ -24,6 +24,9 @@ public:
 Q_SIGNALS:
     void ButtonClick(const QByteArray& chiave);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void addCommand(const DescrizionePulsante& described);
     void passFocus(Pulsante pulsante, const StatoToolbar& stato, QWidget* successor);

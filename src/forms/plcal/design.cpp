@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/design.h"
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
 
 // The panel's columns and rows, in twips.
-constexpr std::array ColumnLefts{4700, 7150, 9750};
-constexpr std::array CaptionWidths{1450, 1650, 1650};
-constexpr std::array RowTops{1210, 1630, 2050};
+constexpr std::array ColumnLefts{5450, 7700, 10100};
+constexpr std::array CaptionWidths{1250, 1300, 1300};
+constexpr std::array RowTops{1250, 1665, 2080};
 constexpr int RowHeight = 370;
 constexpr int NumberWidth = 750;
 
@@ -17,6 +19,15 @@ std::size_t shownRow(const EtichettaTotale& etichetta, bool varianteRidotta) {
     const bool movedUp = varianteRidotta && etichetta.pratiche;
     return static_cast<std::size_t>(etichetta.riga - (movedUp ? 1 : 0));
 }
+
+// All other controls, in twips.
+constexpr Rettangolo Toolbar{0, 0, 12600, 1230};
+constexpr Rettangolo Calendar{12660, 60, 2640, 2380};
+constexpr Rettangolo Title{180, 1250, 5100, 480};
+constexpr Rettangolo StaffName{180, 1760, 5100, 400};
+constexpr Rettangolo Grid{60, 2500, 15240, 9460};
+constexpr Rettangolo Status{180, 11970, 15000, 330};
+constexpr int SmallestGridHeight = 2700;
 
 } // namespace
 
@@ -37,21 +48,27 @@ Rettangolo posizioneNumero(const EtichettaTotale& etichetta, bool varianteRidott
 }
 
 std::vector<ControlloProgetto> controlliPlcal() {
-    constexpr Rettangolo grid{60, 2500, 15240, 9460};
     std::vector<ControlloProgetto> controls{
-        {"Toolbar1", {0, 0, 12600, 1170}},
-        {"calendario", {12660, 60, 2640, 2380}},
-        {"lbldescr", {180, 1210, 4500, 480}},
-        {"lblcollab", {180, 1720, 4500, 400}},
-        {"stato", {180, 11970, 15000, 330}},
-        {"Flxm", grid},
-        {"flxg", grid},
-        {"flxa", grid},
+        {"Toolbar1", Toolbar}, {"calendario", Calendar}, {"lbldescr", Title}, {"lblcollab", StaffName},
+        {"stato", Status},     {"Flxm", Grid},           {"flxg", Grid},      {"flxa", Grid},
     };
     for (const PulsantePeriodo& button : PulsantiPeriodo) {
         controls.push_back({button.gruppo, {}, /*pulsanteComando=*/true});
     }
     return controls;
+}
+
+Dimensioni dimensioniMinime(const Scala& scala) {
+    int panelRight = 0;
+    for (const EtichettaTotale& etichetta : EtichetteTotali) {
+        const Rettangolo number = posizioneNumero(etichetta, false);
+        panelRight = std::max(panelRight, number.Left + number.Width);
+    }
+    const int width = panelRight + Calendar.Width + 2 * Grid.Left;
+    const int height = Grid.Top + SmallestGridHeight + Status.Height;
+    const ControlloProgetto whole{"plcal", {0, 0, width, height}};
+    const Rettangolo scaled = Ctr_Refresh({whole}, scala).front().posizione;
+    return {scaled.Width, scaled.Height};
 }
 
 } // namespace planner

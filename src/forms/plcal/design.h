@@ -47,6 +47,10 @@ Rettangolo posizioneNumero(const EtichettaTotale& etichetta, bool varianteRidott
 /// Every control of the planner window as designed.
 std::vector<ControlloProgetto> controlliPlcal();
 
+/// The smallest window, in twips, in which the controls scaled by `scala` stand beside each other, with
+/// header and a detailed row of the grid in sight.
+Dimensioni dimensioniMinime(const Scala& scala);
+
 /// A small button over a grid's corner that moves the period.
 struct PulsantePeriodo {
     std::string_view gruppo; // "bselm", "bselg" or "bselA"

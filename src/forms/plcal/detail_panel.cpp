@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/detail_panel.h"
 
-#include "platform/qt/plain_label.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 
 #include <QFrame>
@@ -11,20 +11,35 @@ namespace planner {
 
 namespace {
 
+constexpr QRgb BoxEdgeColor = qRgb(136, 136, 136);
+
 void place(QWidget& label, const Rettangolo& twips, const Scala& scala) {
-    label.setGeometry(pixels(twips.Left, scala.ScalaX), pixels(twips.Top, scala.ScalaY),
-                      pixels(twips.Width, scala.ScalaX), pixels(twips.Height, scala.ScalaY));
+    const Rettangolo place = pixels(twips, scala);
+    label.setGeometry(place.Left, place.Top, place.Width, place.Height);
+}
+
+/// A field that stands out from the window in light and in dark.
+QFrame* makeBox(QWidget* parent) {
+    auto* box = new QFrame(parent);
+    box->setFrameStyle(QFrame::Box | QFrame::Plain);
+    box->setAutoFillBackground(true);
+    box->setBackgroundRole(QPalette::Base);
+    box->setForegroundRole(QPalette::WindowText);
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::WindowText, QColor(BoxEdgeColor));
+    box->setPalette(palette);
+    return box;
 }
 
 } // namespace
 
 DetailPanel::DetailPanel(QWidget* parent) : QObject(parent) {
     for (const EtichettaTotale& etichetta : EtichetteTotali) {
-        auto* caption = new PlainLabel(parent);
+        auto* caption = new FittedLabel(parent);
         caption->setText(fromUtf8(etichetta.didascalia));
-        auto* box = new QFrame(parent);
-        box->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-        auto* number = new PlainLabel(box);
+        QFrame* box = makeBox(parent);
+        auto* number = new FittedLabel(box);
+        number->setForegroundRole(QPalette::Text);
         number->setObjectName(fromUtf8(etichetta.nome));
         number->setAlignment(Qt::AlignCenter);
         m_coppie.push_back({&etichetta, caption, box, number});

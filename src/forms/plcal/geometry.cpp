@@ -31,6 +31,13 @@ int pixels(int twips, float scala) {
     return scaled(twips, scala / static_cast<float>(TwipsPerPixel));
 }
 
+Rettangolo pixels(const Rettangolo& twips, const Scala& scala) {
+    const int left = pixels(twips.Left, scala.ScalaX);
+    const int top = pixels(twips.Top, scala.ScalaY);
+    return {left, top, pixels(twips.Left + twips.Width, scala.ScalaX) - left,
+            pixels(twips.Top + twips.Height, scala.ScalaY) - top};
+}
+
 std::vector<int> pixelSizes(const std::vector<int>& twips, float scala) {
     std::vector<int> sizes;
     sizes.reserve(twips.size());

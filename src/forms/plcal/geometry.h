@@ -31,6 +31,9 @@ std::vector<int> pixelSizes(const std::vector<int>& twips, float scala);
 /// Pixels of a length in twips.
 int pixels(int twips, float scala);
 
+/// A place in twips as pixels: its edges are rounded, so that neighbours stay neighbours.
+Rettangolo pixels(const Rettangolo& twips, const Scala& scala);
+
 /// The place of a period button in a header cell: a quarter of the row's height from its top where the row is
 /// high enough, else centred; the previous-period button stands at the left, the next-period button
 /// right-aligned. All in pixels.

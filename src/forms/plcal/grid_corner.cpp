@@ -4,10 +4,13 @@
 
 #include "platform/qt/text.h"
 
+#include <QHelpEvent>
 #include <QKeySequence>
 #include <QPainter>
 #include <QToolButton>
+#include <QToolTip>
 
+#include <algorithm>
 #include <numeric>
 
 namespace planner {
@@ -60,7 +63,7 @@ void GridCorner::placeButtons(float scalaX) {
     for (const auto& [described, button] : m_buttons) {
         const Rettangolo place = pulsantePeriodo(cellOf(described->riga), described->successivo, scalaX);
         button->setGeometry(place.Left, place.Top, place.Width, place.Height);
-        button->setIconSize(QSize(place.Width, place.Height) - QSize(6, 6));
+        button->setIconSize(QSize(place.Width, place.Height) - QSize(4, 4));
     }
 }
 
@@ -84,11 +87,45 @@ Rettangolo GridCorner::cellOf(int row) const {
     return {0, top, width(), m_heights[index]};
 }
 
+QRect GridCorner::placeOf(int row) const {
+    const Rettangolo cell = cellOf(row);
+    return {cell.Left, cell.Top, cell.Width, cell.Height};
+}
+
+int GridCorner::roomForButtons(int row) const {
+    int room = 0;
+    for (const auto& [described, button] : m_buttons) {
+        if (described->riga == row) {
+            room = std::max(room,
+                            described->successivo ? width() - button->x() : button->geometry().right() + 1);
+        }
+    }
+    return room;
+}
+
+QString GridCorner::toolTipAt(const QPoint& position) const {
+    for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
+        if (placeOf(row).contains(position) &&
+            m_painter.cut(placeOf(row), m_griglia, row, 0, roomForButtons(row))) {
+            return fromCp1252(m_griglia.TextMatrix(row, 0));
+        }
+    }
+    return {};
+}
+
+bool GridCorner::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), this);
+    return true;
+}
+
 void GridCorner::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
-        const Rettangolo cell = cellOf(row);
-        m_painter.paint(painter, QRect(cell.Left, cell.Top, cell.Width, cell.Height), m_griglia, row, 0);
+        m_painter.paint(painter, placeOf(row), m_griglia, row, 0, roomForButtons(row));
     }
 }
 

@@ -31,11 +31,15 @@ Q_SIGNALS:
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void addButton(const PulsantePeriodo& described);
     Rettangolo cellOf(int row) const;
+    QRect placeOf(int row) const;
+    int roomForButtons(int row) const;
+    QString toolTipAt(const QPoint& position) const;
 
     const Griglia& m_griglia;
     CellPainter& m_painter;

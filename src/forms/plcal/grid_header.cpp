@@ -3,10 +3,13 @@
 #include "forms/plcal/grid_header.h"
 
 #include "forms/plcal/grid_model.h"
+#include "platform/qt/text.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <numeric>
 
@@ -51,6 +54,26 @@ void GridHeader::contextMenuEvent(QContextMenuEvent* event) {
     if (onName && event->reason() == QContextMenuEvent::Mouse) {
         Q_EMIT menuRequested(event->globalPos());
     }
+}
+
+bool GridHeader::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QHeaderView::viewportEvent(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), viewport());
+    return true;
+}
+
+QString GridHeader::toolTipAt(const QPoint& position) const {
+    const int section = logicalIndexAt(position);
+    if (orientation() == Qt::Horizontal || section < 0) {
+        return {};
+    }
+    const QRect place(0, sectionViewportPosition(section), width(), sectionSize(section));
+    const int row = m_model.gridRow(section);
+    return m_painter.cut(place, m_model.griglia(), row, 0) ? fromCp1252(m_model.griglia().TextMatrix(row, 0))
+                                                           : QString();
 }
 
 void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {

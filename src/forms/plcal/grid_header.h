@@ -34,9 +34,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override {}
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void contextMenuEvent(QContextMenuEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:
+    QString toolTipAt(const QPoint& position) const;
+
     const GridModel& m_model;
     CellPainter& m_painter;
     std::vector<int> m_sizes;

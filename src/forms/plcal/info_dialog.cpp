@@ -32,8 +32,8 @@ std::vector<VoceLegenda> legend() {
 
 /// The pictures are drawn for light cells, so they stand on one here too.
 QLabel* pictureLabel(QWidget* parent, int picture) {
-    constexpr int side = 36;
     constexpr int margin = 4;
+    const int side = 5 * parent->fontMetrics().height() / 2;
     Pictures pictures;
     auto* label = new PlainLabel(parent);
     label->setPixmap(pictures.picture(picture, side, parent->devicePixelRatioF()));
@@ -49,6 +49,13 @@ QLabel* textLabel(QWidget* parent, const QString& text) {
     auto* label = new PlainLabel(parent);
     label->setText(text);
     return label;
+}
+
+QFont titleFont(QFont font) {
+    constexpr double factor = 1.3;
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(true);
+    return font;
 }
 
 void addLegend(QGridLayout& layout, QWidget* parent) {
@@ -69,7 +76,7 @@ void showInfoDialog(QWidget* parent) {
     layout->setColumnStretch(1, 1);
     layout->setHorizontalSpacing(12);
     QLabel* title = textLabel(&dialog, QStringLiteral("Planner grafico, versione " PLANNER_VERSION));
-    title->setFont(qtFont(Carattere::grassetto, 1.3));
+    title->setFont(titleFont(dialog.font()));
     layout->addWidget(title, 0, 0, 1, 2);
     addLegend(*layout, &dialog);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);

@@ -10,7 +10,7 @@
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/shown_calendar.h"
 #include "forms/screen_scale.h"
-#include "platform/qt/plain_label.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -37,8 +37,8 @@ constexpr double TitleFontFactor = 1.5;
 
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
-      m_calendario(new ShownCalendar(this)), m_lbldescr(new PlainLabel(this)),
-      m_lblcollab(new PlainLabel(this)), m_stato(new PlainLabel(this)), m_panel(new DetailPanel(this)) {
+      m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
+      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_panel(new DetailPanel(this)) {
     m_Flxm = makeGrid(TipoPlanner::Mensile);
     m_flxg = makeGrid(TipoPlanner::Giornaliero);
     m_flxa = makeGrid(TipoPlanner::Annuale);
@@ -145,17 +145,20 @@ Dimensioni PlcalWindow::schermo() const {
 
 void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {
     m_scala = scala;
-    const double factor = static_cast<double>(scala.ScalaMin());
+    const double factor = fontFactorFor(scala);
     m_painter.setFontFactor(factor);
     setFont(qtFont(Carattere::normale, factor));
-    m_lbldescr->setFont(qtFont(Carattere::grassetto, std::max(factor, 1.0) * TitleFontFactor));
+    m_lbldescr->setFont(qtFont(Carattere::grassetto, factor * TitleFontFactor));
     m_lblcollab->setFont(qtFont(Carattere::grassetto, factor));
     for (const ControlloProgetto& controllo : controlli) {
         if (auto* widget = findChild<QWidget*>(fromUtf8(controllo.nome), Qt::FindDirectChildrenOnly)) {
             place(*widget, controllo.posizione);
         }
     }
-    setGeometry(screen()->availableGeometry());
+    setSmallestSize();
+    const QRect available = screen()->availableGeometry();
+    resize(available.size());
+    move(available.topLeft()); // of the frame: the title stays on the screen
     fillRemainingSpace();
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
         grid->setScala(scala);
@@ -163,8 +166,8 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
 }
 
 void PlcalWindow::place(QWidget& widget, const Rettangolo& twips) const {
-    widget.setGeometry(twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel,
-                       twips.Height / TwipsPerPixel);
+    const Rettangolo place = pixels(twips, {}); // scaled already
+    widget.setGeometry(place.Left, place.Top, place.Width, place.Height);
 }
 
 void PlcalWindow::aggiorna() {
@@ -334,15 +337,25 @@ void PlcalWindow::resizeEvent(QResizeEvent*) {
     fillRemainingSpace();
 }
 
+void PlcalWindow::setSmallestSize() {
+    const Dimensioni twips = dimensioniMinime(m_scala);
+    const int besideCommands = m_calendario->width() + 2 * m_Flxm->x();
+    const QSize whole(std::max(twips.width / TwipsPerPixel, m_Toolbar1->sizeHint().width() + besideCommands),
+                      twips.height / TwipsPerPixel);
+    setMinimumSize(whole.boundedTo(screen()->availableSize()));
+}
+
 void PlcalWindow::fillRemainingSpace() {
-    // Positions were scaled once, at load; what is left of the window belongs to the grid.
+    // Positions were scaled once, at load; what is left of the window belongs to the grid. A window that is
+    // made smaller than it can show is cut at its edges, with nothing over anything else.
+    const QSize room = size().expandedTo(minimumSize());
     const int margin = m_Flxm->x();
-    m_stato->move(m_stato->x(), height() - m_stato->height());
-    m_stato->resize(width() - 2 * m_stato->x(), m_stato->height());
+    m_stato->move(m_stato->x(), room.height() - m_stato->height());
+    m_stato->resize(room.width() - 2 * m_stato->x(), m_stato->height());
     for (GridView* grid : {m_Flxm, m_flxg, m_flxa}) {
-        grid->resize(width() - 2 * margin, m_stato->y() - grid->y());
+        grid->resize(room.width() - 2 * margin, m_stato->y() - grid->y());
     }
-    m_calendario->move(width() - m_calendario->width() - margin, m_calendario->y());
+    m_calendario->move(room.width() - m_calendario->width() - margin, m_calendario->y());
     m_Toolbar1->resize(m_calendario->x() - margin, m_Toolbar1->height());
 }
 

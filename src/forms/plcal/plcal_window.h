@@ -10,13 +10,13 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
 class QShortcut;
 
 namespace planner {
 
 class CommandBar;
 class DetailPanel;
+class FittedLabel;
 class GridView;
 class ShownCalendar;
 
@@ -64,6 +64,7 @@ private:
     void updateCalendar();
     void updateGrid();
     void place(QWidget& widget, const Rettangolo& twips) const;
+    void setSmallestSize();
     void fillRemainingSpace();
     GridView* visibleGrid() const;
 
@@ -75,9 +76,9 @@ private:
 
     CommandBar* m_Toolbar1;
     ShownCalendar* m_calendario;
-    QLabel* m_lbldescr;
-    QLabel* m_lblcollab;
-    QLabel* m_stato;
+    FittedLabel* m_lbldescr;
+    FittedLabel* m_lblcollab;
+    FittedLabel* m_stato;
     DetailPanel* m_panel;
     GridView* m_Flxm;
     GridView* m_flxg;

@@ -15,7 +15,8 @@ namespace planner {
 
 namespace {
 
-constexpr int SmallestRow = 12; // pixels
+constexpr int SmallestRow = 1; // pixels: the rows share the height that there is
+constexpr int Rows = 8;        // heading, letters of the weekdays, six weeks
 
 QDate qtDate(Data data) {
     return {yearOf(data), monthOf(data), dayOf(data)};
@@ -83,6 +84,21 @@ void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo
     setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
     setSelectedDate(qtDate(shown));
     setCurrentPage(calendario.Year(), calendario.Month());
+}
+
+void ShownCalendar::fitHeading() {
+    const int height = std::max(this->height() / Rows, fontMetrics().height() + 2);
+    for (const char* part :
+         {"qt_calendar_navigationbar", "qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
+        if (auto* widget = findChild<QWidget*>(QLatin1String(part))) {
+            widget->setFixedHeight(height);
+        }
+    }
+}
+
+void ShownCalendar::resizeEvent(QResizeEvent* event) {
+    fitHeading();
+    QCalendarWidget::resizeEvent(event);
 }
 
 bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {

@@ -22,9 +22,11 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void hideNavigation();
+    void fitHeading();
     void colourDays();
     void pick(QDate day);
 

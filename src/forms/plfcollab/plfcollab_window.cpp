@@ -95,8 +95,9 @@ void PlfcollabWindow::setForm(plfcollab& form) {
 void PlfcollabWindow::fitToScreen() {
     // The same factor as the planner window's, so that both have one size of letters.
     const QRect available = screen()->availableGeometry();
-    const double factor = std::max(fontFactorFor(*screen()), 1.0);
+    const double factor = fontFactorFor(*screen());
     setFont(qtFont(Carattere::normale, factor));
+    m_toolbar->setMinimumWidth(m_toolbar->sizeHint().width()); // every command stays in sight
     const QSize wanted = (QSizeF(DesignSize) * factor).toSize().expandedTo(sizeHint());
     resize(wanted.boundedTo(available.size() * 9 / 10));
     move(available.center() - rect().center());

@@ -21,6 +21,8 @@ namespace planner {
 
 namespace {
 
+constexpr double SmallestLegible = 7; // points
+
 /// What stands for the design-time fonts where they are not installed.
 QFont fontNamed(std::string_view family) {
     QFont font;
@@ -59,7 +61,7 @@ QFont qtFont(Carattere which, double factor) {
 
 QFont qtFont(const DescrizioneCarattere& described, double factor) {
     QFont font = fontNamed(described.famiglia);
-    font.setPointSizeF(described.punti * std::max(factor, 1.0));
+    font.setPointSizeF(std::max(described.punti * factor, SmallestLegible));
     font.setBold(described.grassetto);
     return font;
 }

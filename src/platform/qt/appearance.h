@@ -17,7 +17,7 @@ void setUpAppearance(QApplication& application);
 
 QColor qtColor(Colore colore);
 
-/// The font for a place in a grid, `factor` times its design-time size but never smaller.
+/// A font `factor` times its design-time size, which it shrinks below only as far as letters stay legible.
 QFont qtFont(Carattere which, double factor);
 QFont qtFont(const DescrizioneCarattere& described, double factor);
 

@@ -6,18 +6,28 @@
 #include "platform/qt/text.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QToolBar>
+
+#include <algorithm>
 
 namespace planner {
 
 namespace {
 
-constexpr int IconSide = 24;
+constexpr int IconSide = 24; // beside letters of the designed size
+constexpr int SmallestIconSide = 16;
+constexpr int Margin = 4;
+constexpr int SmallestMargin = 1; // on a low screen every pixel is the captions'
 
 /// Every caption stands on two lines, so that the buttons stay narrow and are of one height.
 QString buttonText(const QString& caption) {
     const QString first = caption.section(QLatin1Char(' '), 0, 0);
     return first + QLatin1Char('\n') + caption.section(QLatin1Char(' '), 1);
+}
+
+void setMargin(QToolBar& bar, int margin) {
+    bar.layout()->setContentsMargins(margin, margin, margin, margin);
 }
 
 QString tipText(const QString& caption, const QKeySequence& keys) {
@@ -29,8 +39,18 @@ QString tipText(const QString& caption, const QKeySequence& keys) {
 
 void setUpToolBar(QToolBar& bar) {
     bar.setMovable(false);
+    setMargin(bar, Margin);
     bar.setIconSize(QSize(IconSide, IconSide));
     bar.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+}
+
+void fitPictures(QToolBar& bar, int height) {
+    setMargin(bar, SmallestMargin);
+    const double wanted = IconSide * bar.font().pointSizeF() / carattere(Carattere::normale).punti;
+    const int rest = bar.sizeHint().height() - bar.iconSize().height();
+    const int side = std::clamp(height - rest, SmallestIconSide, std::max(qRound(wanted), SmallestIconSide));
+    bar.setIconSize(QSize(side, side));
+    setMargin(bar, std::clamp(SmallestMargin + (height - rest - side) / 2, SmallestMargin, Margin));
 }
 
 QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {

@@ -22,6 +22,10 @@ struct ToolCommand {
 /// The look that the program's toolbars share: pictures with their captions below.
 void setUpToolBar(QToolBar& bar);
 
+/// Makes the pictures as large as the bar's font asks for, or as small as the captions below them require to
+/// fit into `height` pixels.
+void fitPictures(QToolBar& bar, int height);
+
 /// Adds a button, reached by Tab too, whose tool tip tells its keys. Whether the keys work everywhere in the
 /// window is the caller's to say.
 QAction* addToolCommand(QToolBar& bar, const ToolCommand& command);

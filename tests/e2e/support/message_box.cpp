@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/screen_scale.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/qt_message_boxes.h"
 
@@ -11,6 +12,7 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     planner::setUpAppearance(application);
+    planner::fitFontsTo(*QGuiApplication::primaryScreen());
     const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
     if (arguments.size() != 3) {
         return 2;

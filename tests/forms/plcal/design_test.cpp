@@ -146,6 +146,45 @@ TEST(DesignTest, TheWindowHasItsControlsInsideItsDesignedSize) {
     EXPECT_EQ(names.count("bselA"), 2u);
 }
 
+Rettangolo placeOf(std::string_view nome) {
+    for (const ControlloProgetto& control : controlliPlcal()) {
+        if (control.nome == nome) {
+            return control.posizione;
+        }
+    }
+    throw std::runtime_error("no control " + std::string(nome));
+}
+
+TEST(DesignTest, NoControlStandsOverAnotherOrThePanel) {
+    std::vector<Rettangolo> places;
+    for (const char* nome : {"Toolbar1", "calendario", "lbldescr", "lblcollab", "Flxm", "stato"}) {
+        places.push_back(placeOf(nome));
+    }
+    for (const EtichettaTotale& etichetta : EtichetteTotali) {
+        const Rettangolo caption = posizioneDidascalia(etichetta, false);
+        const Rettangolo number = posizioneNumero(etichetta, false);
+        for (const Rettangolo& place : places) {
+            EXPECT_FALSE(overlap(caption, place)) << etichetta.nome;
+            EXPECT_FALSE(overlap(number, place)) << etichetta.nome;
+        }
+    }
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        for (std::size_t k = i + 1; k < places.size(); ++k) {
+            EXPECT_FALSE(overlap(places[i], places[k])) << i << " " << k;
+        }
+    }
+}
+
+TEST(DesignTest, TheSmallestWindowFitsTheScreenItIsScaledFor) {
+    for (const Dimensioni screen : {Dimensioni{960 * 15, 540 * 15}, Dimensioni{1024 * 15, 768 * 15},
+                                    Dimensioni{2560 * 15, 1440 * 15}, Dimensioni{1080 * 15, 1920 * 15}}) {
+        const Dimensioni smallest = dimensioniMinime(scalaPer(screen, ProgettoPlcal));
+        EXPECT_LE(smallest.width, screen.width);
+        EXPECT_LE(smallest.height, screen.height);
+        EXPECT_GE(smallest.height, screen.height / 4);
+    }
+}
+
 TEST(DesignTest, TheDailyGridOpensAtEightOClock) {
     EXPECT_EQ(PrimaColonnaGiornaliera, 33);
 }

@@ -41,6 +41,17 @@ TEST(PixelsTest, FifteenTwipsAreAPixelAtScaleOne) {
     EXPECT_EQ(pixels(0, 1), 0);
 }
 
+TEST(PixelsTest, NeighboursStayNeighboursAtEveryScale) {
+    for (float scale = 0.3f; scale < 4; scale += 0.0137f) {
+        const Rettangolo left = pixels({5450, 100, 1250, 370}, {scale, scale});
+        const Rettangolo right = pixels({6700, 100, 750, 370}, {scale, scale});
+        ASSERT_EQ(left.Left + left.Width, right.Left) << scale;
+        ASSERT_EQ(left.Top, right.Top) << scale;
+        ASSERT_EQ(left.Height, right.Height) << scale;
+    }
+    EXPECT_EQ(pixels({15, 30, 45, 60}, {2, 1}), (Rettangolo{2, 2, 6, 4}));
+}
+
 TEST(PixelSizesTest, TheSumIsNeverOffByMoreThanHalfAPixel) {
     std::vector<int> month(38, 350);
     month[0] = 2000;

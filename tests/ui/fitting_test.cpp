@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "platform/qt/fitted_label.h"
+#include "platform/qt/text.h"
+#include "ui/measures.h"
+#include "ui/window_bench.h"
+
+#include <QAccessible>
+#include <QHeaderView>
+#include <QToolTip>
+
+#include <gtest/gtest.h>
+
+namespace planner::test {
+
+namespace {
+
+const QString LongName = QStringLiteral("Degli Alessandri <b>Montecuccoli</b> Maria Vittoria");
+
+int widthIn(const QFont& font, const QString& text) {
+    return QFontMetrics(font).horizontalAdvance(text);
+}
+
+struct FittingTest : testing::Test {
+    QFont font = qtFont(Carattere::normale, 1);
+    FittingFont fitting{font};
+    int width = widthIn(font, LongName);
+
+    ~FittingTest() override { QToolTip::hideText(); }
+};
+
+} // namespace
+
+TEST_F(FittingTest, ATextThatFitsIsShownAsDesigned) {
+    const FittedText fitted = fitting.fit(LongName, width);
+    EXPECT_EQ(fitted.shown, LongName);
+    EXPECT_EQ(fitted.font, font);
+    EXPECT_FALSE(fitted.cut);
+}
+
+TEST_F(FittingTest, ATextALittleTooLongShrinksToNineTenths) {
+    const FittedText fitted = fitting.fit(LongName, width - 1);
+    EXPECT_EQ(fitted.shown, LongName);
+    EXPECT_DOUBLE_EQ(fitted.font.pointSizeF(), font.pointSizeF() * 0.9);
+    EXPECT_FALSE(fitted.cut);
+}
+
+TEST_F(FittingTest, ATextFarTooLongIsElidedAtItsEnd) {
+    const FittedText fitted = fitting.fit(LongName, width / 2);
+    EXPECT_TRUE(fitted.cut);
+    EXPECT_TRUE(fitted.shown.startsWith(LongName.left(5)));
+    EXPECT_TRUE(fitted.shown.endsWith(QChar(0x2026)));
+    EXPECT_LE(widthIn(fitted.font, fitted.shown), width / 2);
+    EXPECT_DOUBLE_EQ(fitted.font.pointSizeF(), font.pointSizeF() * 0.9);
+}
+
+TEST_F(FittingTest, WithoutRoomOrTextNothingGoesWrong) {
+    EXPECT_FALSE(fitting.fit(QString(), 0).cut);
+    EXPECT_TRUE(fitting.fit(LongName, 0).cut);
+    EXPECT_TRUE(fitting.fit(LongName, -7).cut);
+}
+
+TEST_F(FittingTest, ALabelTellsItsWholeTextOnlyWhereItIsCut) {
+    FittedLabel label(nullptr);
+    label.setFont(font);
+    label.setText(LongName);
+    label.resize(width, 20);
+    EXPECT_EQ(toolTipAt(label, {5, 5}), QString());
+    label.resize(width / 2, 20);
+    EXPECT_EQ(toolTipAt(label, {5, 5}), plainToolTip(LongName));
+    EXPECT_EQ(label.text(), LongName);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), LongName);
+    EXPECT_LT(label.minimumSizeHint().width(), width / 2) << "a layout may make it narrower";
+}
+
+TEST_F(FittingTest, ALabelFollowsItsFont) {
+    FittedLabel label(nullptr);
+    label.setText(LongName);
+    label.setFont(font);
+    label.resize(width, 20);
+    EXPECT_FALSE(label.fitted().cut);
+    label.setFont(qtFont(Carattere::normale, 3));
+    EXPECT_TRUE(label.fitted().cut);
+    EXPECT_DOUBLE_EQ(label.fitted().font.pointSizeF(), 27 * 0.9);
+}
+
+TEST_F(FittingTest, ANameThatItsColumnCutsOffIsTheHeadersToolTip) {
+    WindowBench bench;
+    bench.base.putCollaboratori({collaboratore("RB", "Rossi"), collaboratore("DM", std::string(30, 'W'))});
+    for (const char* kind : {"M", "G"}) {
+        bench.open(kind);
+        QHeaderView& names = *bench.view().verticalHeader();
+        const auto tip = [&](int row) {
+            return toolTipAt(*names.viewport(), {5, names.sectionViewportPosition(row) + 3});
+        };
+        const Griglia& griglia = *bench.base.controlli.grigliaVisibile();
+        for (int row = 0; row < 2; ++row) {
+            const QString name = fromCp1252(griglia.TextMatrix(row + griglia.FixedRows(), 0));
+            const bool whole = name == QLatin1String("Rossi");
+            EXPECT_EQ(tip(row), whole ? QString() : plainToolTip(name)) << kind << " " << name.toStdString();
+        }
+    }
+}
+
+TEST_F(FittingTest, ATitleTooLongIsCutAndItsToolTipIsWhole) {
+    WindowBench bench;
+    const std::string name(30, 'W');
+    bench.base.putCollaboratori({collaboratore("RB", name)});
+    bench.open("A");
+    auto& title = bench.widget<FittedLabel>("lbldescr");
+    EXPECT_TRUE(title.fitted().cut);
+    EXPECT_EQ(toolTipAt(title, {5, 5}), plainToolTip(title.text()));
+    EXPECT_TRUE(title.text().endsWith(QString::fromStdString(name)));
+}
+
+} // namespace planner::test
