@@ -3,7 +3,7 @@
 #include "forms/plfgraf/chart_export.h"
 #include "forms/plfgraf/chart_model.h"
 #include "forms/plfgraf/chart_view.h"
-#include "forms/plfgraf/elided_label.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 #include "ui/modal_dialog.h"
 #include "ui/window_bench.h"
@@ -60,10 +60,10 @@ struct ChartWindowTest : testing::Test {
     }
 
     static ChartView& chart(QDialog& dialog) { return *dialog.findChild<ChartView*>(); }
-    static ElidedLabel& line(QDialog& dialog) {
-        return *dialog.findChild<ElidedLabel*>(QStringLiteral("stato"));
+    static FittedLabel& line(QDialog& dialog) {
+        return *dialog.findChild<FittedLabel*>(QStringLiteral("stato"));
     }
-    static QString status(QDialog& dialog) { return line(dialog).whole(); }
+    static QString status(QDialog& dialog) { return line(dialog).text(); }
     static void choose(QDialog& dialog, int option) {
         auto* button = dialog.findChild<QRadioButton*>(QStringLiteral("OptTipoGrafico_%1").arg(option));
         QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
@@ -152,7 +152,7 @@ TEST_F(ChartWindowTest, EnterPressesTheButtonWithTheFocus) {
         EXPECT_TRUE(pie->isChecked());
         EXPECT_THAT(chart(dialog).chartLayout().slices, SizeIs(2));
         for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-            line(dialog).setWhole(QString());
+            line(dialog).setText(QString());
             button(dialog, "copia").setFocus();
             QTest::keyClick(&button(dialog, "copia"), static_cast<Qt::Key>(key));
             EXPECT_EQ(status(dialog), QStringLiteral("Valori copiati.")) << key;
@@ -191,18 +191,14 @@ TEST_F(ChartWindowTest, TabReachesEveryButton) {
     });
 }
 
-TEST_F(ChartWindowTest, AStatusTooLongForItsPlaceIsItsToolTip) {
+TEST_F(ChartWindowTest, AStatusTooLongForItsPlaceIsReadWholeAllTheSame) {
     openChart("G", [](QDialog& dialog) {
-        ElidedLabel& status = line(dialog);
-        status.setWhole(QStringLiteral("Breve"));
-        EXPECT_EQ(status.text(), QStringLiteral("Breve"));
-        EXPECT_TRUE(status.toolTip().isEmpty());
+        FittedLabel& status = line(dialog);
+        EXPECT_FALSE(status.fitted().cut);
         const QString whole = QStringLiteral("<b>lungo</b> ").repeated(80);
-        status.setWhole(whole);
-        EXPECT_TRUE(status.text().endsWith(QChar(0x2026)));
-        EXPECT_EQ(status.toolTip(), plainToolTip(whole));
+        status.setText(whole);
+        EXPECT_TRUE(status.fitted().cut);
         EXPECT_EQ(QAccessible::queryAccessibleInterface(&status)->text(QAccessible::Name), whole);
-        EXPECT_LE(status.fontMetrics().horizontalAdvance(status.text()), status.width());
     });
 }
 

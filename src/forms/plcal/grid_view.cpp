@@ -104,14 +104,13 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && !event->isAutoRepeat()) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         announce(currentIndex(), Mezzo::invio);
     } else if (event->key() == Qt::Key_Space) {
         announce(currentIndex(), Mezzo::spazio);
     } else if (const auto action = cursorActionOf(*event)) {
         moveByKey(*action, event->modifiers());
-    } else if (!enter) {
+    } else {
         event->ignore(); // the window may have a use for it
     }
 }

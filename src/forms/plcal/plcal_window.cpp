@@ -294,9 +294,6 @@ void PlcalWindow::keyPressEvent(QKeyEvent* event) {
     // No shortcuts: those are deaf until the window system has made the window the active one.
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* button = qobject_cast<QAbstractButton*>(focusWidget());
-    if (event->isAutoRepeat()) {
-        return; // a held key closes one window, not those behind it
-    }
     if (enter && button != nullptr) {
         button->click();
     } else if (!m_form->Form_KeyDown(event->key() == Qt::Key_Escape ? plcal::TastoEscape : 0)) {

@@ -7,7 +7,6 @@
 #include "forms/screen_scale.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/plain_label.h"
-#include "platform/qt/repeated_keys.h"
 #include "platform/qt/text.h"
 
 #include <QCloseEvent>
@@ -32,7 +31,6 @@ PlfcollabWindow::PlfcollabWindow()
     m_list->setObjectName(QStringLiteral("List_Prenotazione"));
     m_list->setAccessibleName(QStringLiteral("Collaboratori"));
     m_count->setObjectName(QStringLiteral("conteggio"));
-    ignoreRepeatedAnswers(*this);
     layOut();
     connectEvents();
 }
@@ -157,7 +155,6 @@ std::optional<std::string> PlfcollabWindow::chiediTesto(std::string_view titolo,
     dialog.setWindowTitle(fromUtf8(titolo));
     dialog.setLabelText(QStringLiteral("Testo da cercare nel nome o nel codice (F3 ripete la ricerca):"));
     dialog.setTextValue(fromUtf8(iniziale));
-    ignoreRepeatedAnswers(dialog);
     m_question = &dialog;
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;

@@ -3,6 +3,7 @@
 #include "forms/plfcollab/staff_list_model.h"
 
 #include "forms/plfcollab/plfcollab.h"
+#include "platform/qt/model_answers.h"
 #include "platform/qt/text.h"
 
 namespace planner {
@@ -63,19 +64,20 @@ const RigaCollaboratore* StaffListModel::row(const QModelIndex& index) const {
 
 QVariant StaffListModel::data(const QModelIndex& index, int role) const {
     const RigaCollaboratore* riga = row(index);
-    if (riga == nullptr) {
-        return {};
-    }
+    return riga == nullptr ? QVariant() : orNothing([&] { return cellData(*riga, index.column(), role); });
+}
+
+QVariant StaffListModel::cellData(const RigaCollaboratore& riga, int column, int role) {
     if (role == Qt::DisplayRole) {
-        return onOneLine(fromCp1252(textOf(*riga, index.column())));
+        return onOneLine(fromCp1252(textOf(riga, column)));
     }
     // A screen reader reads a row cell by cell: the sentence stands in the first one, the others say their
     // text.
-    if (role == Qt::AccessibleTextRole && index.column() == Codice) {
-        return onOneLine(fromUtf8(fraseCollaboratore(*riga)));
+    if (role == Qt::AccessibleTextRole && column == Codice) {
+        return onOneLine(fromUtf8(fraseCollaboratore(riga)));
     }
-    if (role == Qt::CheckStateRole && index.column() == Codice) {
-        return riga->spuntata ? Qt::Checked : Qt::Unchecked;
+    if (role == Qt::CheckStateRole && column == Codice) {
+        return riga.spuntata ? Qt::Checked : Qt::Unchecked;
     }
     return {};
 }

@@ -36,6 +36,7 @@ Q_SIGNALS:
 
 private:
     const RigaCollaboratore* row(const QModelIndex& index) const;
+    static QVariant cellData(const RigaCollaboratore& riga, int column, int role);
     QString spokenOrder() const;
 
     const ListaCollaboratori* m_lista = nullptr;

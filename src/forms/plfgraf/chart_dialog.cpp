@@ -5,9 +5,9 @@
 #include "forms/plfgraf/chart_kind_frame.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "forms/plfgraf/chart_view.h"
-#include "forms/plfgraf/elided_label.h"
 #include "forms/screen_scale.h"
 #include "platform/qt/appearance.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 
 #include <QHBoxLayout>
@@ -70,7 +70,7 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), m_form(form),
       m_messaggi(messaggi), m_fontFactor(fontFactorFor(*screen())),
       m_chart(new ChartView(*form.visibile(), m_fontFactor, this)), m_frame(makeFrame()),
-      m_stato(new ElidedLabel(this)) {
+      m_stato(new FittedLabel(this)) {
     setObjectName(QStringLiteral("plfgraf"));
     setWindowTitle(QStringLiteral("Planner"));
     setFont(stripFont(m_fontFactor));
@@ -123,12 +123,8 @@ ChartKindFrame* ChartDialog::makeFrame() {
     return frame;
 }
 
-/// A key that repeats by itself closes one window, not two, and presses a button once.
 void ChartDialog::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->isAutoRepeat() && (enter || event->key() == Qt::Key_Escape)) {
-        return;
-    }
     if (event->key() == Qt::Key_Escape) {
         if (plfgraf::Form_KeyDown(TastoEscape)) {
             close();
@@ -169,13 +165,17 @@ void ChartDialog::placeStrip(const QRect& strip) {
     m_stato->setGeometry(strip.x(), strip.y(), std::max(right - strip.x(), 0), strip.height());
 }
 
+void ChartDialog::say(const QString& text, const QString& spoken) {
+    m_stato->setText(text);
+    m_stato->setAccessibleName(spoken);
+}
+
 void ChartDialog::showValue(const QModelIndex& index) {
     if (index.isValid()) {
-        m_stato->setWhole(index.data(Qt::StatusTipRole).toString(),
-                          index.data(Qt::AccessibleTextRole).toString());
+        say(index.data(Qt::StatusTipRole).toString(), index.data(Qt::AccessibleTextRole).toString());
     } else {
         const QString heading = fromUtf8(testoIntestazione(grafico()));
-        m_stato->setWhole(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
+        say(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
     }
 }
 

@@ -15,7 +15,7 @@ namespace planner {
 
 class ChartKindFrame;
 class ChartView;
-class ElidedLabel;
+class FittedLabel;
 struct Drawing;
 struct Grafico;
 
@@ -41,6 +41,8 @@ private:
     QSize smallestSize() const;
     void placeControls();
     void placeStrip(const QRect& strip);
+    /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
+    void say(const QString& text, const QString& spoken = {});
     void showValue(const QModelIndex& index);
     Drawing drawing() const;
     QString fileName() const;
@@ -53,7 +55,7 @@ private:
     double m_fontFactor;
     ChartView* m_chart;
     ChartKindFrame* m_frame;
-    ElidedLabel* m_stato;
+    FittedLabel* m_stato;
     std::vector<QPushButton*> m_buttons; // from left to right
 };
 

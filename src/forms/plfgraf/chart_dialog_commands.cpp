@@ -4,7 +4,7 @@
 #include "forms/plfgraf/chart_export.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "forms/plfgraf/chart_view.h"
-#include "forms/plfgraf/elided_label.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 
 #include <QAction>
@@ -72,7 +72,7 @@ QString ChartDialog::fileName() const {
 
 void ChartDialog::copyValues() {
     QGuiApplication::clipboard()->setText(fromUtf8(tabellaValori(grafico())));
-    m_stato->setWhole(QStringLiteral("Valori copiati."));
+    say(QStringLiteral("Valori copiati."));
 }
 
 void ChartDialog::saveChart() {
@@ -95,7 +95,7 @@ void ChartDialog::saveChart() {
     const QString path = dialog.selectedFiles().value(0);
     const QString error = saveDrawing(drawing(), path);
     if (error.isEmpty()) {
-        m_stato->setWhole(QStringLiteral("Grafico salvato in ") + path);
+        say(QStringLiteral("Grafico salvato in ") + path);
     } else {
         m_messaggi.critical("Il grafico non è stato salvato in " + path.toStdString() + ": " +
                             error.toStdString() + ".");

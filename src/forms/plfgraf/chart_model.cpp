@@ -3,11 +3,11 @@
 #include "forms/plfgraf/chart_model.h"
 
 #include "forms/plfgraf/chart_texts.h"
+#include "platform/qt/model_answers.h"
 #include "platform/qt/text.h"
 
 #include <algorithm>
 #include <climits>
-#include <exception>
 
 namespace planner {
 
@@ -23,11 +23,7 @@ QVariant ChartModel::data(const QModelIndex& index, int role) const {
     if (!own) {
         return {};
     }
-    try {
-        return valueData(static_cast<std::size_t>(index.row()), role);
-    } catch (const std::exception&) { // the toolkit's callers could not stand it
-        return {};
-    }
+    return orNothing([&] { return valueData(static_cast<std::size_t>(index.row()), role); });
 }
 
 QVariant ChartModel::valueData(std::size_t number, int role) const {

@@ -5,9 +5,28 @@
 #include "engine/guard.h"
 #include "platform/qt/text.h"
 
+#include <QKeyEvent>
+
 namespace planner {
 
+namespace {
+
+bool isRepeatedAnswer(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    const int key = press.key();
+    return press.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
+}
+
+} // namespace
+
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+    if (isRepeatedAnswer(*event)) {
+        event->accept();
+        return true;
+    }
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {

@@ -9,8 +9,9 @@
 
 namespace planner {
 
-/// The toolkit's application with a guard around every event: what an event's handler throws is said once,
-/// after the event, and the planner goes on.
+/// The toolkit's application with a guard around every event. What an event's handler throws is said once,
+/// after the event, and the planner goes on. Escape and Enter that come because the key is held down reach
+/// nobody: a held key answers one window, not those that come into sight behind it.
 class GuardedApplication : public QApplication {
     Q_OBJECT
 public:
