@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "engine/session/toolbar.h"
+#include "forms/plcal/design.h"
+#include "forms/plcal/gesti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
 
@@ -20,7 +22,12 @@ std::string guida() {
 
 /// The keys as an Italian keyboard names them.
 std::string italianKeys(std::string keys) {
-    for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"}, std::pair{"Return", "Invio"}}) {
+    for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"},
+                                           {"Return", "Invio"},
+                                           {"PgUp", "PagSu"},
+                                           {"PgDown", "PagGiù"},
+                                           {"Left", "Freccia sinistra"},
+                                           {"Right", "Freccia destra"}}) {
         const std::size_t at = keys.find(english);
         if (at != std::string::npos) {
             keys.replace(at, std::string_view(english).size(), italian);
@@ -64,6 +71,43 @@ TEST(GuidaTest, EveryCommandOfTheChartsHasItsRowAndKeys) {
 TEST(GuidaTest, EveryKindOfChartIsNamed) {
     for (const std::string_view option : OpzioniTipoGrafico) {
         EXPECT_NE(guida().find("«" + std::string(option) + "»"), std::string::npos) << option;
+    }
+}
+
+std::string rowOf(const EffettoGesto& effect) {
+    constexpr std::array luoghi{"casella di un giorno", "casella senza giorno", "nome", "riga senza nome"};
+    constexpr std::array cursori{"va alla casella", "va alla riga del nome"};
+    constexpr std::array scelte{"sceglie e mostra i totali", "resta, i totali spariscono",
+                                "mostra i totali del giorno"};
+    const std::string vista = effect.tipo == TipoPlanner::Mensile       ? "mensile"
+                              : effect.tipo == TipoPlanner::Giornaliero ? "giornaliero"
+                                                                        : "annuale";
+    return "| " + vista + " | " + luoghi.at(static_cast<std::size_t>(effect.luogo)) + " | " +
+           (effect.giorno ? "diventa quello della casella" : "resta") + " | " +
+           cursori.at(static_cast<std::size_t>(effect.cursore)) + " | " +
+           scelte.at(static_cast<std::size_t>(effect.scelta)) + " |\n";
+}
+
+TEST(GuidaTest, SaysWhatEachGestureMoves) {
+    for (const EffettoGesto& effect : EffettiGesti) {
+        EXPECT_NE(guida().find(rowOf(effect)), std::string::npos) << rowOf(effect);
+    }
+}
+
+TEST(GuidaTest, NamesEveryGestureAndWhatFollowsIt) {
+    for (const DescrizioneMezzo& mezzo : Mezzi) {
+        const std::string after = mezzo.menu ? "si apre il menu |" : mezzo.consulta ? "consulta |" : "|";
+        const std::string row = "| " + std::string(mezzo.nome) + " | " + after + "\n";
+        EXPECT_NE(guida().find(row), std::string::npos) << row;
+    }
+}
+
+TEST(GuidaTest, NamesTheKeysOfEveryPeriodButton) {
+    for (const PulsantePeriodo& button : PulsantiPeriodo) {
+        std::istringstream keys{std::string(button.scorciatoia)};
+        for (std::string each; std::getline(keys >> std::ws, each, ';');) {
+            EXPECT_NE(guida().find(italianKeys(each)), std::string::npos) << italianKeys(each);
+        }
     }
 }
 
