@@ -92,6 +92,10 @@ std::string nameOf(const Prova& prova) {
     return std::string(1, static_cast<char>(prova.tipo)) + "_" + prova.posto.nome + "_" + what;
 }
 
+void PrintTo(const Prova& prova, std::ostream* out) {
+    *out << nameOf(prova);
+}
+
 /// What can move.
 struct Stato {
     std::string giorno;

@@ -127,6 +127,10 @@ struct Office {
     unsigned seed;
 };
 
+void PrintTo(const Office& office, std::ostream* out) {
+    *out << static_cast<char>(office.tipo) << " on " << office.giorno << ", seed " << office.seed;
+}
+
 class OneDayTest : public testing::TestWithParam<Office> {
 protected:
     OneDayTest() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/window_bench.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCalendarWidget>
@@ -189,6 +190,15 @@ TEST_F(OwnMovesTest, InTheYearlyPlannerAPickedDayShowsItsTotals) {
     Q_EMIT bench.widget<QCalendarWidget>("calendario").clicked(QDate(2006, 3, 21));
     EXPECT_EQ(text("scad"), QString());
     EXPECT_EQ(bench.griglia().cella(3, 22).sfondo, Colore::navy);
+}
+
+TEST_F(OwnMovesTest, AScreenReaderPressesTheCellThatTheCursorStandsOn) {
+    bench.open("M");
+    auto* table = QAccessible::queryAccessibleInterface(&bench.view())->tableInterface();
+    table->cellAt(1, 16)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(bench.base.sessione.collab, "RB");
+    EXPECT_EQ(bench.shownDay(), "20060315");
+    EXPECT_EQ(bench.view().currentIndex(), bench.index(3, 17));
 }
 
 TEST_F(OwnMovesTest, AHeldEscapeClosesTheListAndNotThePlanner) {

@@ -21,13 +21,14 @@ GridModel::~GridModel() {
 }
 
 QModelIndex GridModel::index(int row, int column, const QModelIndex& parent) const {
-    // The toolkit keeps an index for each cell that an assistive program has read, in a table by row * 16 + column +
-    // identifier. Where rows are wider than 16 cells, cells would share places, thousands of them one; giving back
-    // an office of 500 would take minutes. The identifier makes the rows lie apart.
+    // The toolkit keeps an index for each cell that an assistive program has read, in a table by row * 16 +
+    // column + identifier. Where rows are wider than 16 cells, cells would share places, thousands of them
+    // one; giving back an office of 500 would take minutes. The identifier makes the rows lie apart.
     constexpr quintptr hashedRow = 16;
     const auto apart = static_cast<quintptr>(std::max(m_cols, 0));
     return hasIndex(row, column, parent)
-               ? createIndex(row, column, static_cast<quintptr>(row) * (apart > hashedRow ? apart - hashedRow : 0))
+               ? createIndex(row, column,
+                             static_cast<quintptr>(row) * (apart > hashedRow ? apart - hashedRow : 0))
                : QModelIndex();
 }
 

@@ -9,7 +9,6 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -151,10 +150,10 @@ void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
 
 void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTableView::selectionChanged(selected, deselected);
-    // Mouse and keys do not get here: a screen reader has selected a cell.
-    const QModelIndexList cells = m_byCode ? QModelIndexList() : selected.indexes();
-    if (!cells.isEmpty()) {
-        announce(cells.front(), Mezzo::assistenza);
+    // Nothing is selected by mouse, keys or code: a screen reader has pressed a cell.
+    if (!selected.isEmpty()) {
+        announce(selected.indexes().front(), Mezzo::assistenza);
+        selectionModel()->clearSelection(); // so that the same cell can be pressed again
         scrollTo(currentIndex());
     }
 }
@@ -173,13 +172,11 @@ void GridView::showCurrentCell() {
     const Griglia& griglia = m_model->griglia();
     const QModelIndex wanted =
         m_model->index(griglia.Row() - griglia.FixedRows(), griglia.Col() - Griglia::FixedCols());
-    if (wanted == currentIndex() && selectionModel()->isSelected(wanted)) {
-        return;
+    if (wanted != currentIndex()) {
+        setAutoScroll(false);
+        selectionModel()->setCurrentIndex(wanted, QItemSelectionModel::NoUpdate);
+        setAutoScroll(true);
     }
-    const QScopedValueRollback byCode(m_byCode, true);
-    setAutoScroll(false);
-    setCurrentIndex(wanted);
-    setAutoScroll(true);
 }
 
 void GridView::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {

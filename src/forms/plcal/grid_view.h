@@ -76,7 +76,6 @@ private:
     GridHeader* m_names;
     GridCorner* m_corner;
     Scala m_scala;
-    bool m_byCode = false;
 };
 
 } // namespace planner

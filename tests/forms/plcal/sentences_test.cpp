@@ -44,6 +44,36 @@ TEST_F(SentencesTest, AQuarterOfTheDayNamesItsHourAndTheAppointmentThatCoversIt)
     EXPECT_EQ(at(1, 1), "Bianchi Rosa, mercoledì 15 marzo 2006, ore 0:00");
 }
 
+TEST_F(SentencesTest, SeveralRecordsOfOneDayAreNamedTogetherAndThePictureIsTheLast) {
+    bench.putRighe(
+        {riga("RB", "20060315", {{1, "00002"}}), riga("RB", "20060315", {{8, "00001"}}), RigaPlanner{}});
+    open("M");
+    EXPECT_EQ(at(3, 17), "Rossi Bruno, mercoledì 15 marzo 2006: scadenze, impegni vari");
+    EXPECT_EQ(controlli.Flxm.cella(3, 17).immagine, 9);
+}
+
+TEST_F(SentencesTest, AppointmentsThatOverlapAreCountedAndTheirKindsNamed) {
+    bench.putRighe({conOrario(riga("RB", "20060315", {{1, "1"}}), "08", "00", "0000100"),
+                    conOrario(riga("RB", "20060315", {{2, "1"}}), "08", "15", "0000015"),
+                    conOrario(riga("RB", "20060315", {{9, "1"}}), "08", "15", "0000015"), RigaPlanner{}});
+    open("G");
+    EXPECT_EQ(at(2, 33), "Rossi Bruno, mercoledì 15 marzo 2006, ore 8:00: scadenze");
+    EXPECT_EQ(at(2, 34), "Rossi Bruno, mercoledì 15 marzo 2006, ore 8:15: 3 impegni (scadenze, pratiche)");
+}
+
+TEST_F(SentencesTest, ANameTellsTheEntriesThatStandBesideIt) {
+    bench.putRighe({riga("RB", "20060315", {{7, "1"}}), RigaPlanner{}});
+    open("G");
+    EXPECT_EQ(fraseNome(controlli, TipoPlanner::Giornaliero, 2), "Rossi Bruno: note riservate");
+    EXPECT_EQ(fraseNome(controlli, TipoPlanner::Mensile, 2), "") << "a grid that is not shown says nothing";
+}
+
+TEST_F(SentencesTest, AGridThatIsNotShownSaysNothing) {
+    open("A");
+    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Mensile, 3, 17), "");
+    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Giornaliero, 30, 90), "");
+}
+
 TEST_F(SentencesTest, AYearlyDayNamesItsDateAndTotals) {
     auto mesi = annoPlanner("2006", {{3, 17}});
     mesi[2].testi[16].assign("00010002000300000000000000000004000000000000");
