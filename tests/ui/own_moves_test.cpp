@@ -251,6 +251,20 @@ TEST_F(OwnMovesTest, EachRequestOpensWithTheCursorsRowInSightWhereverTheLastOneW
     EXPECT_EQ(bar->value(), 0);
 }
 
+TEST_F(OwnMovesTest, TheCursorsRowStaysInSightWhenTheWindowSystemTakesRoomAway) {
+    std::vector<Collaboratore> staff(30, collaboratore("ZZ", "Nome"));
+    staff.back().codice.assign("RB"); // whom the request names
+    bench.base.putCollaboratori(staff);
+    bench.open("M");
+    const auto inSight = [&] {
+        return bench.view().viewport()->rect().contains(bench.view().visualRect(bench.view().currentIndex()));
+    };
+    EXPECT_TRUE(inSight());
+    bench.vista.resize(bench.vista.width(), bench.vista.height() - 50);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(inSight());
+}
+
 TEST_F(OwnMovesTest, ComingBackFromAnotherWindowActivatesAgain) {
     bench.open("G");
     ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.vista));

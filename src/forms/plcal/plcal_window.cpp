@@ -252,6 +252,7 @@ void PlcalWindow::rinvia(std::function<void()> azione) {
 
 void PlcalWindow::mostra() {
     m_pressedHere = false;
+    m_untouched = true;
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();
@@ -317,7 +318,9 @@ bool PlcalWindow::event(QEvent* event) {
 }
 
 bool PlcalWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick) {
+    const QEvent::Type type = event->type();
+    const bool press = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (!press && type != QEvent::Wheel && type != QEvent::KeyPress) {
         return false;
     }
     const auto* widget = qobject_cast<QWidget*>(watched);
@@ -325,13 +328,18 @@ bool PlcalWindow::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     // The second press of a double click whose first one has answered the request before.
-    const bool strayed = event->type() == QEvent::MouseButtonDblClick && !m_pressedHere;
-    m_pressedHere = true;
+    const bool strayed = type == QEvent::MouseButtonDblClick && !m_pressedHere;
+    m_pressedHere = m_pressedHere || press;
+    m_untouched = false;
     return strayed;
 }
 
 void PlcalWindow::resizeEvent(QResizeEvent*) {
     fillRemainingSpace();
+    GridView* grid = visibleGrid();
+    if (m_untouched && grid != nullptr) {
+        grid->scrollTo(grid->currentIndex()); // the window system's frame has taken some of the room
+    }
 }
 
 void PlcalWindow::setSmallestSize() {

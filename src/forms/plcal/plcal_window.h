@@ -86,6 +86,7 @@ private:
     std::vector<QShortcut*> m_periodKeys;
     QTimer m_mezzanotte;
     bool m_pressedHere = false;    // the mouse, since the window was shown for this request
+    bool m_untouched = true;       // the user has done nothing since then
     bool m_leftForMessage = false; // the window is inactive because of a message box of its own
 };
 
