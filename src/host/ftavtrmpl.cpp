@@ -23,6 +23,17 @@ Seguito Ftavtrmpl::Form_Load() {
     return Seguito::Continua;
 }
 
+template <typename Work>
+Seguito Ftavtrmpl::withoutTicks(Work work) {
+    struct Pause {
+        PeriodicTimer& timer;
+        ~Pause() { timer.setEnabled(true); } // whatever happens: the host counts on the next tick
+    };
+    Timer1.setEnabled(false);
+    const Pause pause{Timer1};
+    return work();
+}
+
 Seguito Ftavtrmpl::Timer1_Timer() {
     if (!m_files.fileExists(FileLockPl)) {
         m_servita.reset();
@@ -31,9 +42,7 @@ Seguito Ftavtrmpl::Timer1_Timer() {
     if (!m_files.fileExists(m_collegamento.PathTransito())) {
         return Seguito::Termina;
     }
-    Timer1.setEnabled(false); // no tick while the planner or a message is open
-    const Seguito seguito = lookAtRequest();
-    Timer1.setEnabled(true);
+    const Seguito seguito = withoutTicks([this] { return lookAtRequest(); });
     if (seguito == Seguito::Termina) {
         m_collegamento.releaseEngine();
     }

@@ -44,6 +44,9 @@ private:
         bool scritta;
     };
 
+    /// No tick comes while the planner or a message is open.
+    template <typename Work>
+    Seguito withoutTicks(Work work);
     Seguito lookAtRequest();
     bool readRequest();
     bool alreadyServed() const;
