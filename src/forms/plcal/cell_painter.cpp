@@ -17,7 +17,6 @@ constexpr QRgb LineColor = qRgb(200, 200, 188);
 constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
 constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
 constexpr QRgb TodayColor = qRgb(0, 110, 60);
-constexpr int BarMargin = 3;
 constexpr int TextMargin = 4;
 constexpr int QuartersPerHour = 4;
 
@@ -31,13 +30,24 @@ bool endsGroup(const Griglia& griglia, int col) {
     return col == 0 || col % group == 0;
 }
 
-/// The share of the cell in which the appointment's bar stands: all its height where there is one lane.
+/// Above and below the bars of a row: no more than a low row can spare.
+int barMargin(const QRect& cell) {
+    return std::clamp(cell.height() / 16, 1, 3);
+}
+
+/// The share of the cell in which the appointment's bar stands: all its height where there is one lane. Where
+/// the row is too low for its lanes they come to lie on each other, each still in sight.
 QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
-    const QRect bars = cell.adjusted(0, BarMargin, 0, -1 - BarMargin);
+    constexpr int lowest = 2; // an edge and a line of colour
+    constexpr int lowestWithGap = 3;
+    const int margin = barMargin(cell);
+    const QRect bars = cell.adjusted(0, margin, 0, -1 - margin);
     const int top = bars.height() * fascia.corsia / fascia.corsie;
     const int bottom = bars.height() * (fascia.corsia + 1) / fascia.corsie;
-    const int gap = fascia.corsie > 1 ? 1 : 0;
-    return {bars.left(), bars.top() + top, bars.width(), std::max(bottom - top - gap, 1)};
+    const int gap = fascia.corsie > 1 && bars.height() / fascia.corsie >= lowestWithGap ? 1 : 0;
+    const int height = std::max(bottom - top - gap, lowest);
+    return {bars.left(), bars.top() + std::max(std::min(top, bars.height() - height), 0), bars.width(),
+            height};
 }
 
 bool centred(const Cella& cella) {
@@ -122,19 +132,35 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
                            bool marked) {
+    constexpr int lowestWithTwoEdges = 4;
     // The bar stays in sight whatever colour a highlighted row or a marked cell has.
     painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
     painter.setPen(QColor(BarBorderColor));
     painter.drawLine(bar.topLeft(), bar.topRight());
-    painter.drawLine(bar.bottomLeft(), bar.bottomRight());
+    if (bar.height() >= lowestWithTwoEdges) {
+        painter.drawLine(bar.bottomLeft(), bar.bottomRight());
+    }
     if (col == fascia.prima) {
         painter.drawLine(bar.topLeft(), bar.bottomLeft());
-        if (fascia.immagine != 0) {
-            paintPicture(painter, bar, fascia.immagine, /*besideText=*/false);
-        }
+        paintBarPicture(painter, bar, fascia.immagine);
     }
     if (col == fascia.ultima) {
         painter.drawLine(bar.topRight(), bar.bottomRight());
+    }
+}
+
+void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
+    constexpr int smallestWithCorners = 20; // a side below which the corners are too small to tell apart
+    constexpr int smallest = 3;
+    if (picture == 0 || pictureSide(bar) >= smallestWithCorners) {
+        paintPicture(painter, bar, picture, /*besideText=*/false);
+        return;
+    }
+    const QRect place = bar.adjusted(2, 1, -1, -1);
+    const QPixmap& line = m_pictures.line(picture, place.size(), painter.device()->devicePixelRatioF());
+    const int height = qRound(line.deviceIndependentSize().height());
+    if (height >= smallest) {
+        painter.drawPixmap(QPoint(place.left(), place.top() + (place.height() - height) / 2), line);
     }
 }
 
