@@ -220,6 +220,16 @@ TEST_F(ChartWindowTest, SaysWhoseHoursItShows) {
     }
 }
 
+TEST_F(ChartWindowTest, TheLineSaysFirstThatTheHoursAreNotUpToDate) {
+    const QString notice = QStringLiteral("Dati non aggiornati: wgrafici non si legge. ");
+    bench.base.files.remove(PlannerBench::path(FileGrafici));
+    openChart("G", [&notice](QDialog& dialog) {
+        EXPECT_TRUE(status(dialog).startsWith(notice + QStringLiteral("Ore dei collaboratori")));
+        hover(chart(dialog), 1);
+        EXPECT_EQ(status(dialog), notice + QStringLiteral("Rossi Bruno (RB): 0:00"));
+    });
+}
+
 TEST_F(ChartWindowTest, TheFrameIsPaperWithALineOnADarkDesktopToo) {
     const QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(35, 38, 41)));

@@ -166,7 +166,7 @@ void ChartDialog::placeStrip(const QRect& strip) {
 }
 
 void ChartDialog::say(const QString& text, const QString& spoken) {
-    m_stato->setText(text);
+    m_stato->setText(fromUtf8(grafico().avviso) + text);
     m_stato->setAccessibleName(spoken);
 }
 
