@@ -307,6 +307,23 @@ TEST_F(ChartWindowTest, TheArrowKeysWalkTheValues) {
     });
 }
 
+TEST_F(ChartWindowTest, AMarkOnAValueOfNoHoursStandsOnTheAxisAndLeavesItsNumbersWhole) {
+    openChart("M", [](QDialog& dialog) {
+        ChartView& view = chart(dialog);
+        view.setFocus();
+        const ChartArea plot = view.chartLayout().plot;
+        const QRect numbers(0, 0, static_cast<int>(plot.x) - 1, view.viewport()->height());
+        const QImage before = view.viewport()->grab().toImage();
+        QTest::keyClick(&view, Qt::Key_Home);
+        const QImage after = view.viewport()->grab().toImage();
+        EXPECT_EQ(after.copy(numbers), before.copy(numbers));
+        const QRectF bar(view.visualRect(view.model()->index(0, 0)));
+        EXPECT_EQ(
+            after.pixelColor(QPoint(static_cast<int>(bar.center().x()), static_cast<int>(plot.bottom()) - 6)),
+            Qt::black);
+    });
+}
+
 TEST_F(ChartWindowTest, InAPieTheArrowKeysWalkTheSlices) {
     openChart("M", [](QDialog& dialog) {
         choose(dialog, 2);
