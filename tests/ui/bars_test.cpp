@@ -180,6 +180,34 @@ TEST_F(BarsTest, AllFourKindsHaveTheirDrawingInALowBar) {
     EXPECT_GT(ink(one, cell(1, height)), 2) << "the deadline among them";
 }
 
+TEST_F(BarsTest, TheDrawingsAreNeverSmallerThanTheCornersOfASquareWouldBe) {
+    for (const int rowHeight : {Plain, 40, Detailed}) {
+        for (const int count : {1, 2, 3, 4}) {
+            height = rowHeight;
+            columns = 2;
+            put(std::vector<FasciaImpegno>(static_cast<std::size_t>(count), {1, 2, AllKinds}));
+            const int lane = rowHeight / count;
+            const int corner = std::min(Width, lane - 4) / 2;
+            EXPECT_GE(ink(paint(), cell(1, height)), count * corner * corner / 8)
+                << rowHeight << " " << count;
+        }
+    }
+}
+
+TEST_F(BarsTest, LinesAreSharpOnAScreenOfTwiceTheDensity) {
+    put({{1, 4, Deadline}});
+    QImage image(2 * Width, 2 * height, QImage::Format_RGB32);
+    image.setDevicePixelRatio(2);
+    QPainter target(&image);
+    painter.paint(target, cell(1, height), griglia, Row, 1);
+    target.end();
+    EXPECT_EQ(image.pixel(0, height), Edge);
+    EXPECT_EQ(image.pixel(1, height), Edge);
+    EXPECT_NE(image.pixel(2, height), Edge);
+    EXPECT_EQ(image.pixel(Width, 2 * height - 2), image.pixel(Width, 2 * height - 1)) << "the row's line";
+    EXPECT_NE(image.pixel(Width, 2 * height - 3), image.pixel(Width, 2 * height - 2));
+}
+
 TEST_F(BarsTest, AHighlightedRowAndAMarkedCellLeaveTheBarsInSight) {
     put({{1, 6, Deadline}, {4, 9, Deadline}});
     for (int column = 1; column <= ColonneQuarti; ++column) {

@@ -35,19 +35,31 @@ int barMargin(const QRect& cell) {
     return std::clamp(cell.height() / 16, 1, 3);
 }
 
-/// The share of the cell in which the appointment's bar stands: all its height where there is one lane. Where
-/// the row is too low for its lanes they come to lie on each other, each still in sight.
+/// The share of the cell in which the appointment's bar stands: all its height where there is one lane. All
+/// lanes are equally high. Where the row is too low for them they come to lie on each other, each in sight.
 QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
     constexpr int lowest = 2; // an edge and a line of colour
-    constexpr int lowestWithGap = 3;
     const int margin = barMargin(cell);
     const QRect bars = cell.adjusted(0, margin, 0, -1 - margin);
-    const int top = bars.height() * fascia.corsia / fascia.corsie;
-    const int bottom = bars.height() * (fascia.corsia + 1) / fascia.corsie;
-    const int gap = fascia.corsie > 1 && bars.height() / fascia.corsie >= lowestWithGap ? 1 : 0;
-    const int height = std::max(bottom - top - gap, lowest);
-    return {bars.left(), bars.top() + std::max(std::min(top, bars.height() - height), 0), bars.width(),
-            height};
+    const int share = bars.height() / fascia.corsie;
+    const int gap = fascia.corsie > 1 && share > lowest ? 1 : 0;
+    const int height = std::max(share - gap, lowest);
+    const int top = std::min(bars.height() * fascia.corsia / fascia.corsie, bars.height() - height);
+    return {bars.left(), bars.top() + std::max(top, 0), bars.width(), height};
+}
+
+/// Lines one pixel wide inside a rectangle's edges, sharp on every screen.
+QRect leftLine(const QRect& rect) {
+    return {rect.left(), rect.top(), 1, rect.height()};
+}
+QRect rightLine(const QRect& rect) {
+    return {rect.right(), rect.top(), 1, rect.height()};
+}
+QRect topLine(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.width(), 1};
+}
+QRect bottomLine(const QRect& rect) {
+    return {rect.left(), rect.bottom(), rect.width(), 1};
 }
 
 bool centred(const Cella& cella) {
@@ -105,8 +117,10 @@ int CellPainter::sideBesideText(const QRect& rect) const {
 
 QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree) const {
     const int pictureWidth = cella.immagine != 0 ? sideBesideText(rect) + TextMargin : 0;
-    const int left = std::max(keptFree, centred(cella) ? 0 : TextMargin);
-    return rect.adjusted(left, 0, -1 - std::max(keptFree, pictureWidth), -1);
+    constexpr int narrowPart = 20; // of a narrow column: as little as this fraction
+    const int margin = centred(cella) ? std::min(TextMargin, rect.width() / narrowPart) : TextMargin;
+    const int right = std::max(pictureWidth, centred(cella) ? margin : 0);
+    return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
@@ -133,33 +147,31 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
                            bool marked) {
     constexpr int lowestWithTwoEdges = 4;
+    const QColor edge(BarBorderColor);
     // The bar stays in sight whatever colour a highlighted row or a marked cell has.
     painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
-    painter.setPen(QColor(BarBorderColor));
-    painter.drawLine(bar.topLeft(), bar.topRight());
+    painter.fillRect(topLine(bar), edge);
     if (bar.height() >= lowestWithTwoEdges) {
-        painter.drawLine(bar.bottomLeft(), bar.bottomRight());
+        painter.fillRect(bottomLine(bar), edge);
     }
     if (col == fascia.prima) {
-        painter.drawLine(bar.topLeft(), bar.bottomLeft());
+        painter.fillRect(leftLine(bar), edge);
         paintBarPicture(painter, bar, fascia.immagine);
     }
     if (col == fascia.ultima) {
-        painter.drawLine(bar.topRight(), bar.bottomRight());
+        painter.fillRect(rightLine(bar), edge);
     }
 }
 
 void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
-    constexpr int smallestWithCorners = 20; // a side below which the corners are too small to tell apart
+    constexpr int lowBar = 24; // below, the corners of a square would often be too small to tell apart
     constexpr int smallest = 3;
-    if (picture == 0 || pictureSide(bar) >= smallestWithCorners) {
-        paintPicture(painter, bar, picture, /*besideText=*/false);
-        return;
-    }
     const QRect place = bar.adjusted(2, 1, -1, -1);
     const QPixmap& line = m_pictures.line(picture, place.size(), painter.device()->devicePixelRatioF());
     const int height = qRound(line.deviceIndependentSize().height());
-    if (height >= smallest) {
+    if (bar.height() >= lowBar || height <= pictureSide(bar) / 2) {
+        paintPicture(painter, bar, picture, /*besideText=*/false);
+    } else if (height >= smallest) {
         painter.drawPixmap(QPoint(place.left(), place.top() + (place.height() - height) / 2), line);
     }
 }
@@ -171,10 +183,8 @@ void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
 }
 
 void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
-    painter.setPen(QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
-    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
-    painter.setPen(QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
-    painter.drawLine(rect.topRight(), rect.bottomRight());
+    painter.fillRect(bottomLine(rect), QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
+    painter.fillRect(rightLine(rect), QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
 }
 
 } // namespace planner
