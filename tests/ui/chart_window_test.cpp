@@ -220,6 +220,16 @@ TEST_F(ChartWindowTest, SaysWhoseHoursItShows) {
     }
 }
 
+TEST_F(ChartWindowTest, TheLineSaysFirstThatTheHoursAreNotUpToDate) {
+    const QString notice = QStringLiteral("Dati non aggiornati: wgrafici non si legge. ");
+    bench.base.files.remove(PlannerBench::path(FileGrafici));
+    openChart("G", [&notice](QDialog& dialog) {
+        EXPECT_TRUE(status(dialog).startsWith(notice + QStringLiteral("Ore dei collaboratori")));
+        hover(chart(dialog), 1);
+        EXPECT_EQ(status(dialog), notice + QStringLiteral("Rossi Bruno (RB): 0:00"));
+    });
+}
+
 TEST_F(ChartWindowTest, TheFrameIsPaperWithALineOnADarkDesktopToo) {
     const QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(35, 38, 41)));
@@ -294,6 +304,23 @@ TEST_F(ChartWindowTest, TheArrowKeysWalkTheValues) {
         EXPECT_EQ(status(dialog), QStringLiteral("1 marzo: 0:00"));
         QTest::keyClick(&chart(dialog), Qt::Key_End);
         EXPECT_EQ(status(dialog), QStringLiteral("31 marzo: 0:00"));
+    });
+}
+
+TEST_F(ChartWindowTest, AMarkOnAValueOfNoHoursStandsOnTheAxisAndLeavesItsNumbersWhole) {
+    openChart("M", [](QDialog& dialog) {
+        ChartView& view = chart(dialog);
+        view.setFocus();
+        const ChartArea plot = view.chartLayout().plot;
+        const QRect numbers(0, 0, static_cast<int>(plot.x) - 1, view.viewport()->height());
+        const QImage before = view.viewport()->grab().toImage();
+        QTest::keyClick(&view, Qt::Key_Home);
+        const QImage after = view.viewport()->grab().toImage();
+        EXPECT_EQ(after.copy(numbers), before.copy(numbers));
+        const QRectF bar(view.visualRect(view.model()->index(0, 0)));
+        EXPECT_EQ(
+            after.pixelColor(QPoint(static_cast<int>(bar.center().x()), static_cast<int>(plot.bottom()) - 6)),
+            Qt::black);
     });
 }
 

@@ -18,6 +18,7 @@ struct SeenBox {
     QString title, text, button;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     Qt::TextFormat format = Qt::AutoText;
+    bool pictureOnButton = false;
 };
 
 /// Shows the message and closes its box with the Enter key as soon as it stands.
@@ -27,8 +28,8 @@ SeenBox showAndConfirm(const Message& message) {
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             poll.stop();
-            seen = {box->windowTitle(), box->text(), box->button(QMessageBox::Ok)->text(), box->icon(),
-                    box->textFormat()};
+            seen = {box->windowTitle(), box->text(),       box->button(QMessageBox::Ok)->text(),
+                    box->icon(),        box->textFormat(), !box->button(QMessageBox::Ok)->icon().isNull()};
             QTest::keyClick(box, Qt::Key_Return);
         }
     });
@@ -46,6 +47,12 @@ TEST(MessageBoxesTest, TitleTextAndIconAreThoseOfTheMessage) {
     EXPECT_EQ(seen.text, QStringLiteral("Errore su File :C:\\arch\\wrighipl"));
     EXPECT_EQ(seen.icon, QMessageBox::Information);
     EXPECT_EQ(showAndConfirm({MessageIcon::Critical, "Planner", "x"}).icon, QMessageBox::Critical);
+}
+
+TEST(MessageBoxesTest, ItsButtonBearsAWordAlone) {
+    const SeenBox seen = showAndConfirm({MessageIcon::Information, "Planner", "x"});
+    EXPECT_EQ(seen.button, QStringLiteral("OK"));
+    EXPECT_FALSE(seen.pictureOnButton);
 }
 
 TEST(MessageBoxesTest, MarkupInAMessageIsShownAsItIs) {

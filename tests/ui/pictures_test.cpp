@@ -61,12 +61,30 @@ TEST(PicturesTest, APictureIsSharpAtTwiceTheResolution) {
     EXPECT_EQ(picture.devicePixelRatio(), 2);
 }
 
+TEST(PicturesTest, InALineEachDrawingHasAPlaceOfItsOwnAndAllTheRoomThereIs) {
+    Pictures pictures;
+    for (int number = 1; number <= 15; ++number) {
+        const int count = static_cast<int>(chiaveImmagine(number).size());
+        const QImage image = pictures.line(number, QSize(80, 12), 1).toImage();
+        EXPECT_EQ(image.size(), QSize(12 * count, 12)) << "picture " << number;
+        for (int place = 0; place < count; ++place) {
+            EXPECT_TRUE(hasInk(image, QRect(12 * place, 0, 12, 12))) << "picture " << number;
+        }
+    }
+    EXPECT_EQ(pictures.line(1, QSize(20, 12), 1).size(), QSize(20, 5)) << "four as wide as the room";
+    EXPECT_EQ(pictures.line(ImmaginePresenza, QSize(80, 12), 1).size(), QSize(12, 12));
+    EXPECT_EQ(pictures.line(8, QSize(80, 12), 2).size(), QSize(24, 24)) << "sharp at twice the resolution";
+}
+
 TEST(PicturesTest, NumbersBeyondTheImageListGiveNoPicture) {
     Pictures pictures;
     for (const int number : {0, 17, -1, 255}) {
         EXPECT_TRUE(pictures.picture(number, Side, 1).isNull()) << number;
+        EXPECT_TRUE(pictures.line(number, QSize(Side, Side), 1).isNull()) << number;
     }
     EXPECT_TRUE(pictures.picture(1, 0, 1).isNull());
+    EXPECT_TRUE(pictures.line(1, QSize(3, 12), 1).isNull());
+    EXPECT_TRUE(pictures.line(ImmaginePresenza, QSize(-2, 12), 1).isNull());
 }
 
 } // namespace planner

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plfgraf/chart_view.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "ui/measures.h"
 #include "ui/modal_dialog.h"
 #include "ui/staff_bench.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
@@ -34,6 +37,11 @@ struct WindowsRoomTest : testing::Test {
     /// Expects every label and button of the dialog to have the room it asks for.
     static void expectWhole(const QWidget& dialog) {
         expectFits(dialog);
+        expectTextsWhole(dialog);
+        EXPECT_EQ(overlaps(visibleChildren(dialog)), "");
+    }
+
+    static void expectTextsWhole(const QWidget& dialog) {
         for (const QWidget* part : dialog.findChildren<QWidget*>()) {
             const bool text = qobject_cast<const QLabel*>(part) != nullptr ||
                               qobject_cast<const QAbstractButton*>(part) != nullptr;
@@ -43,7 +51,38 @@ struct WindowsRoomTest : testing::Test {
                 EXPECT_TRUE(legible(part->font())) << describe(*part);
             }
         }
-        EXPECT_EQ(overlaps(visibleChildren(dialog)), "");
+    }
+
+    /// Opens the chart of a kind of planner; the first staff member is selected.
+    void openChart(const char* tipo, const std::function<void(QDialog&)>& user) {
+        bench.planner.base.putGrafici({rigaGrafico("RB", "20060315", "0007:30")});
+        bench.planner.open(tipo);
+        bench.planner.finestra.griglia_Gesto({3, 17});
+        bool shown = false;
+        whileModal([&] { bench.planner.finestra.Toolbar1_ButtonClick("grafici"); },
+                   [&](QDialog& dialog) {
+                       shown = true;
+                       user(dialog);
+                       dialog.close();
+                   });
+        EXPECT_TRUE(shown) << tipo;
+    }
+
+    /// Expects everything in the chart window to have its room; only the frame with the kinds of chart stands
+    /// over something, the chart.
+    static void expectChartWhole(const QDialog& dialog) {
+        expectFits(dialog);
+        expectTextsWhole(dialog);
+        QWidgetList parts = visibleChildren(dialog);
+        auto* frame = dialog.findChild<QGroupBox*>(QStringLiteral("FrameTipo_Grafico"));
+        auto* chart = dialog.findChild<ChartView*>();
+        for (const QWidget* part : parts) {
+            EXPECT_TRUE(dialog.rect().contains(part->geometry())) << describe(*part);
+        }
+        EXPECT_TRUE(chart->geometry().contains(frame->geometry())) << describe(*frame);
+        EXPECT_EQ(overlaps(visibleChildren(*frame)), "");
+        parts.removeOne(frame);
+        EXPECT_EQ(overlaps(parts), "");
     }
 };
 
@@ -92,6 +131,41 @@ TEST_F(WindowsRoomTest, ALongMessageIsWhole) {
             dialog.reject();
         });
     EXPECT_TRUE(shown);
+}
+
+TEST_F(WindowsRoomTest, TheChartOfEachKindIsWhole) {
+    for (const char* tipo : {"M", "G", "A"}) {
+        openChart(tipo, [](QDialog& dialog) {
+            expectChartWhole(dialog);
+            EXPECT_FALSE(dialog.findChild<FittedLabel*>(QStringLiteral("stato"))->fitted().cut);
+        });
+    }
+}
+
+TEST_F(WindowsRoomTest, TheChartGetsNoSmallerThanItCanShow) {
+    openChart("M", [](QDialog& dialog) {
+        dialog.resize(10, 10);
+        EXPECT_EQ(dialog.size(), dialog.minimumSize());
+        expectChartWhole(dialog);
+    });
+}
+
+TEST_F(WindowsRoomTest, ALargerChartStaysWhole) {
+    openChart("G", [](QDialog& dialog) {
+        dialog.resize(dialog.screen()->availableSize() - Frame);
+        expectChartWhole(dialog);
+    });
+}
+
+TEST_F(WindowsRoomTest, TheStaffListsCountFitsItsPlace) {
+    bench.open();
+    const auto* count = bench.window().findChild<FittedLabel*>(QStringLiteral("conteggio"));
+    ASSERT_NE(count, nullptr);
+    bench.window().resize(10, 10);
+    bench.press(ComandoCollab::selezionaTutti);
+    EXPECT_FALSE(count->text().isEmpty());
+    EXPECT_FALSE(count->fitted().cut);
+    EXPECT_GE(count->height(), lineHeight(count->fitted().font));
 }
 
 TEST_F(WindowsRoomTest, TheStaffWindowIsWhole) {

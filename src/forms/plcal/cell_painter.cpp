@@ -17,7 +17,6 @@ constexpr QRgb LineColor = qRgb(200, 200, 188);
 constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
 constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
 constexpr QRgb TodayColor = qRgb(0, 110, 60);
-constexpr int BarMargin = 3;
 constexpr int TextMargin = 4;
 constexpr int QuartersPerHour = 4;
 
@@ -31,13 +30,36 @@ bool endsGroup(const Griglia& griglia, int col) {
     return col == 0 || col % group == 0;
 }
 
-/// The share of the cell in which the appointment's bar stands: all its height where there is one lane.
+/// Above and below the bars of a row: no more than a low row can spare.
+int barMargin(const QRect& cell) {
+    return std::clamp(cell.height() / 16, 1, 3);
+}
+
+/// The share of the cell in which the appointment's bar stands: all its height where there is one lane. All
+/// lanes are equally high. Where the row is too low for them they come to lie on each other, each in sight.
 QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
-    const QRect bars = cell.adjusted(0, BarMargin, 0, -1 - BarMargin);
-    const int top = bars.height() * fascia.corsia / fascia.corsie;
-    const int bottom = bars.height() * (fascia.corsia + 1) / fascia.corsie;
-    const int gap = fascia.corsie > 1 ? 1 : 0;
-    return {bars.left(), bars.top() + top, bars.width(), std::max(bottom - top - gap, 1)};
+    constexpr int lowest = 2; // an edge and a line of colour
+    const int margin = barMargin(cell);
+    const QRect bars = cell.adjusted(0, margin, 0, -1 - margin);
+    const int share = bars.height() / fascia.corsie;
+    const int gap = fascia.corsie > 1 && share > lowest ? 1 : 0;
+    const int height = std::max(share - gap, lowest);
+    const int top = std::min(bars.height() * fascia.corsia / fascia.corsie, bars.height() - height);
+    return {bars.left(), bars.top() + std::max(top, 0), bars.width(), height};
+}
+
+/// Lines one pixel wide inside a rectangle's edges, sharp on every screen.
+QRect leftLine(const QRect& rect) {
+    return {rect.left(), rect.top(), 1, rect.height()};
+}
+QRect rightLine(const QRect& rect) {
+    return {rect.right(), rect.top(), 1, rect.height()};
+}
+QRect topLine(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.width(), 1};
+}
+QRect bottomLine(const QRect& rect) {
+    return {rect.left(), rect.bottom(), rect.width(), 1};
 }
 
 bool centred(const Cella& cella) {
@@ -95,8 +117,10 @@ int CellPainter::sideBesideText(const QRect& rect) const {
 
 QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree) const {
     const int pictureWidth = cella.immagine != 0 ? sideBesideText(rect) + TextMargin : 0;
-    const int left = std::max(keptFree, centred(cella) ? 0 : TextMargin);
-    return rect.adjusted(left, 0, -1 - std::max(keptFree, pictureWidth), -1);
+    constexpr int narrowPart = 20; // of a narrow column: as little as this fraction
+    const int margin = centred(cella) ? std::min(TextMargin, rect.width() / narrowPart) : TextMargin;
+    const int right = std::max(pictureWidth, centred(cella) ? margin : 0);
+    return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
@@ -122,19 +146,33 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
                            bool marked) {
+    constexpr int lowestWithTwoEdges = 4;
+    const QColor edge(BarBorderColor);
     // The bar stays in sight whatever colour a highlighted row or a marked cell has.
     painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
-    painter.setPen(QColor(BarBorderColor));
-    painter.drawLine(bar.topLeft(), bar.topRight());
-    painter.drawLine(bar.bottomLeft(), bar.bottomRight());
+    painter.fillRect(topLine(bar), edge);
+    if (bar.height() >= lowestWithTwoEdges) {
+        painter.fillRect(bottomLine(bar), edge);
+    }
     if (col == fascia.prima) {
-        painter.drawLine(bar.topLeft(), bar.bottomLeft());
-        if (fascia.immagine != 0) {
-            paintPicture(painter, bar, fascia.immagine, /*besideText=*/false);
-        }
+        painter.fillRect(leftLine(bar), edge);
+        paintBarPicture(painter, bar, fascia.immagine);
     }
     if (col == fascia.ultima) {
-        painter.drawLine(bar.topRight(), bar.bottomRight());
+        painter.fillRect(rightLine(bar), edge);
+    }
+}
+
+void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
+    constexpr int lowBar = 24; // below, the corners of a square would often be too small to tell apart
+    constexpr int smallest = 3;
+    const QRect place = bar.adjusted(2, 1, -1, -1);
+    const QPixmap& line = m_pictures.line(picture, place.size(), painter.device()->devicePixelRatioF());
+    const int height = qRound(line.deviceIndependentSize().height());
+    if (bar.height() >= lowBar || height <= pictureSide(bar) / 2) {
+        paintPicture(painter, bar, picture, /*besideText=*/false);
+    } else if (height >= smallest) {
+        painter.drawPixmap(QPoint(place.left(), place.top() + (place.height() - height) / 2), line);
     }
 }
 
@@ -145,10 +183,8 @@ void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
 }
 
 void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
-    painter.setPen(QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
-    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
-    painter.setPen(QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
-    painter.drawLine(rect.topRight(), rect.bottomRight());
+    painter.fillRect(bottomLine(rect), QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
+    painter.fillRect(rightLine(rect), QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
 }
 
 } // namespace planner

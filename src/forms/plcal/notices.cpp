@@ -36,4 +36,10 @@ std::string avvisoDati(const ControlliPlcal& controlli, const modpl& sessione) {
     return (letture.annuale ? anotherYear(controlli, sessione) : notUpToDate("wplanner")) + staff;
 }
 
+std::string avvisoGrafici(const modpl& sessione) {
+    const LettureArchivi& letture = sessione.letture;
+    return (letture.grafici ? "" : notUpToDate("wgrafici")) +
+           (letture.collaboratori ? "" : notUpToDate("wcollab"));
+}
+
 } // namespace planner

@@ -13,4 +13,7 @@ namespace planner {
 /// another year than the one shown. Empty when all is well.
 std::string avvisoDati(const ControlliPlcal& controlli, const modpl& sessione);
 
+/// The same for the charts' data.
+std::string avvisoGrafici(const modpl& sessione);
+
 } // namespace planner

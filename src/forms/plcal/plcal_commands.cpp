@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/notices.h"
 #include "forms/plcal/plcal_guard.h"
 #include "forms/plcal/yearly_day.h"
 #include "forms/plfgraf/plfgraf.h"
@@ -102,7 +103,7 @@ void plcal::showStaffList() {
 
 void plcal::showChart() {
     motore().LeggiDatiPerGrafici();
-    plfgraf form(m_sessione.archivi, m_controlli.calendario);
+    plfgraf form(m_sessione.archivi, m_controlli.calendario, avvisoGrafici(m_sessione));
     if (visualizzaGrafico(form, m_controlli.tipoVisibile, m_sessione.IndiceCollab, m_porte.messaggi)) {
         m_porte.finestraGrafici.mostra(form);
     }

@@ -6,7 +6,7 @@
 #include "forms/plfcollab/staff_toolbar.h"
 #include "forms/screen_scale.h"
 #include "platform/qt/appearance.h"
-#include "platform/qt/plain_label.h"
+#include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
 
 #include <QCloseEvent>
@@ -25,7 +25,7 @@ constexpr QSize DesignSize(840, 560);
 } // namespace
 
 PlfcollabWindow::PlfcollabWindow()
-    : m_toolbar(new StaffToolbar(this)), m_list(new StaffListView(this)), m_count(new PlainLabel(this)) {
+    : m_toolbar(new StaffToolbar(this)), m_list(new StaffListView(this)), m_count(new FittedLabel(this)) {
     setObjectName(QStringLiteral("plfcollab"));
     setWindowTitle(QStringLiteral("Selezione Collaboratori"));
     m_list->setObjectName(QStringLiteral("List_Prenotazione"));

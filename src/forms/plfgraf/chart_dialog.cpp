@@ -22,7 +22,7 @@ namespace {
 
 constexpr int TastoEscape = 27;
 constexpr double ScreenShare = 0.9; // of the screen, in each direction, that the window takes at first
-constexpr int StripMargin = 4;      // above and below what stands in the strip below the chart, pixels
+constexpr int StripMargin = 3;      // above and below what stands in the strip below the chart, pixels
 constexpr int StripGap = 6;
 constexpr int ButtonPadding = 12;                       // beyond the style's own
 constexpr int MargineGrafico = 500 / TwipsPerPixel + 1; // of the chart in the window, both sides
@@ -166,7 +166,7 @@ void ChartDialog::placeStrip(const QRect& strip) {
 }
 
 void ChartDialog::say(const QString& text, const QString& spoken) {
-    m_stato->setText(text);
+    m_stato->setText(fromUtf8(grafico().avviso) + text);
     m_stato->setAccessibleName(spoken);
 }
 

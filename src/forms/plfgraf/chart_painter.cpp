@@ -69,7 +69,10 @@ QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice) {
 QPainterPath outline(const ChartLayout& layout, std::size_t number) {
     QPainterPath path;
     if (number < layout.bars.size()) {
-        path.addRect(rectOf(layout.bars[number].area));
+        constexpr double lowest = 6; // of no hours: a mark that stands on the axis
+        QRectF bar = rectOf(layout.bars[number].area);
+        bar.setTop(std::min(bar.top(), bar.bottom() - lowest));
+        path.addRect(bar);
     }
     for (const ChartSlice& slice : layout.slices) {
         if (slice.number == number) {
@@ -234,6 +237,10 @@ void ChartPainter::paintText(QPainter& painter, const PlacedText& placed, bool o
 void ChartPainter::pointOut(QPainter& painter, const ChartLayout& layout, std::size_t number) {
     const QPainterPath path = outline(layout, number);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!layout.bars.empty()) { // the hours along the axis stay whole
+        painter.setClipRect(
+            QRectF(QPointF(layout.plot.x + 1, 0), QPointF(layout.size.width, layout.size.height)));
+    }
     // A dark line between light ones stands out from every colour.
     painter.setBrush(Qt::NoBrush);
     for (const auto& [colour, width] : {std::pair{Qt::white, 6}, std::pair{Qt::black, 2}}) {

@@ -63,6 +63,7 @@ struct Grafico {
     TipoGrafico tipo = TipoGrafico::Istogramma;
     std::string TitleText;
     std::string intestazione;        // whose hours these are, and of which month, day or year
+    std::string avviso;              // what the user must know of the data, before anything else; UTF-8
     bool titoloIncorniciato = false; // a yellow double line and a shadow around the title
     bool areaIncorniciata = false;   // a thick frame and a shadow around the plot
     std::string asseX;

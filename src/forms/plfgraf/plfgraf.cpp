@@ -3,6 +3,7 @@
 #include "forms/plfgraf/plfgraf.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace planner {
 
@@ -18,8 +19,8 @@ constexpr int FrameDallAlto = 100;
 
 } // namespace
 
-plfgraf::plfgraf(const Archivi& archivi, const Calendario& calendario)
-    : m_archivi(archivi), m_calendario(calendario) {
+plfgraf::plfgraf(const Archivi& archivi, const Calendario& calendario, std::string avviso)
+    : m_archivi(archivi), m_calendario(calendario), m_avviso(std::move(avviso)) {
     Form_Resize(Progetto);
 }
 
@@ -36,6 +37,7 @@ void plfgraf::mostra(Grafico& grafico) {
     for (Grafico* each : {&m_MSChartm, &m_MSChartg, &m_MSCharta}) {
         each->Visible = each == &grafico;
     }
+    grafico.avviso = m_avviso;
 }
 
 void plfgraf::ImpostaTipoGrafico(Grafico& grafico, bool istogramma) {

@@ -38,8 +38,9 @@ public:
     /// The window's inner size before its first resize.
     static constexpr Dimensioni Progetto{9000, 6000};
 
-    /// Reads both whenever a chart is built; they must outlive the window.
-    plfgraf(const Archivi& archivi, const Calendario& calendario);
+    /// Reads both whenever a chart is built; they must outlive the window. `avviso` is what the user must
+    /// know of the data, UTF-8; each chart carries it.
+    plfgraf(const Archivi& archivi, const Calendario& calendario, std::string avviso = {});
 
     const Grafico& MSChartm() const { return m_MSChartm; }
     const Grafico& MSChartg() const { return m_MSChartg; }
@@ -90,6 +91,7 @@ private:
 
     const Archivi& m_archivi;
     const Calendario& m_calendario;
+    std::string m_avviso;
     Grafico m_MSChartm;
     Grafico m_MSChartg;
     Grafico m_MSCharta;

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QProxyStyle>
 #include <QTranslator>
 
 #include <algorithm>
@@ -22,6 +23,20 @@ namespace planner {
 namespace {
 
 constexpr double SmallestLegible = 7; // points
+
+/// Buttons of message boxes and dialogs bear words alone, as those of the program's own windows: the
+/// toolkit's pictures for them are dark on dark desktops.
+class PlannerStyle : public QProxyStyle {
+public:
+    PlannerStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 /// What stands for the design-time fonts where they are not installed.
 QFont fontNamed(std::string_view family) {
@@ -39,7 +54,7 @@ void setUpAppearance(QApplication& application) {
     if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(translator);
     }
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new PlannerStyle); // the application owns it
     // The style's own pictures everywhere: to search a desktop's themes takes a tenth of the start. An empty
     // list would mean the system's folders.
     const QStringList own{QStringLiteral(":/planner")};

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
@@ -27,6 +29,13 @@ QRectF cornerOf(std::size_t corner, int side) {
     const double left = corner % 2 == 0 ? 0 : half + gap;
     const double top = corner < 2 ? 0 : half + gap;
     return {left, top, half, half};
+}
+
+QPixmap transparent(QSize size, qreal devicePixelRatio) {
+    QPixmap pixmap(size * devicePixelRatio);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(Qt::transparent);
+    return pixmap;
 }
 
 } // namespace
@@ -54,9 +63,7 @@ QPixmap Pictures::draw(int number, int side, qreal devicePixelRatio) const {
     if (side <= 0 || (key.empty() && number != ImmaginePresenza)) {
         return {};
     }
-    QPixmap pixmap(QSize(side, side) * devicePixelRatio);
-    pixmap.setDevicePixelRatio(devicePixelRatio);
-    pixmap.fill(Qt::transparent);
+    QPixmap pixmap = transparent({side, side}, devicePixelRatio);
     QPainter painter(&pixmap);
     if (number == ImmaginePresenza) {
         m_presence->render(&painter, QRectF(0, 0, side, side));
@@ -64,6 +71,37 @@ QPixmap Pictures::draw(int number, int side, qreal devicePixelRatio) const {
     for (const char digit : key) {
         const auto corner = static_cast<std::size_t>(digit - '1');
         m_corners.at(corner)->render(&painter, cornerOf(corner, side));
+    }
+    return pixmap;
+}
+
+const QPixmap& Pictures::line(int number, QSize room, qreal devicePixelRatio) {
+    const auto ratio = static_cast<quint64>(devicePixelRatio * 100);
+    const quint64 key = (ratio << 40) | (static_cast<quint64>(room.width()) << 24) |
+                        (static_cast<quint64>(room.height()) << 8) | static_cast<quint64>(number);
+    auto found = m_lines.find(key);
+    if (found == m_lines.end()) {
+        found = m_lines.insert(key, drawLine(number, room, devicePixelRatio));
+    }
+    return *found;
+}
+
+QPixmap Pictures::drawLine(int number, QSize room, qreal devicePixelRatio) const {
+    const std::string_view key = chiaveImmagine(number);
+    if (key.empty()) {
+        return draw(number, std::min(room.width(), room.height()), devicePixelRatio);
+    }
+    const int count = static_cast<int>(key.size());
+    const int side = std::min(room.width() / count, room.height()); // each drawing has a margin of its own
+    if (side <= 0) {
+        return {};
+    }
+    QPixmap pixmap = transparent({side * count, side}, devicePixelRatio);
+    QPainter painter(&pixmap);
+    int left = 0;
+    for (const char digit : key) {
+        m_corners.at(static_cast<std::size_t>(digit - '1'))->render(&painter, QRectF(left, 0, side, side));
+        left += side;
     }
     return pixmap;
 }

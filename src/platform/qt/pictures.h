@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QPixmap>
+#include <QSize>
 
 #include <memory>
 #include <vector>
@@ -21,13 +22,18 @@ public:
 
     /// A square picture of `side` logical pixels; null for any number but 1 to 16.
     const QPixmap& picture(int number, int side, qreal devicePixelRatio);
+    /// The same drawings side by side from left to right, as large as the room in logical pixels lets them
+    /// be; null for any number but 1 to 16.
+    const QPixmap& line(int number, QSize room, qreal devicePixelRatio);
 
 private:
     QPixmap draw(int number, int side, qreal devicePixelRatio) const;
+    QPixmap drawLine(int number, QSize room, qreal devicePixelRatio) const;
 
     std::vector<std::unique_ptr<QSvgRenderer>> m_corners; // by the digit of the picture key less one
     std::unique_ptr<QSvgRenderer> m_presence;
     QHash<quint64, QPixmap> m_drawn;
+    QHash<quint64, QPixmap> m_lines;
 };
 
 } // namespace planner

@@ -68,6 +68,27 @@ TEST_F(ChartCommandTest, TheDailyChartOfAnOfficeWithoutStaffIsAnErrorThatIsSaid)
     EXPECT_THAT(shown(), IsEmpty());
 }
 
+TEST_F(ChartCommandTest, HoursThatCouldNotBeReadAreSaidByTheChartUntilTheyCan) {
+    open("G");
+    press();
+    EXPECT_EQ(shown().back().avviso, "");
+    bench.files.remove(PlannerBench::path(FileGrafici));
+    press();
+    ASSERT_THAT(shown(), SizeIs(2));
+    EXPECT_EQ(shown().back().avviso, "Dati non aggiornati: wgrafici non si legge. ");
+    EXPECT_THAT(shown().back().serie.front().valori, ElementsAre(4, 7.5, 0)) << "what there is";
+    bench.putGrafici({rigaGrafico("RB", "20060315", "0001:00")});
+    press();
+    EXPECT_EQ(shown().back().avviso, "");
+}
+
+TEST_F(ChartCommandTest, AStaffListThatCouldNotBeReadIsSaidByTheChart) {
+    open("G");
+    bench.sessione.letture.collaboratori = false;
+    press();
+    EXPECT_EQ(shown().back().avviso, "Dati non aggiornati: wcollab non si legge. ");
+}
+
 TEST_F(ChartCommandTest, TheYearlyChartNeedsNoSelection) {
     open("A");
     press();
