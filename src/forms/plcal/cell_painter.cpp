@@ -166,8 +166,11 @@ void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpe
 void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
     constexpr int lowBar = 24; // below, the corners of a square would often be too small to tell apart
     constexpr int smallest = 3;
+    constexpr int legible = 12;
     const QRect place = bar.adjusted(2, 1, -1, -1);
-    const QPixmap& line = m_pictures.line(picture, place.size(), painter.device()->devicePixelRatioF());
+    const int largest = std::max(bar.width() / 2 - 1, legible); // about a corner's size in a high bar
+    const QSize room(place.width(), std::min(place.height(), largest));
+    const QPixmap& line = m_pictures.line(picture, room, painter.device()->devicePixelRatioF());
     const int height = qRound(line.deviceIndependentSize().height());
     if (bar.height() >= lowBar || height <= pictureSide(bar) / 2) {
         paintPicture(painter, bar, picture, /*besideText=*/false);
