@@ -194,6 +194,16 @@ TEST_F(BarsTest, TheDrawingsAreNeverSmallerThanTheCornersOfASquareWouldBe) {
     }
 }
 
+TEST_F(BarsTest, ABarAsHighAsAQuarterIsWideHasItsDrawingsInTheirCorners) {
+    height = Width + 4; // with its margins
+    put({{1, 2, Deadline}});
+    columns = 2;
+    const QImage image = paint();
+    EXPECT_GT(ink(image, QRect(0, height / 2, Width / 2, height / 2)), 20)
+        << "a deadline's: below, to the left";
+    EXPECT_EQ(ink(image, QRect(0, 0, Width, height / 2 - 1)), 0);
+}
+
 TEST_F(BarsTest, LinesAreSharpOnAScreenOfTwiceTheDensity) {
     put({{1, 4, Deadline}});
     QImage image(2 * Width, 2 * height, QImage::Format_RGB32);

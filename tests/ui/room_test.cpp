@@ -151,6 +151,7 @@ TEST_P(RoomTest, TheCalendarsHeadingIsWhole) {
         const QSize text = button->fontMetrics().size(Qt::TextSingleLine, button->text());
         EXPECT_GE(button->width(), text.width()) << name;
         EXPECT_GE(heading.height(), text.height()) << name;
+        EXPECT_DOUBLE_EQ(button->font().pointSizeF(), calendar().font().pointSizeF()) << name;
     }
 }
 

@@ -182,6 +182,14 @@ TEST_F(WindowsRoomTest, TheStaffWindowIsWhole) {
     EXPECT_EQ(overlaps(visibleChildren(*bench.arrow(Freccia::rigaSu).parentWidget())), "");
 }
 
+TEST_F(WindowsRoomTest, TheStaffWindowsPicturesGrowWithItsLetters) {
+    bench.open();
+    PlfcollabWindow& window = bench.window();
+    const double factor = window.font().pointSizeF() / carattere(Carattere::normale).punti;
+    EXPECT_NEAR(window.findChild<QToolBar*>()->iconSize().height(), 24 * factor, 1);
+    EXPECT_NEAR(bench.arrow(Freccia::rigaSu).iconSize().height(), 20 * factor, 1);
+}
+
 TEST_F(WindowsRoomTest, TheStaffWindowGetsNoSmallerThanItCanShow) {
     bench.open();
     PlfcollabWindow& window = bench.window();

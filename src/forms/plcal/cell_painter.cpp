@@ -118,7 +118,9 @@ int CellPainter::sideBesideText(const QRect& rect) const {
 QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree) const {
     const int pictureWidth = cella.immagine != 0 ? sideBesideText(rect) + TextMargin : 0;
     constexpr int narrowPart = 20; // of a narrow column: as little as this fraction
-    const int margin = centred(cella) ? std::min(TextMargin, rect.width() / narrowPart) : TextMargin;
+    constexpr int wide = 45;       // of a wide column: a margin that grows with the screen
+    const int margin = centred(cella) ? std::min(TextMargin, rect.width() / narrowPart)
+                                      : std::max(TextMargin, rect.width() / wide);
     const int right = std::max(pictureWidth, centred(cella) ? margin : 0);
     return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
@@ -164,12 +166,14 @@ void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpe
 }
 
 void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
-    constexpr int lowBar = 24; // below, the corners of a square would often be too small to tell apart
     constexpr int smallest = 3;
+    constexpr int legible = 12;
     const QRect place = bar.adjusted(2, 1, -1, -1);
-    const QPixmap& line = m_pictures.line(picture, place.size(), painter.device()->devicePixelRatioF());
+    const int largest = std::max(bar.width() / 2 - 1, legible); // about a corner's size in a high bar
+    const QSize room(place.width(), std::min(place.height(), largest));
+    const QPixmap& line = m_pictures.line(picture, room, painter.device()->devicePixelRatioF());
     const int height = qRound(line.deviceIndependentSize().height());
-    if (bar.height() >= lowBar || height <= pictureSide(bar) / 2) {
+    if (bar.height() >= bar.width() || height <= pictureSide(bar) / 2) { // corners as large as in a free row
         paintPicture(painter, bar, picture, /*besideText=*/false);
     } else if (height >= smallest) {
         painter.drawPixmap(QPoint(place.left(), place.top() + (place.height() - height) / 2), line);

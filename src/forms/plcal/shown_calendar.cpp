@@ -88,10 +88,13 @@ void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo
 
 void ShownCalendar::fitHeading() {
     const int height = std::max(this->height() / Rows, fontMetrics().height() + 2);
+    QFont letters = font();
+    letters.setBold(true);
     for (const char* part :
          {"qt_calendar_navigationbar", "qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
         if (auto* widget = findChild<QWidget*>(QLatin1String(part))) {
             widget->setFixedHeight(height);
+            widget->setFont(letters); // the toolkit's own keep the size they were made with
         }
     }
 }

@@ -8,6 +8,7 @@
 #include "platform/qt/appearance.h"
 #include "platform/qt/fitted_label.h"
 #include "platform/qt/text.h"
+#include "platform/qt/tool_commands.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ namespace planner {
 namespace {
 
 constexpr QSize DesignSize(840, 560);
+constexpr int ArrowSide = 20; // beside letters of the designed size
 
 } // namespace
 
@@ -40,7 +42,8 @@ PlfcollabWindow::~PlfcollabWindow() = default;
 void PlfcollabWindow::layOut() {
     auto* list = new QHBoxLayout;
     list->addWidget(m_list, 1);
-    list->addWidget(makeArrows());
+    m_arrows = makeArrows();
+    list->addWidget(m_arrows);
     auto* inner = new QVBoxLayout;
     inner->setContentsMargins(8, 4, 8, 6);
     inner->addLayout(list, 1);
@@ -62,7 +65,7 @@ QWidget* PlfcollabWindow::makeArrows() {
         auto* button = new QToolButton(frame);
         button->setObjectName(QStringLiteral("ButtonFrecce_") + QString::number(indice));
         button->setIcon(qtIcon(described.immagine));
-        button->setIconSize(QSize(20, 20));
+        button->setIconSize(QSize(ArrowSide, ArrowSide));
         button->setToolTip(fromUtf8(described.nome));
         button->setAccessibleName(fromUtf8(described.nome));
         button->setFocusPolicy(Qt::TabFocus);
@@ -95,6 +98,11 @@ void PlfcollabWindow::fitToScreen() {
     const QRect available = screen()->availableGeometry();
     const double factor = fontFactorFor(*screen());
     setFont(qtFont(Carattere::normale, factor));
+    fitPictures(*m_toolbar, QWIDGETSIZE_MAX);
+    for (QToolButton* arrow : m_arrows->findChildren<QToolButton*>()) {
+        const int side = qRound(ArrowSide * factor);
+        arrow->setIconSize(QSize(side, side));
+    }
     m_toolbar->setMinimumWidth(m_toolbar->sizeHint().width()); // every command stays in sight
     const QSize wanted = (QSizeF(DesignSize) * factor).toSize().expandedTo(sizeHint());
     resize(wanted.boundedTo(available.size() * 9 / 10));

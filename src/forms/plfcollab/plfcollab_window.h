@@ -50,6 +50,7 @@ private:
     plfcollab* m_form = nullptr;
     StaffToolbar* m_toolbar;
     StaffListView* m_list;
+    QWidget* m_arrows = nullptr;
     QLabel* m_count;
     QPointer<QInputDialog> m_question;
     bool m_placed = false;

@@ -235,6 +235,7 @@ void ChartPainter::paintText(QPainter& painter, const PlacedText& placed, bool o
 }
 
 void ChartPainter::pointOut(QPainter& painter, const ChartLayout& layout, std::size_t number) {
+    constexpr double narrow = 16;
     const QPainterPath path = outline(layout, number);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!layout.bars.empty()) { // the hours along the axis stay whole
@@ -242,8 +243,9 @@ void ChartPainter::pointOut(QPainter& painter, const ChartLayout& layout, std::s
             QRectF(QPointF(layout.plot.x + 1, 0), QPointF(layout.size.width, layout.size.height)));
     }
     // A dark line between light ones stands out from every colour.
+    const int lightWidth = path.boundingRect().width() < narrow ? 4 : 6; // a narrow bar keeps its own colour
     painter.setBrush(Qt::NoBrush);
-    for (const auto& [colour, width] : {std::pair{Qt::white, 6}, std::pair{Qt::black, 2}}) {
+    for (const auto& [colour, width] : {std::pair{Qt::white, lightWidth}, std::pair{Qt::black, 2}}) {
         painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawPath(path);
     }
