@@ -19,6 +19,8 @@ void PrintTo(const KindOfPlanner& kind, std::ostream* out) {
 
 class EveryObject : public ScenarioAccessibile, public testing::WithParamInterface<KindOfPlanner> {};
 
+class Focus : public ScenarioAccessibile {};
+
 class LargeOffice : public ScenarioAccessibile {
 protected:
     static constexpr int Staff = 500;
@@ -56,6 +58,22 @@ INSTANTIATE_TEST_SUITE_P(AssistiveReading, EveryObject,
                                          KindOfPlanner{'G', "Planner Giornaliero"},
                                          KindOfPlanner{'A', "Planner Annuale"}),
                          [](const auto& tested) { return std::string(1, tested.param.tipoplanner); });
+
+TEST_F(Focus, IsSaidToBeOnTheDaysThatTheArrowsGoThroughAndNowhereElse) {
+    archivio.writeStaff({"Neri Carla", "Verdi Anna"});
+    request(requestBytes('M', "20060331"));
+    lookAt("Planner Mensile");
+    bus.waitFor(planner(), "Mese successivo");
+    const auto listener = bus.listener(planner());
+    finestra().press("Left");
+    EXPECT_EQ(listener->readLine(), "Neri Carla, giovedì 30 marzo 2006");
+    finestra().press("Left");
+    EXPECT_EQ(listener->readLine(), "Neri Carla, mercoledì 29 marzo 2006");
+    finestra().press("alt+Right");
+    EXPECT_EQ(listener->readLine(), "Neri Carla, sabato 29 aprile 2006");
+    finestra().press("Down");
+    EXPECT_EQ(listener->readLine(), "Verdi Anna, sabato 29 aprile 2006");
+}
 
 TEST_F(LargeOffice, EveryCellOfTheMonthCanBeReadAndThePlannerEndsAtOnce) {
     request(requestBytes('M'));
