@@ -7,9 +7,15 @@
     at_spi.py [--deadline SECONDS] PID where NAME                print where it is: x y width height
     at_spi.py [--deadline SECONDS] PID cell TABLE ROW COL NAME   the same for the table's cell of that name
     at_spi.py [--deadline SECONDS] PID list                      print role, tab, name of all but cells
+    at_spi.py [--deadline SECONDS] PID focus                     print the name of what has the focus, if anything
+    at_spi.py [--deadline SECONDS] PID names TABLE               print the name of each of the table's cells
+    at_spi.py [--deadline SECONDS] PID hear                      print "ready", then the name of whatever is said
+                                                                 to have got the focus, until the deadline
+    at_spi.py [--deadline SECONDS] PID walk                      read all of every object; print role, tab, name
 
-Only what shows on the screen counts, and a place only once it has settled. What is not there yet is waited
-for; at the deadline the exit code is 1. A control that opens a dialog is no case for "press", which would wait
+Only what shows on the screen counts, but for "walk", and a place only once it has settled. What is not there
+yet is waited for; at the deadline the exit code is 1. "press" and "where" take --role ROLE, as in "menu item",
+for a name that several controls have. A control that opens a dialog is no case for "press", which would wait
 until the dialog is closed.
 """
 
@@ -53,11 +59,20 @@ def controls(node):
             yield from controls(child)
 
 
-def named(program, name, roles=None):
+def named(program, name, is_meant=lambda node: True):
     for node in controls(program):
-        if node.get_name() == name and (roles is None or node.get_role() in roles):
+        if node.get_name() == name and is_meant(node):
             return node
     return None
+
+
+def control(program, wanted):
+    return named(program, wanted.name, lambda node: wanted.role in (None, node.get_role_name()))
+
+
+def table_iface(program, wanted):
+    table = named(program, wanted.table, lambda node: node.get_role() in TABLES)
+    return None if table is None else table.get_table_iface()
 
 
 def place(node):
@@ -67,7 +82,7 @@ def place(node):
 
 def press(program, wanted):
     """A control that cannot be used yet is waited for as one that is not there."""
-    node = named(program, wanted.name)
+    node = control(program, wanted)
     if node is None or not node.get_state_set().contains(Atspi.StateType.ENABLED):
         return None
     actions = node.get_action_iface()
@@ -75,19 +90,84 @@ def press(program, wanted):
 
 
 def where(program, wanted):
-    node = named(program, wanted.name)
+    node = control(program, wanted)
     return None if node is None else place(node)
 
 
 def cell(program, wanted):
-    table = named(program, wanted.table, TABLES)
-    found = None if table is None else table.get_table_iface().get_accessible_at(wanted.row, wanted.column)
+    table = table_iface(program, wanted)
+    found = None if table is None else table.get_accessible_at(wanted.row, wanted.column)
     return place(found) if found is not None and found.get_name() == wanted.name else None
 
 
 def everything(program, _):
     found = [f"{node.get_role_name()}\t{node.get_name()}" for node in controls(program)]
     return "\n".join(found) if found else None
+
+
+def focus(program, _):
+    for node in controls(program):
+        if node.get_state_set().contains(Atspi.StateType.FOCUSED):
+            return node.get_name()
+    return ""
+
+
+def names(program, wanted):
+    table = table_iface(program, wanted)
+    if table is None:
+        return None
+    columns = range(table.get_n_columns())
+    cells = ((row, column) for row in range(table.get_n_rows()) for column in columns)
+    return "\n".join(table.get_accessible_at(*cell).get_name() for cell in cells)
+
+
+def read_table(table):
+    table.get_caption()
+    for row in range(table.get_n_rows()):
+        table.get_row_header(row)
+        table.get_row_description(row)
+    for column in range(table.get_n_columns()):
+        table.get_column_header(column)
+        table.get_column_description(column)
+
+
+def read(node):
+    """Asks the object for all that a screen reader asks of one."""
+    for ask in (node.get_description, node.get_state_set, node.get_attributes, node.get_relation_set,
+                node.get_parent, node.get_index_in_parent):
+        ask()
+    component = node.get_component_iface()
+    if component is not None:
+        component.get_extents(Atspi.CoordType.SCREEN)
+    if node.get_role() in TABLES and node.get_table_iface() is not None:
+        read_table(node.get_table_iface())
+    return f"{node.get_role_name()}\t{node.get_name()}"
+
+
+def objects(node):
+    """All objects below the node, shown or not."""
+    for index in range(node.get_child_count()):
+        child = node.get_child_at_index(index)
+        if child is not None:
+            yield child
+            yield from objects(child)
+
+
+def walk(program, _):
+    return "\n".join(read(node) for node in objects(program))
+
+
+def hear(program, wanted):
+    def got_focus(event, *_):
+        if event.detail1 and event.source.get_process_id() == wanted.pid:
+            print(event.source.get_name(), flush=True)
+
+    listener = Atspi.EventListener.new(got_focus)
+    listener.register("object:state-changed:focused")
+    print("ready", flush=True)
+    GLib.timeout_add(int(wanted.deadline * 1000), Atspi.event_quit)
+    Atspi.event_main()
+    return ""
 
 
 def command_line():
@@ -100,9 +180,15 @@ def command_line():
         (where, "where", ["name"]),
         (cell, "cell", ["table", "row", "column", "name"]),
         (everything, "list", []),
+        (focus, "focus", []),
+        (hear, "hear", []),
+        (names, "names", ["table"]),
+        (walk, "walk", []),
     ):
         command = commands.add_parser(name)
-        command.set_defaults(look=look, settles=look is not press)
+        command.set_defaults(look=look, settles=look in (where, cell, everything, focus))
+        if look in (press, where):
+            command.add_argument("--role")
         for argument in arguments:
             command.add_argument(argument, type=int if argument in ("row", "column") else str)
     return parser.parse_args()

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/shown_calendar.h"
 
+#include "platform/qt/quiet_accessibility.h"
+
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -10,6 +13,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <optional>
 
 namespace planner {
 
@@ -80,6 +84,12 @@ void ShownCalendar::colourDays() {
 
 void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
     const QScopedValueRollback byCode(m_byCode, true);
+    // The days' table announces its current day as focused, wherever the focus is: a screen reader would
+    // leave the grid.
+    std::optional<QuietAccessibility> quiet;
+    if (!isAncestorOf(QApplication::focusWidget())) {
+        quiet.emplace();
+    }
     const Data shown = calendario.Value();
     setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
     setSelectedDate(qtDate(shown));

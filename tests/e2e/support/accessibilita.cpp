@@ -2,12 +2,30 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/support/accessibilita.h"
 
-#include "e2e/support/immagine.h"
-
 #include <sstream>
 #include <stdexcept>
 
 namespace planner::e2e {
+
+namespace {
+
+Area areaFrom(const std::string& place) {
+    std::istringstream numbers(place);
+    Area area;
+    numbers >> area.x >> area.y >> area.width >> area.height;
+    return area;
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream in(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+} // namespace
 
 Accessibilita::Accessibilita(const Schermo& schermo)
     : m_schermo(&schermo), m_environment(schermo.environment()) {
@@ -34,9 +52,9 @@ Accessibilita::~Accessibilita() {
     m_bus->terminate();
 }
 
-Esito Accessibilita::look(const Processo& owner, const std::vector<std::string>& words) const {
-    // The tool gives up well before the wait for its own end does.
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(Deadline / 2);
+std::vector<std::string> Accessibilita::words(const Processo& owner, std::chrono::milliseconds deadline,
+                                              const std::vector<std::string>& command) const {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(deadline);
     std::vector<std::string> all{"/usr/bin/python3",
                                  "-W",
                                  "ignore",
@@ -44,10 +62,27 @@ Esito Accessibilita::look(const Processo& owner, const std::vector<std::string>&
                                  "--deadline",
                                  std::to_string(seconds.count()),
                                  std::to_string(owner.pid())};
-    all.insert(all.end(), words.begin(), words.end());
+    all.insert(all.end(), command.begin(), command.end());
+    return all;
+}
+
+Environment Accessibilita::toolEnvironment() const {
     Environment environment = m_environment;
     environment["LANG"] = "C.UTF-8"; // names go in and out as UTF-8
-    return runTool(all, environment);
+    return environment;
+}
+
+Esito Accessibilita::look(const Processo& owner, const std::vector<std::string>& command) const {
+    // The tool gives up well before the wait for its own end does.
+    return runTool(words(owner, Deadline / 2, command), toolEnvironment());
+}
+
+std::unique_ptr<Processo> Accessibilita::listener(const Processo& owner) const {
+    auto tool = std::make_unique<Processo>(words(owner, 2 * Deadline, {"hear"}), toolEnvironment());
+    if (tool->readLine() != "ready") {
+        throw std::runtime_error("nothing can be heard on the accessibility bus");
+    }
+    return tool;
 }
 
 std::string Accessibilita::find(const Processo& owner, const std::vector<std::string>& words) const {
@@ -68,40 +103,60 @@ void Accessibilita::press(const Processo& owner, const std::string& name) const 
     find(owner, {"press", name});
 }
 
-void Accessibilita::click(const Processo& owner, const std::string& name) const {
-    clickAt(find(owner, {"where", name}));
+void Accessibilita::click(const Processo& owner, const std::string& name, const Clic& clic) const {
+    clickInside(place(owner, name), clic);
 }
 
-void Accessibilita::click(const Processo& owner, const Cella& cella) const {
-    clickAt(findCell(owner, cella));
+void Accessibilita::click(const Processo& owner, const Cella& cella, const Clic& clic) const {
+    clickInside(place(owner, cella), clic);
+}
+
+Area Accessibilita::place(const Processo& owner, const std::string& name) const {
+    return areaFrom(find(owner, {"where", name}));
+}
+
+Area Accessibilita::place(const Processo& owner, const Cella& cella) const {
+    return areaFrom(findCell(owner, cella));
 }
 
 void Accessibilita::waitFor(const Processo& owner, const std::string& name) const {
-    find(owner, {"where", name});
+    place(owner, name);
 }
 
 void Accessibilita::waitFor(const Processo& owner, const Cella& cella) const {
-    findCell(owner, cella);
+    place(owner, cella);
 }
 
-void Accessibilita::clickAt(const std::string& place) const {
-    std::istringstream numbers(place);
-    Area area;
-    numbers >> area.x >> area.y >> area.width >> area.height;
-    m_schermo->tool({"xdotool", "mousemove", std::to_string(area.x + area.width / 2),
-                     std::to_string(area.y + area.height / 2), "click", "1"});
+void Accessibilita::clickInside(const Area& area, const Clic& clic) const {
+    m_schermo->click(area.x + area.width / 2, area.y + area.height / 2, clic);
 }
 
 std::vector<Accessibilita::Controllo> Accessibilita::controls(const Processo& owner) const {
-    std::istringstream lines(find(owner, {"list"}));
+    return list(owner, "list");
+}
+
+std::vector<Accessibilita::Controllo> Accessibilita::readEverything(const Processo& owner) const {
+    return list(owner, "walk");
+}
+
+std::vector<Accessibilita::Controllo> Accessibilita::list(const Processo& owner,
+                                                          const std::string& command) const {
     std::vector<Controllo> controls;
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : linesOf(find(owner, {command}))) {
         const std::size_t tab = line.find('\t');
         if (tab != std::string::npos) {
             controls.push_back({line.substr(0, tab), line.substr(tab + 1)});
         }
     }
     return controls;
+}
+
+std::vector<std::string> Accessibilita::cellNames(const Processo& owner, const std::string& table) const {
+    return linesOf(find(owner, {"names", table}));
+}
+
+std::string Accessibilita::focused(const Processo& owner) const {
+    return linesOf(find(owner, {"focus"})).at(0);
 }
 
 } // namespace planner::e2e

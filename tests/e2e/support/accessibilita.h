@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "e2e/support/immagine.h"
 #include "e2e/support/schermo.h"
 
 #include <memory>
@@ -33,9 +34,12 @@ public:
     /// Has the control do what a press on it does.
     void press(const Processo& owner, const std::string& name) const;
     /// Clicks with the real mouse on the control's centre.
-    void click(const Processo& owner, const std::string& name) const;
+    void click(const Processo& owner, const std::string& name, const Clic& clic = {}) const;
     /// The same for the cell that has that name in its place.
-    void click(const Processo& owner, const Cella& cella) const;
+    void click(const Processo& owner, const Cella& cella, const Clic& clic = {}) const;
+    /// Where the cell is on the screen, in sight or not.
+    Area place(const Processo& owner, const Cella& cella) const;
+    Area place(const Processo& owner, const std::string& name) const;
     void waitFor(const Processo& owner, const std::string& name) const;
     void waitFor(const Processo& owner, const Cella& cella) const;
 
@@ -45,12 +49,26 @@ public:
     };
     /// Every control of the program that shows, the cells of tables left out.
     std::vector<Controllo> controls(const Processo& owner) const;
+    /// Reads everything that the bus tells of the program's objects, shown or not; returns them all.
+    std::vector<Controllo> readEverything(const Processo& owner) const;
+    /// The names of all cells of a table that shows, row by row.
+    std::vector<std::string> cellNames(const Processo& owner, const std::string& table) const;
+    /// The name of the control that has the focus; empty when none has, as in a window that is not active.
+    std::string focused(const Processo& owner) const;
+
+    /// A program that hears what a screen reader hears of the focus: its lines are the names of what has got
+    /// it.
+    std::unique_ptr<Processo> listener(const Processo& owner) const;
 
 private:
-    Esito look(const Processo& owner, const std::vector<std::string>& words) const;
+    std::vector<std::string> words(const Processo& owner, std::chrono::milliseconds deadline,
+                                   const std::vector<std::string>& command) const;
+    Environment toolEnvironment() const;
+    Esito look(const Processo& owner, const std::vector<std::string>& command) const;
     std::string find(const Processo& owner, const std::vector<std::string>& words) const;
     std::string findCell(const Processo& owner, const Cella& cella) const;
-    void clickAt(const std::string& place) const;
+    std::vector<Controllo> list(const Processo& owner, const std::string& command) const;
+    void clickInside(const Area& area, const Clic& clic) const;
 
     const Schermo* m_schermo;
     Environment m_environment;

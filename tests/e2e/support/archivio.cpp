@@ -13,6 +13,13 @@ Archivio::Archivio() {
     scriviArchivioCampione(creaArchivioCampione({}), path());
 }
 
+void Archivio::writeOffice(int anno, int collaboratori) const {
+    OpzioniCampione opzioni;
+    opzioni.anno = anno;
+    opzioni.collaboratori = collaboratori;
+    scriviArchivioCampione(creaArchivioCampione(opzioni), path());
+}
+
 void Archivio::remove(std::string_view name) const {
     std::filesystem::remove(path(name));
 }

@@ -35,6 +35,8 @@ public:
     void remove(std::string_view name) const;
     /// Moves the archive files into a new folder of that name, inside this one.
     void moveInto(std::string_view name) const;
+    /// Writes the four archive files anew: a year of an office of that many.
+    void writeOffice(int anno, int collaboratori) const;
     /// Makes staff members of these names the only ones; their codes are "01", "02", ...
     void writeStaff(const std::vector<std::string>& names) const;
 

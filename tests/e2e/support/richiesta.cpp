@@ -37,6 +37,14 @@ std::string requestBytes(char tipoplanner, std::string_view day) {
     return bytes;
 }
 
+std::string inYear(std::string_view year, std::string request) {
+    constexpr std::size_t startdate = 9;
+    constexpr std::size_t enddate = 17;
+    request.replace(startdate, year.size(), year);
+    request.replace(enddate, year.size(), year);
+    return request;
+}
+
 std::string answeredWith(std::string_view answer, std::string request) {
     constexpr std::size_t collab = 86;
     constexpr std::size_t valret = 88;

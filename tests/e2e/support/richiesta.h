@@ -14,6 +14,9 @@ inline constexpr std::string_view NoDay = "00000000";
 /// must give back untouched. `day` is the day to show, yyyymmdd.
 std::string requestBytes(char tipoplanner, std::string_view day = NoDay);
 
+/// The same request for the same days of another year, of four digits.
+std::string inYear(std::string_view year, std::string request);
+
 /// The bytes that answer a request with these eleven characters: the day, the staff code and the action
 /// letter.
 std::string answeredWith(std::string_view answer, std::string request);

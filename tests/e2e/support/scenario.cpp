@@ -63,7 +63,7 @@ void Scenario::confirmMessage(const Programma& planner, const std::string& icon,
 
 bool Scenario::looksLikeMessage(const Finestra& box, const std::string& icon, const std::string& text) const {
     const Schermo other(schermo.size(), utente.environment());
-    const Processo twin({MESSAGE_BOX_FILE, icon, text}, other.environment());
+    const Processo twin(otherProgram(icon, text), other.environment());
     const Finestra model(other, twin, "Planner");
     // A button looks different under the mouse, and so does a box that is not the active window.
     schermo.moveMouseAway();
@@ -79,6 +79,10 @@ bool Scenario::looksLikeMessage(const Finestra& box, const std::string& icon, co
         schermo.savePicture(pictureFile("-seen"));
     }
     return alike;
+}
+
+std::vector<std::string> Scenario::otherProgram(const std::string& icon, const std::string& text) {
+    return {MESSAGE_BOX_FILE, icon, text};
 }
 
 Finestra Scenario::windowAfterMessages(const Programma& planner, const std::string& title) const {

@@ -49,6 +49,9 @@ protected:
     const std::string evento;
     Ospite ospite;
 
+    /// The words that start another program, which shows nothing but this message.
+    static std::vector<std::string> otherProgram(const std::string& icon, const std::string& text);
+
 private:
     /// Compares with the same message shown on another screen of the same size, pixel by pixel.
     bool looksLikeMessage(const Finestra& box, const std::string& icon, const std::string& text) const;

@@ -19,9 +19,22 @@ void ScenarioAccessibile::lookAt(const std::string& title) {
     m_window->activate();
 }
 
-void ScenarioAccessibile::pick(const Casella& casella) const {
-    bus.click(*m_planner, casella.cella);
+void ScenarioAccessibile::pick(const Casella& casella, const Clic& clic) const {
+    bus.click(*m_planner, casella.cella, clic);
     bus.waitFor(*m_planner, casella.cella.nome); // now on the status line
+}
+
+bool ScenarioAccessibile::tabTo(const std::string& name, const std::string& keys) const {
+    constexpr int stops = 30; // more than a window has
+    for (int i = 0; i < stops; ++i) {
+        const std::string before = bus.focused(*m_planner);
+        if (before == name) {
+            return true;
+        }
+        m_window->press(keys);
+        comesTrue([&] { return bus.focused(*m_planner) != before; });
+    }
+    return false;
 }
 
 bool ScenarioAccessibile::comesToWait() {

@@ -18,9 +18,11 @@ protected:
     void lookAt(const std::string& title);
 
     /// Clicks on the cell, and waits for what the planner says of it.
-    void pick(const Casella& casella) const;
+    void pick(const Casella& casella, const Clic& clic = {}) const;
     void press(const std::string& name) const { bus.press(*m_planner, name); }
     void click(const std::string& name) const { bus.click(*m_planner, name); }
+    /// Presses Tab, or other keys, until the control of that name has the focus; false when it never has.
+    bool tabTo(const std::string& name, const std::string& keys = "Tab") const;
 
     /// True when the planner comes to show nothing on the screen and to use no processor time.
     bool comesToWait();

@@ -54,6 +54,12 @@ std::string Schermo::tool(const std::vector<std::string>& words) const {
     return std::move(esito.output);
 }
 
+void Schermo::click(int x, int y, const Clic& clic) const {
+    tool({"xdotool", "mousemove", std::to_string(x), std::to_string(y), "click", "--repeat",
+          std::to_string(clic.volte), "--delay", std::to_string(clic.pausa.count()),
+          std::to_string(clic.tasto)});
+}
+
 void Schermo::moveMouseAway() const {
     tool({"xdotool", "mousemove", "0", "0"});
 }

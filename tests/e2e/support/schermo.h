@@ -8,6 +8,13 @@
 
 namespace planner::e2e {
 
+/// What the mouse does at a place.
+struct Clic {
+    int tasto = 1; // 1 left, 2 middle, 3 right, 5 wheel down
+    int volte = 1;
+    std::chrono::milliseconds pausa{100}; // between two clicks
+};
+
 /// A screen of its own with a window manager; both end with the object.
 class Schermo {
 public:
@@ -28,6 +35,8 @@ public:
     /// The same for a tool whose failure is an answer.
     Esito tryTool(const std::vector<std::string>& words) const;
 
+    /// Clicks on a point of the screen.
+    void click(int x, int y, const Clic& clic = {}) const;
     /// Puts the mouse where nothing stands out because it is there.
     void moveMouseAway() const;
     /// Saves what the screen shows as a PNG file.
