@@ -105,6 +105,16 @@ TEST_P(EveryChart, ComesOverThePlannerAndFillsItsWindow) {
     EXPECT_TRUE(finestra().isVisible());
 }
 
+TEST_P(EveryChart, IsHeardValueByValueWithTheArrows) {
+    const Finestra chart = showChart();
+    const auto listener = bus.listener(planner());
+    chart.press("Right");
+    const std::string first = listener->readLine();
+    EXPECT_NE(first, "Grafico") << "the value, not the list";
+    chart.press("Right");
+    EXPECT_NE(listener->readLine(), first);
+}
+
 TEST_P(EveryChart, TheEscapeKeyClosesItAndThePlannerGoesOn) {
     closeChart(showChart());
     checkAnswer();

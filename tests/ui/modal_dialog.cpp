@@ -17,7 +17,8 @@ void whileModal(const std::function<void()>& open, const std::function<void(QDia
         auto* dialog = modal != outer ? qobject_cast<QDialog*>(modal) : nullptr;
         if (dialog != nullptr && dialog->isVisible()) {
             poll.stop();
-            static_cast<void>(QTest::qWaitForWindowActive(dialog, 500)); // before, keys do not find their way in it
+            static_cast<void>(
+                QTest::qWaitForWindowActive(dialog, 500)); // before, keys do not find their way in it
             user(*dialog);
         }
     });

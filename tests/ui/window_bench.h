@@ -27,7 +27,8 @@ struct WindowBench {
     void openPeriod(std::string_view tipo, std::string_view giorno, std::string_view inizio,
                     std::string_view fine, std::string_view windowcaption = "                    ");
 
-    /// The cell's index in the visible grid's model, and its centre in the view's viewport, scrolled into sight.
+    /// The cell's index in the visible grid's model, and its centre in the view's viewport, scrolled into
+    /// sight.
     QModelIndex index(int riga, int colonna);
     QPoint centreOf(int riga, int colonna);
     /// Presses the left button on a cell of the visible grid, in the grid's own rows and columns.

@@ -54,9 +54,10 @@ QPushButton* ChartDialog::makeButton(QAction* command) {
     auto* button = new QPushButton(command->text(), this);
     button->setObjectName(QStringLiteral("pulsante_") + command->objectName());
     button->setAutoDefault(false);
-    button->setToolTip(plainToolTip(command->text() + QStringLiteral(" (") +
-                                    command->shortcut().toString(QKeySequence::NativeText) +
-                                    QLatin1Char(')')));
+    const QString tip = command->text() + QStringLiteral(" (") +
+                        command->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')');
+    button->setToolTip(plainToolTip(tip));
+    button->setAccessibleDescription(tip); // else a screen reader would read the tool tip's markup
     connect(button, &QPushButton::clicked, command, &QAction::trigger);
     return button;
 }

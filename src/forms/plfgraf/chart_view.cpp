@@ -4,6 +4,7 @@
 
 #include "forms/plfgraf/chart_model.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QMouseEvent>
 #include <QPainter>
@@ -102,6 +103,16 @@ QRegion ChartView::visualRegionForSelection(const QItemSelection& selection) con
         region += visualRect(index);
     }
     return region;
+}
+
+void ChartView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // The list's own would look the value up in its layout, of which there is none, and announce the list.
+    QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+    if (current.isValid() && hasFocus()) {
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(current.row());
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void ChartView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {

@@ -40,6 +40,7 @@ protected:
     bool isIndexHidden(const QModelIndex& index) const override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags flags) override;
     QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void doItemsLayout() override {}
     void updateGeometries() override {}
