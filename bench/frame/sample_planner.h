@@ -32,7 +32,8 @@ private:
     QtEventPump m_eventi;
     modpl m_sessione;
     ControlliPlcal m_controlli;
-    PlannerWindows m_finestre{m_sessione, m_controlli, m_messaggi, [this] { return newEngine(); }};
+    PlannerWindows m_finestre{m_sessione, m_controlli, m_messaggi, m_orologio,
+                              [this] { return newEngine(); }};
 };
 
 } // namespace planner
