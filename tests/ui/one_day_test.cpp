@@ -11,12 +11,12 @@
 #include <QCalendarWidget>
 #include <QHeaderView>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 #include <random>
-#include <regex>
 
 namespace planner::test {
 
@@ -148,9 +148,8 @@ protected:
 
     /// The date that a sentence names, as the planner writes it in sentences; empty for none.
     static std::string dateIn(const std::string& sentence) {
-        static const std::regex date("[a-zì]+ [0-9]{1,2} [a-z]+ [0-9]{4}");
-        std::smatch found;
-        return std::regex_search(sentence, found, date) ? found.str() : std::string();
+        static const QRegularExpression date(QStringLiteral("[a-zì]+ [0-9]{1,2} [a-z]+ [0-9]{4}"));
+        return date.match(fromUtf8(sentence)).captured().toStdString();
     }
 
     void expectOneDay(int gesture) {
