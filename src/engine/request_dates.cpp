@@ -55,7 +55,7 @@ DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArri
                                MessageBoxes& messaggi) {
     Guai guai;
     const auto day = readDate(testi.giorno, "il giorno da mostrare", guai);
-    auto start = readDate(testi.startdate, "la data iniziale", guai);
+    const auto start = readDate(testi.startdate, "la data iniziale", guai);
     auto end = readDate(testi.enddate, "la data finale", guai);
     if (start && end && *end < *start) {
         guai.emplace_back("la data finale viene prima della data iniziale");
@@ -64,14 +64,12 @@ DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArri
     if (tipo) {
         say(guai, messaggi);
     }
-    if (!start && end) {
-        start = firstOfYear(*end);
+    const Data prima = start ? *start : end ? firstOfYear(*end) : oggi;
+    Data mostrata = day ? *day : prima;
+    const Data inizio = start || end ? prima : firstOfYear(mostrata);
+    if (tipo == TipoPlanner::Annuale) {
+        mostrata = inYear(mostrata, inizio.year());
     }
-    Data mostrata = day.value_or(start.value_or(oggi));
-    if (tipo == TipoPlanner::Annuale && start) {
-        mostrata = inYear(mostrata, start->year());
-    }
-    const Data inizio = start.value_or(firstOfYear(mostrata));
     return {mostrata, inizio, end.value_or(lastOfYear(inizio))};
 }
 
