@@ -11,6 +11,7 @@
 #include "forms/plcal/shown_calendar.h"
 #include "forms/screen_scale.h"
 #include "platform/qt/fitted_label.h"
+#include "platform/qt/guarded_application.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -253,6 +254,9 @@ void PlcalWindow::rinvia(std::function<void()> azione) {
 void PlcalWindow::mostra() {
     m_pressedHere = false;
     m_untouched = true;
+    if (auto* application = qobject_cast<GuardedApplication*>(qApp)) {
+        application->forgetKeys();
+    }
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();

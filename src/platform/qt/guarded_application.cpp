@@ -11,19 +11,46 @@ namespace planner {
 
 namespace {
 
-bool isRepeatedAnswer(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) {
-        return false;
-    }
-    const auto& press = static_cast<const QKeyEvent&>(event);
-    const int key = press.key();
-    return press.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
+constexpr quint64 LongestRepeat = 1000; // ms from a held key's press to the next, the first delay included
+constexpr quint64 SamePress = 5;        // ms between a release and a press that no finger makes
+
+bool isAnswer(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 } // namespace
 
+bool GuardedApplication::isRepeatedAnswer(const QObject& receiver, const QEvent& event) {
+    if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (!isAnswer(key)) {
+        return false;
+    }
+    // A key comes to the window first, with its time. When the focus changes below a held key, the toolkit
+    // takes the next repetition for a press of its own.
+    const bool press = event.type() == QEvent::KeyPress;
+    const bool held = receiver.isWindowType() && m_answer.isHeld(key, press);
+    return press && (held || key.isAutoRepeat());
+}
+
+bool GuardedApplication::AnswerKey::isHeld(const QKeyEvent& event, bool press) {
+    if (!press) {
+        released = event.timestamp();
+        down = down && event.isAutoRepeat();
+        return false;
+    }
+    const quint64 since = event.timestamp() - (down ? pressed : released);
+    const bool held = key == event.key() && since < (down ? LongestRepeat : SamePress);
+    key = event.key();
+    pressed = event.timestamp();
+    down = true;
+    return held;
+}
+
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
-    if (isRepeatedAnswer(*event)) {
+    if (isRepeatedAnswer(*receiver, *event)) {
         event->accept();
         return true;
     }
