@@ -11,7 +11,6 @@
 #include "forms/plcal/shown_calendar.h"
 #include "forms/screen_scale.h"
 #include "platform/qt/fitted_label.h"
-#include "platform/qt/guarded_application.h"
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
@@ -254,9 +253,6 @@ void PlcalWindow::rinvia(std::function<void()> azione) {
 void PlcalWindow::mostra() {
     m_pressedHere = false;
     m_untouched = true;
-    if (auto* application = qobject_cast<GuardedApplication*>(qApp)) {
-        application->forgetKeys();
-    }
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();

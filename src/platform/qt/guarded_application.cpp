@@ -11,8 +11,7 @@ namespace planner {
 
 namespace {
 
-constexpr quint64 LongestRepeat = 1000; // ms from a held key's press to the next, the first delay included
-constexpr quint64 SamePress = 5;        // ms between a release and a press that no finger makes
+constexpr quint64 SamePress = 5; // ms between a release and a press that no finger makes
 
 bool isAnswer(const QKeyEvent& event) {
     return event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -28,25 +27,15 @@ bool GuardedApplication::isRepeatedAnswer(const QObject& receiver, const QEvent&
     if (!isAnswer(key)) {
         return false;
     }
-    // A key comes to the window first, with its time. When the focus changes below a held key, the toolkit
-    // takes the next repetition for a press of its own.
     const bool press = event.type() == QEvent::KeyPress;
-    const bool held = receiver.isWindowType() && m_answer.isHeld(key, press);
-    return press && (held || key.isAutoRepeat());
-}
-
-bool GuardedApplication::AnswerKey::isHeld(const QKeyEvent& event, bool press) {
-    if (!press) {
-        released = event.timestamp();
-        down = down && event.isAutoRepeat();
-        return false;
+    // A key comes to the window first, with its time. The toolkit knows a repetition, which is a release and
+    // a press in one moment, only if both have come when it looks.
+    const bool timed = receiver.isWindowType();
+    const bool held = timed && press && key.timestamp() - m_released < SamePress;
+    if (timed && !press) {
+        m_released = key.timestamp();
     }
-    const quint64 since = event.timestamp() - (down ? pressed : released);
-    const bool held = key == event.key() && since < (down ? LongestRepeat : SamePress);
-    key = event.key();
-    pressed = event.timestamp();
-    down = true;
-    return held;
+    return press && (held || key.isAutoRepeat());
 }
 
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {

@@ -7,8 +7,6 @@
 #include <QApplication>
 #include <QSet>
 
-class QKeyEvent;
-
 namespace planner {
 
 /// The toolkit's application with a guard around every event. What an event's handler throws is said once,
@@ -22,26 +20,14 @@ public:
     /// Where troubles are said; until it is set, and after `nullptr`, they are only kept from the toolkit.
     void setMessages(MessageBoxes* messaggi) { m_messaggi = messaggi; }
 
-    /// A new request begins: the release of the key that ended the last one may have gone to another program.
-    void forgetKeys() { m_answer = {}; }
-
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    /// The last Escape or Enter, by the window system's clock in milliseconds.
-    struct AnswerKey {
-        int key = 0;
-        bool down = false; // its release has not been seen
-        quint64 pressed = 0, released = 0;
-
-        /// Takes the event in; true when it only repeats the press before.
-        bool isHeld(const QKeyEvent& event, bool press);
-    };
-
     bool isRepeatedAnswer(const QObject& receiver, const QEvent& event);
     void report(const QString& trouble);
 
-    AnswerKey m_answer;
+    quint64 m_released =
+        0; // when Escape or Enter was last let go, by the window system's clock in milliseconds
 
     MessageBoxes* m_messaggi = nullptr;
     QSet<QString> m_said;
