@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest.h>
+
 namespace planner::test {
 
 void whileModal(const std::function<void()>& open, const std::function<void(QDialog&)>& user) {
@@ -17,8 +19,8 @@ void whileModal(const std::function<void()>& open, const std::function<void(QDia
         auto* dialog = modal != outer ? qobject_cast<QDialog*>(modal) : nullptr;
         if (dialog != nullptr && dialog->isVisible()) {
             poll.stop();
-            static_cast<void>(
-                QTest::qWaitForWindowActive(dialog, 500)); // before, keys do not find their way in it
+            // Before it is active, keys do not find their way in it.
+            EXPECT_TRUE(QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; }));
             user(*dialog);
         }
     });

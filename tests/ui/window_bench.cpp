@@ -25,9 +25,11 @@ void WindowBench::openPeriod(std::string_view tipo, std::string_view giorno, std
     newEngine()->Init_planner(std::string(tipo) + std::string(giorno), std::string(inizio), std::string(fine),
                               "RB");
     finestra.show();
-    if (!QTest::qWaitForWindowExposed(&vista)) {
+    // A window asks for activation by itself and by request: the later answer must not fall into what follows.
+    if (!QTest::qWaitForWindowExposed(&vista) || !QTest::qWaitForWindowActive(&vista)) {
         throw std::runtime_error("the window is not shown");
     }
+    QCoreApplication::processEvents();
 }
 
 GridView& WindowBench::view() {
