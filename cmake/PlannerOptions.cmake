@@ -2,7 +2,6 @@
 # the toolkit's strict defines, sanitizers, and the hardening of release builds.
 add_library(planner_options INTERFACE)
 target_compile_features(planner_options INTERFACE cxx_std_20 c_std_11)
-target_include_directories(planner_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 target_compile_options(planner_options INTERFACE
     -Wall -Wextra -Wconversion -Wshadow
@@ -35,6 +34,10 @@ endif()
 
 include(CheckPIESupported)
 check_pie_supported()
+
+# What nearly every file reads, read once for each target that names it: a third of the build's time.
+set(PLANNER_STD_HEADERS <algorithm> <array> <chrono> <functional> <memory> <optional> <string> <string_view> <vector>)
+set(PLANNER_QT_HEADERS <QAbstractItemModel> <QApplication> <QLayout> <QPainter> <QPointer> <QWidget>)
 
 # Every target of the project is made with these, so that none misses the shared options.
 function(planner_library name)

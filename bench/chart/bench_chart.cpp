@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 // The daily chart of a large staff: from the event to the painted chart, with the real chart window.
 
-#include "forms/plfgraf/chart_dialog.h"
-#include "forms/plfgraf/chart_view.h"
 #include "frame/frame_times.h"
-#include "platform/qt/qt_message_boxes.h"
+#include "ui/plfgraf/chart_dialog.h"
+#include "ui/plfgraf/chart_view.h"
+#include "ui/ports/qt_message_boxes.h"
 
 #include <QApplication>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "frame/frame_times.h"
 
-#include "platform/qt/appearance.h"
+#include "ui/kit/appearance.h"
 
 #include <QApplication>
 

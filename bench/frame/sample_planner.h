@@ -3,11 +3,11 @@
 #pragma once
 
 #include "engine/clsplg.h"
-#include "forms/planner_windows.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
-#include "platform/qt/qt_event_pump.h"
-#include "platform/qt/qt_message_boxes.h"
+#include "ui/planner_windows.h"
+#include "ui/ports/qt_event_pump.h"
+#include "ui/ports/qt_message_boxes.h"
 
 namespace planner {
 

@@ -3,9 +3,9 @@
 // From the event to the painted list, with the real staff window over a large staff.
 
 #include "forms/plfcollab/plfcollab.h"
-#include "forms/plfcollab/plfcollab_window.h"
 #include "frame/frame_times.h"
-#include "platform/qt/qt_collation.h"
+#include "ui/plfcollab/plfcollab_window.h"
+#include "ui/ports/qt_collation.h"
 
 #include <array>
 

@@ -4,8 +4,8 @@
 
 #include "frame/frame_times.h"
 #include "frame/sample_planner.h"
-#include "platform/qt/appearance.h"
 #include "report_line.h"
+#include "ui/kit/appearance.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "engine/session/toolbar.h"
 #include "forms/plcal/design.h"
 #include "forms/plcal/gesti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
+#include "session/toolbar.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

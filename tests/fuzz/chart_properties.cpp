@@ -3,7 +3,7 @@
 #include "fuzz/chart_properties.h"
 
 #include "archive/cp1252.h"
-#include "forms/plfgraf/chart_samples.h"
+#include "core/forms/plfgraf/chart_samples.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "fuzz/fuzz_input.h"
 

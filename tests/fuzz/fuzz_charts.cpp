@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "archive/readers.h"
-#include "archive/runtime_errors.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "fuzz/chart_properties.h"
 #include "fuzz/fuzz_input.h"
+#include "ports/runtime_errors.h"
 #include "support/memory_file_system.h"
 
 #include <array>

@@ -3,11 +3,11 @@
 #include "archive/cp1252.h"
 #include "archive/fixed_text.h"
 #include "archive/numeric_value.h"
-#include "archive/runtime_errors.h"
-#include "engine/session/calendar_rules.h"
 #include "forms/plfgraf/chart_rules.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "fuzz/fuzz_input.h"
+#include "ports/runtime_errors.h"
+#include "session/calendar_rules.h"
 
 #include <cmath>
 #include <optional>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plcal/plcal_fixture.h"
+#include "core/forms/plcal/plcal_fixture.h"
 #include "fuzz/fuzz_input.h"
 
 namespace planner::test {

@@ -3,20 +3,20 @@
 #pragma once
 
 #include "engine/motore.h"
-#include "engine/session/dates.h"
 #include "forms/plcal/design.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/vista_plfcollab.h"
 #include "forms/plfgraf/finestra_grafici.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "forms/plfimp/plfimp.h"
-#include "platform/ports/clock.h"
-#include "platform/ports/collation.h"
-#include "platform/ports/event_pump.h"
-#include "platform/ports/host_ipc.h"
-#include "platform/ports/message_boxes.h"
-#include "platform/ports/periodic_timer.h"
-#include "platform/ports/planner_window.h"
+#include "ports/clock.h"
+#include "ports/collation.h"
+#include "ports/event_pump.h"
+#include "ports/host_ipc.h"
+#include "ports/message_boxes.h"
+#include "ports/periodic_timer.h"
+#include "ports/planner_window.h"
+#include "session/dates.h"
 
 #include <deque>
 #include <functional>

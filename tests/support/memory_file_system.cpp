@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/memory_file_system.h"
 
-#include "archive/runtime_errors.h"
+#include "ports/runtime_errors.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

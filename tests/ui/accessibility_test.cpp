@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/text.h"
-#include "ui/window_bench.h"
+#include "ui/kit/text.h"
+#include "window_bench.h"
 
 #include <QAccessible>
 #include <QLabel>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "engine/session/staff.h"
-#include "forms/plcal/cell_delegate.h"
-#include "forms/plcal/cell_painter.h"
-#include "forms/plcal/grid_model.h"
 #include "grids/giornaliera.h"
+#include "session/staff.h"
+#include "ui/plcal/cell_delegate.h"
+#include "ui/plcal/cell_painter.h"
+#include "ui/plcal/grid_model.h"
 
 #include <QImage>
 #include <QPainter>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plfgraf/chart_view.h"
-#include "platform/qt/fitted_label.h"
-#include "ui/modal_dialog.h"
-#include "ui/window_bench.h"
+#include "modal_dialog.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/plfgraf/chart_view.h"
+#include "window_bench.h"
 
 #include <QAction>
 #include <QDialog>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plfgraf/chart_export.h"
-#include "platform/qt/text.h"
-#include "ui/chart_bench.h"
+#include "chart_bench.h"
+#include "ui/kit/text.h"
+#include "ui/plfgraf/chart_export.h"
 
 #include <QAccessible>
 #include <QClipboard>

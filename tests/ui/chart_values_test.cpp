@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plfgraf/chart_model.h"
-#include "ui/chart_bench.h"
+#include "chart_bench.h"
+#include "ui/plfgraf/chart_model.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/chart_bench.h"
+#include "chart_bench.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/qt_collation.h"
+#include "ui/ports/qt_collation.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

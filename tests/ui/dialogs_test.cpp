@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/modal_dialog.h"
-#include "ui/window_bench.h"
+#include "modal_dialog.h"
+#include "window_bench.h"
 
 #include <QApplication>
 #include <QDialog>

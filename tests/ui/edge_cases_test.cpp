@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/window_bench.h"
+#include "window_bench.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/fitted_label.h"
-#include "platform/qt/text.h"
-#include "ui/measures.h"
-#include "ui/window_bench.h"
+#include "measures.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/text.h"
+#include "window_bench.h"
 
 #include <QAccessible>
 #include <QHeaderView>

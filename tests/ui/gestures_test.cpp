@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "archive/fixed_text.h"
 #include "forms/plcal/gesti.h"
-#include "forms/plcal/grid_corner.h"
-#include "ui/window_bench.h"
+#include "ui/plcal/grid_corner.h"
+#include "window_bench.h"
 
 #include <QAccessible>
 #include <QApplication>

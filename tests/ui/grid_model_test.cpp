@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/grid_model.h"
 #include "grids/layout.h"
+#include "ui/plcal/grid_model.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>

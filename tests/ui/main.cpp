@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/appearance.h"
-#include "platform/qt/guarded_application.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/guarded_application.h"
 
 #include <QTemporaryFile>
 

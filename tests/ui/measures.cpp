@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/measures.h"
+#include "measures.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/qt/qt_message_boxes.h"
+#include "ui/ports/qt_message_boxes.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/modal_dialog.h"
+#include "modal_dialog.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/grid_model.h"
-#include "platform/qt/guarded_application.h"
-#include "ui/modal_dialog.h"
-#include "ui/window_bench.h"
+#include "modal_dialog.h"
+#include "ui/kit/guarded_application.h"
+#include "ui/plcal/grid_model.h"
+#include "window_bench.h"
 
 #include <QAccessible>
 #include <QDialog>

@@ -3,8 +3,8 @@
 #include "archive/cp1252.h"
 #include "forms/plcal/gesti.h"
 #include "forms/plcal/sentences.h"
-#include "platform/qt/text.h"
-#include "ui/window_bench.h"
+#include "ui/kit/text.h"
+#include "window_bench.h"
 
 #include <QAccessible>
 #include <QApplication>

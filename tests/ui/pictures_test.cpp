@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "engine/session/staff.h"
-#include "platform/qt/pictures.h"
+#include "session/staff.h"
+#include "ui/kit/pictures.h"
 
 #include <QImage>
 

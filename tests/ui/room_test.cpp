@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/grid_corner.h"
-#include "forms/screen_scale.h"
-#include "platform/qt/fitted_label.h"
-#include "ui/measures.h"
-#include "ui/window_bench.h"
+#include "measures.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/screen_scale.h"
+#include "ui/plcal/grid_corner.h"
+#include "window_bench.h"
 
 #include <QCalendarWidget>
 #include <QHeaderView>

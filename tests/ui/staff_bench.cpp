@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/staff_bench.h"
+#include "staff_bench.h"
 
-#include "ui/modal_dialog.h"
+#include "modal_dialog.h"
 
 #include <QApplication>
 #include <QDialog>

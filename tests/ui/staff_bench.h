@@ -3,9 +3,9 @@
 #pragma once
 
 #include "forms/plfcollab/commands.h"
-#include "forms/plfcollab/staff_list_view.h"
-#include "platform/qt/text.h"
-#include "ui/window_bench.h"
+#include "ui/kit/text.h"
+#include "ui/plfcollab/staff_list_view.h"
+#include "window_bench.h"
 
 #include <QTest>
 

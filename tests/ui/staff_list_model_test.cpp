@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plfcollab/staff_list_model.h"
+#include "ui/plfcollab/staff_list_model.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/staff_bench.h"
+#include "staff_bench.h"
 
 #include <QAccessible>
 #include <QAction>

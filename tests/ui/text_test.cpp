@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "archive/cp1252.h"
-#include "platform/qt/text.h"
+#include "ui/kit/text.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/planner_windows.h"
-#include "forms/plcal/grid_view.h"
 #include "support/planner_bench.h"
+#include "ui/planner_windows.h"
+#include "ui/plcal/grid_view.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/grid_corner.h"
-#include "platform/qt/text.h"
-#include "ui/window_bench.h"
+#include "ui/kit/text.h"
+#include "ui/plcal/grid_corner.h"
+#include "window_bench.h"
 
 #include <QAction>
 #include <QCalendarWidget>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plfgraf/chart_view.h"
-#include "platform/qt/fitted_label.h"
-#include "platform/qt/qt_message_boxes.h"
-#include "ui/measures.h"
-#include "ui/modal_dialog.h"
-#include "ui/staff_bench.h"
+#include "measures.h"
+#include "modal_dialog.h"
+#include "staff_bench.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/plfgraf/chart_view.h"
+#include "ui/ports/qt_message_boxes.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "archive/runtime_errors.h"
 #include "describe.h"
 #include "host/command_line.h"
 #include "in_quotes.h"
 #include "options.h"
 #include "platform/posix/system_clock.h"
+#include "ports/runtime_errors.h"
 #include "snapshot.h"
 
 #include <algorithm>

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "archive/runtime_errors.h"
-#include "engine/session/modpl.h"
-#include "platform/ports/clock.h"
-#include "platform/ports/event_pump.h"
-#include "platform/ports/message_boxes.h"
-#include "platform/ports/planner_window.h"
 #include "platform/posix/posix_file_system.h"
+#include "ports/clock.h"
+#include "ports/event_pump.h"
+#include "ports/message_boxes.h"
+#include "ports/planner_window.h"
+#include "ports/runtime_errors.h"
+#include "session/modpl.h"
 
 #include <vector>
 

@@ -3,9 +3,9 @@
 #include "snapshot.h"
 
 #include "engine/clsplg.h"
-#include "engine/guard.h"
 #include "forms/plfgraf/visualizza_grafico.h"
 #include "platform/posix/file_descriptor.h"
+#include "ports/guard.h"
 #include "quiet_ports.h"
 
 #include <array>

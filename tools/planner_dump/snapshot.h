@@ -3,10 +3,10 @@
 #pragma once
 
 #include "engine/controls.h"
-#include "engine/session/modpl.h"
 #include "forms/plfgraf/grafico.h"
 #include "host/transit_request.h"
-#include "platform/ports/message_boxes.h"
+#include "ports/message_boxes.h"
+#include "session/modpl.h"
 
 #include <cstdint>
 #include <optional>

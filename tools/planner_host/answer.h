@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/session/dates.h"
 #include "host/transit_request.h"
+#include "session/dates.h"
 
 #include <functional>
 #include <optional>

@@ -3,11 +3,11 @@
 #include "planner_host/archive_folder.h"
 
 #include "archive/readers.h"
-#include "archive/runtime_errors.h"
-#include "engine/session/staff.h"
 #include "planner_host/errors.h"
 #include "planner_host/readable_text.h"
 #include "platform/posix/posix_file_system.h"
+#include "ports/runtime_errors.h"
+#include "session/staff.h"
 
 #include <array>
 #include <cstdlib>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/session/dates.h"
 #include "sample_archive/sample_archive.h"
+#include "session/dates.h"
 
 #include <filesystem>
 #include <optional>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "planner_host/transit_file.h"
 
-#include "archive/runtime_errors.h"
 #include "planner_host/errors.h"
 #include "platform/posix/posix_file_system.h"
+#include "ports/runtime_errors.h"
 
 namespace planner {
 

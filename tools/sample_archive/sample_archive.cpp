@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sample_archive/sample_archive.h"
 
-#include "archive/runtime_errors.h"
+#include "ports/runtime_errors.h"
 #include "sample_archive/hours.h"
 #include "sample_archive/lines.h"
 #include "sample_archive/office.h"

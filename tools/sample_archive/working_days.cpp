@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sample_archive/working_days.h"
 
-#include "engine/session/calendar_rules.h"
+#include "session/calendar_rules.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/session/dates.h"
+#include "session/dates.h"
 
 #include <vector>
 

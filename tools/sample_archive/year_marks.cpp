@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "sample_archive/year_marks.h"
 
-#include "engine/session/calendar_rules.h"
-#include "engine/session/totals.h"
 #include "sample_archive/digits.h"
 #include "sample_archive/working_days.h"
+#include "session/calendar_rules.h"
+#include "session/totals.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ports/host_ipc.h"
+#include "ports/host_ipc.h"
 
 namespace planner {
 

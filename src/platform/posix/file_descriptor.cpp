@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/file_descriptor.h"
 
-#include "archive/runtime_errors.h"
+#include "ports/runtime_errors.h"
 
 #include <cerrno>
 #include <fcntl.h>

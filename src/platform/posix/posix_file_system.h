@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ports/file_system.h"
+#include "ports/file_system.h"
 
 namespace planner {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ports/clock.h"
+#include "ports/clock.h"
 
 namespace planner {
 

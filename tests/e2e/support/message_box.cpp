@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/screen_scale.h"
-#include "platform/qt/appearance.h"
-#include "platform/qt/qt_message_boxes.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/screen_scale.h"
+#include "ui/ports/qt_message_boxes.h"
 
 #include <QApplication>
 

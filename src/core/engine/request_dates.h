@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "ports/message_boxes.h"
+#include "session/modpl.h"
+
+#include <optional>
+#include <string_view>
+
+namespace planner {
+
+/// The three yyyymmdd texts of a request.
+struct DateInArrivo {
+    std::string_view giorno; // the day to show
+    std::string_view startdate;
+    std::string_view enddate;
+};
+
+/// The dates of a request, read and completed.
+struct DateRichiesta {
+    Data mostrata; // the incoming day, else the start, else today
+    Data inizio;   // else 1 January of the end date's year
+    Data fine;     // else 31 December of the start date's year
+};
+
+/// Reads the dates of a request; a text of blanks and zeros is no date. Impossible dates count as none, and
+/// so does an end before the start: one message box says it of all of them. Without start and end the period
+/// is the shown day's year. The yearly planner shows the day in the year of the start. For an unknown kind,
+/// which shows no day, nothing is said.
+DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
+                               MessageBoxes& messaggi);
+
+} // namespace planner

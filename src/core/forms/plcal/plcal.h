@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/clsplg.h"
+#include "forms/plcal/gesti.h"
+#include "forms/plcal/panel.h"
+#include "forms/plcal/row_marks.h"
+#include "forms/plcal/vista_plcal.h"
+#include "forms/plfcollab/plfcollab.h"
+#include "forms/plfgraf/finestra_grafici.h"
+#include "forms/plfimp/plfimp.h"
+#include "ports/clock.h"
+#include "ports/planner_window.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace planner {
+
+/// The planner window's logic: its life from load to unload, and what its events do. The widgets are behind
+/// `VistaPlcal`. A run-time error in an event is said in a message box, and the planner goes on.
+class plcal : public PlannerWindow {
+public:
+    using FabbricaMotore = std::function<std::unique_ptr<clsplg>()>;
+
+    struct Porte {
+        VistaPlcal& vista;
+        MessageBoxes& messaggi;
+        FinestraImpegno& finestraImpegno;
+        plfcollab& collaboratori;
+        FinestraGrafici& finestraGrafici;
+        const Clock& orologio;
+    };
+
+    plcal(modpl& sessione, ControlliPlcal& controlli, const Porte& porte, FabbricaMotore fabbrica);
+
+    // The window as the engine sees it.
+    bool isLoaded() const override { return m_loaded; }
+    void load() override;
+    void show() override;
+    void bringToFront() override;
+    void unload() override;
+    void hide() override;
+
+    // Its life.
+    /// Key codes are those of the Windows virtual keys.
+    static constexpr int TastoEscape = 27;
+    void Form_Load();
+    void Form_Activate();
+    /// Escape closes the window; true when the key did something.
+    bool Form_KeyDown(int tasto);
+    void Form_Unload();
+
+    /// Midnight has passed.
+    void giornoCambiato();
+
+    /// The user acted on a place of the visible grid: moves what `EffettiGesti` says. Places that it does not
+    /// list, and those outside the grid, are ignored.
+    void griglia_Gesto(const Gesto& gesto);
+    /// The day was picked in the calendar itself; days outside the period change nothing.
+    void calendario_DateClick(Data giorno);
+
+    // Period buttons, by the index of their group.
+    void bselm_Click(int indice);
+    void bselg_Click(int indice);
+    void bselA_Click(int indice);
+    /// The button of the group.
+    void pulsantePeriodo_Click(const PulsantePeriodo& pulsante);
+    /// True when the button would move the period or answer the host.
+    bool pulsantePeriodoAttivo(const PulsantePeriodo& pulsante) const;
+
+    // Toolbar.
+    /// Acts on the key of a button; a key that is not in the table does nothing.
+    void Toolbar1_ButtonClick(std::string_view chiave);
+    /// Refills the grid of the current kind at the level of detail that the toolbar shows.
+    void refreshGrid();
+
+    // What the widgets show besides the controls.
+    static constexpr std::string_view StatoIniziale = "Scegliere una casella: qui se ne legge il contenuto.";
+    const PannelloDettagli& pannello() const { return m_pannello; }
+    /// The status line, UTF-8: what is wrong with the data shown, if anything, and a sentence on the current
+    /// cell.
+    std::string stato() const;
+    const Scala& scala() const { return m_scala; }
+
+private:
+    clsplg& motore();
+    template <typename Command>
+    void esegui(Command command);
+
+    // plcal_selection.cpp
+    void applica(const EffettoGesto& effetto, const Gesto& gesto);
+    void Click(int riga, int colonna);
+    void flxa_RowColChange(int riga, int colonna);
+    void SelChange(Scelta scelta);
+    void flxa_SelChange(int riga, int colonna);
+    void selectStaff(Griglia& griglia);
+    void setStaff(int indice);
+    void showTotals(int indice);
+    void markShownCell();
+    void restoreMarks();
+    void describeCurrentCell();
+    int colonnaDelNome() const;
+    int rigaCursore() const;
+    void posizionaCursore(int colonnaGiornaliera);
+
+    // plcal_period.cpp
+    void showMonth(Data giorno);
+    void showDay(Data giorno);
+    void showPickedDay(Data giorno);
+    bool puoMostrare(Data giorno) const;
+
+    // plcal_commands.cpp
+    void reply(std::string_view azione);
+    std::string composedReply(std::string_view azione) const;
+    void consult();
+    bool canConsult() const;
+    void insimp();
+    void showStaffList();
+    void showChart();
+    void setDettagliato(bool dettagliato);
+
+    modpl& m_sessione;
+    ControlliPlcal& m_controlli;
+    Porte m_porte;
+    FabbricaMotore m_fabbrica;
+    std::unique_ptr<clsplg> m_motore; // made on first use, released at unload
+    bool m_loaded = false;
+    Scala m_scala;
+    PannelloDettagli m_pannello;
+    RowMarks m_marks; // of the visible grid
+    std::string m_stato;
+};
+
+} // namespace planner

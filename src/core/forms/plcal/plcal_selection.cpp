@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "archive/fixed_text.h"
+#include "archive/numeric_value.h"
+#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/sentences.h"
+#include "forms/plcal/yearly_day.h"
+#include "ports/runtime_errors.h"
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+/// The labels of the monthly and daily panel, and the category of totals that each shows.
+struct EtichettaCategoria {
+    std::string_view etichetta;
+    int categoria;
+};
+constexpr std::array EtichetteCategorie{
+    EtichettaCategoria{"Lblscad", 0},    EtichettaCategoria{"lblpra", 1},
+    EtichettaCategoria{"lblpers", 2},    EtichettaCategoria{"Lblnotes", 3},
+    EtichettaCategoria{"Lblscadeva", 4}, EtichettaCategoria{"Lblpraeva", 5}};
+
+} // namespace
+
+void plcal::griglia_Gesto(const Gesto& gesto) {
+    const auto luogo = luogoDi(m_controlli, gesto.riga, gesto.colonna);
+    const EffettoGesto* effetto = luogo ? effettoGesto(*m_controlli.tipoVisibile, *luogo) : nullptr;
+    if (effetto == nullptr) {
+        return;
+    }
+    try {
+        applica(*effetto, gesto);
+    } catch (const std::exception& error) {
+        // No box inside a press: it would swallow the release.
+        m_porte.vista.rinvia(
+            [this, text = operazioneNonRiuscita(error)] { m_porte.messaggi.critical(text); });
+    }
+    m_porte.vista.aggiorna();
+    if (descrizione(gesto.mezzo).consulta && *luogo == Luogo::giorno) {
+        Toolbar1_ButtonClick("consult");
+    }
+}
+
+void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    const Griglia::LockWindowUpdate lock(griglia);
+    if (effetto.giorno) {
+        const bool moved = effetto.tipo == TipoPlanner::Annuale && gesto.mezzo == Mezzo::frecce;
+        moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
+    }
+    const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
+    griglia.setCurrent(gesto.riga, onName ? colonnaDelNome() : gesto.colonna);
+    SelChange(effetto.scelta);
+    describeCurrentCell();
+}
+
+void plcal::Click(int riga, int colonna) {
+    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, riga, colonna)) {
+        m_controlli.calendario.setValue(*giorno);
+    }
+}
+
+void plcal::flxa_RowColChange(int riga, int colonna) {
+    if (m_sessione.CalendarioAttivo) {
+        Click(riga, colonna);
+    }
+}
+
+void plcal::SelChange(Scelta scelta) {
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    if (scelta == Scelta::totaliGiorno) {
+        flxa_SelChange(griglia.Row(), griglia.Col());
+        return;
+    }
+    m_pannello.nascondiTotali();
+    if (scelta == Scelta::collaboratore && !trimRight(griglia.TextMatrix(griglia.Row(), 0)).empty()) {
+        selectStaff(griglia);
+    }
+    markShownCell();
+}
+
+void plcal::selectStaff(Griglia& griglia) {
+    const int indice = griglia.Row() - griglia.FixedRows();
+    setStaff(indice);
+    m_marks.highlight(griglia, griglia.Row());
+    m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
+    m_pannello.lblcollabVisibile = true;
+    showTotals(indice);
+}
+
+void plcal::setStaff(int indice) {
+    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        m_sessione.IndiceCollab = roundTo16Bit(indice);
+    }
+    const auto& staff = m_sessione.archivi.Collaboratori;
+    if (static_cast<std::size_t>(indice) < staff.size()) {
+        m_sessione.collab = staff[static_cast<std::size_t>(indice)].codice.text();
+    }
+}
+
+void plcal::showTotals(int indice) {
+    for (const EtichettaCategoria& shown : EtichetteCategorie) {
+        const bool deadlines = shown.categoria == 0 || shown.categoria == 4;
+        if (!(deadlines && m_sessione.varianteRidotta())) {
+            m_pannello[shown.etichetta] = {
+                formatoTotale(m_sessione.TotaliImpegni.at(indice, shown.categoria)), /*visibile=*/true};
+        }
+    }
+}
+
+void plcal::flxa_SelChange(int riga, int colonna) {
+    m_pannello.svuotaAnnuali();
+    if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
+        m_marks.unmark(m_controlli.flxa); // what is marked is the day whose totals are shown
+        return;
+    }
+    for (const TotaleGiorno& totale : totaliGiorno(m_sessione.archivi, riga, colonna)) {
+        m_pannello[totale.campo->etichetta].testo = formatoTotale(totale.valore);
+    }
+    m_marks.markDay(m_controlli.flxa, riga, colonna);
+}
+
+void plcal::markShownCell() {
+    if (!m_marks.EvidenziazioneAttiva()) {
+        return;
+    }
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int riga = m_marks.RigaEvidenziata();
+    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        m_marks.highlight(griglia, riga); // gives the cell marked before the row's colour
+        m_marks.markCell(griglia, riga, colonnaGiornoMostrato(m_controlli));
+    } else if (griglia.Row() == riga) {
+        m_marks.highlight(griglia, riga);
+        m_marks.markCell(griglia, riga, griglia.Col());
+    }
+}
+
+int plcal::colonnaDelNome() const {
+    return m_controlli.tipoVisibile == TipoPlanner::Mensile ? colonnaGiornoMostrato(m_controlli)
+                                                            : m_controlli.flxg.Col();
+}
+
+void plcal::describeCurrentCell() {
+    const Griglia& griglia = *m_controlli.grigliaVisibile();
+    m_stato = fraseCella(m_controlli, m_sessione, *m_controlli.tipoVisibile, griglia.Row(), griglia.Col());
+}
+
+int plcal::rigaCursore() const {
+    const Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int wanted = m_marks.EvidenziazioneAttiva()    ? m_marks.RigaEvidenziata()
+                       : m_sessione.IndiceRichiesto >= 0 ? griglia.FixedRows() + m_sessione.IndiceRichiesto
+                                                         : griglia.FixedRows();
+    return std::clamp(wanted, griglia.FixedRows(), griglia.Rows() - 1);
+}
+
+void plcal::posizionaCursore(int colonnaGiornaliera) {
+    if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
+        m_controlli.flxg.setCurrent(rigaCursore(), colonnaGiornaliera);
+    } else if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+        m_controlli.Flxm.setCurrent(rigaCursore(), colonnaGiornoMostrato(m_controlli));
+    } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+        m_controlli.flxa.setCurrent(m_controlli.calendario.Month(), colonnaGiornoMostrato(m_controlli));
+    }
+}
+
+void plcal::restoreMarks() {
+    if (!m_marks.EvidenziazioneAttiva()) {
+        return;
+    }
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int riga = std::min(m_marks.RigaEvidenziata(), griglia.Rows() - 1);
+    m_marks.forget();
+    m_marks.highlight(griglia, riga);
+    markShownCell();
+}
+
+} // namespace planner

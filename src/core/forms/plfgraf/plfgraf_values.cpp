@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "forms/plfgraf/plfgraf_values.h"
+
+#include "archive/numeric_value.h"
+#include "archive/readers.h"
+#include "forms/plfgraf/chart_rules.h"
+#include "forms/plfgraf/chart_texts.h"
+#include "ports/runtime_errors.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace planner {
+
+namespace {
+
+constexpr std::size_t GiorniMassimi = 31;
+constexpr std::size_t MesiAnno = 12;
+
+template <typename Record>
+std::span<const Record> firstOf(const std::vector<Record>& table, std::int16_t count) {
+    const auto wanted = static_cast<std::size_t>(std::max<std::int16_t>(count, 0));
+    return std::span(table).first(std::min(wanted, table.size()));
+}
+
+/// How an error names a field that numbers rows, and where numbers beyond the last row lie.
+struct CampoRiga {
+    std::string_view nome;
+    std::string_view fuori;
+};
+
+constexpr CampoRiga CampoGiorno{"il giorno", "è fuori dal mese"};
+constexpr CampoRiga CampoMese{"il mese", "è fuori dall'anno"};
+
+/// Where in the file a record stands, counted from 0.
+using Posto = std::size_t;
+
+template <typename Error>
+[[noreturn]] void refuse(Posto posto, std::string_view campo, std::string_view testo, std::string_view che) {
+    throw Error(std::string(FileGrafici.substr(1)) + ", record " + std::to_string(posto + 1) + ": " +
+                std::string(campo) + " \"" + testoVisibile(testo) + "\" " + std::string(che));
+}
+
+/// The row that a text numbers from 1.
+std::size_t rowOf(std::string_view testo, std::size_t rows, Posto posto, const CampoRiga& campo) {
+    int number = 0;
+    try {
+        number = wholeNumber(testo);
+    } catch (const TypeMismatchError&) {
+        refuse<TypeMismatchError>(posto, campo.nome, testo, "non è un numero");
+    }
+    if (number < 1 || static_cast<std::size_t>(number) > rows) {
+        refuse<SubscriptError>(posto, campo.nome, testo, campo.fuori);
+    }
+    return static_cast<std::size_t>(number - 1);
+}
+
+double oreDi(const RigaGrafico& riga, Posto posto) {
+    const std::string_view testo = riga.ore.front().view();
+    try {
+        return ConvertiOre(testo);
+    } catch (const OverflowError&) {
+        refuse<OverflowError>(posto, "le ore", testo, "sono troppe");
+    }
+}
+
+bool inYear(const RigaGrafico& riga, const Calendario& calendario) {
+    return numericValue(riga.anno.view()) == calendario.Year();
+}
+
+bool inMonth(const RigaGrafico& riga, const Calendario& calendario) {
+    return numericValue(riga.mese.view()) == calendario.Month() && inYear(riga, calendario);
+}
+
+bool onDay(const RigaGrafico& riga, const Calendario& calendario) {
+    return numericValue(riga.giorno.view()) == calendario.Day() && inMonth(riga, calendario);
+}
+
+/// A value for each staff code. The staff table may hold a code more than once.
+using OreCodice = std::unordered_map<std::string_view, double>;
+
+OreCodice noHours(std::span<const Collaboratore> staff) {
+    OreCodice ore;
+    ore.reserve(staff.size());
+    for (const Collaboratore& collaboratore : staff) {
+        ore.emplace(collaboratore.codice.view(), 0);
+    }
+    return ore;
+}
+
+} // namespace
+
+void ValoriGrafico::metti(std::size_t riga, double ore) {
+    valori.at(riga) = ore;
+    massimo = std::max(massimo, ore);
+}
+
+std::span<const RigaGrafico> righeGrafico(const Archivi& archivi) {
+    return firstOf(archivi.RigheGrafici, archivi.NumGrafici);
+}
+
+std::span<const Collaboratore> collaboratoriGrafico(const Archivi& archivi) {
+    return firstOf(archivi.Collaboratori, archivi.NumCollab);
+}
+
+const Collaboratore& collaboratoreGrafico(const Archivi& archivi, std::int16_t indice) {
+    if (indice < 0 || static_cast<std::size_t>(indice) >= archivi.Collaboratori.size()) {
+        throw SubscriptError();
+    }
+    return archivi.Collaboratori[static_cast<std::size_t>(indice)];
+}
+
+ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario, std::int16_t collab) {
+    ValoriGrafico valori(GiorniMassimi);
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
+        if (riga.codice == collaboratoreGrafico(archivi, collab).codice && inMonth(riga, calendario)) {
+            const std::size_t row = rowOf(riga.giorno.view(), GiorniMassimi, posto, CampoGiorno);
+            valori.metti(row, oreDi(riga, posto));
+        }
+    }
+    return valori;
+}
+
+ValoriGrafico valoriGiornalieri(const Archivi& archivi, const Calendario& calendario) {
+    const std::span<const Collaboratore> staff = collaboratoriGrafico(archivi);
+    OreCodice oreCodice = noHours(staff);
+    ValoriGrafico valori(staff.size());
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
+        const auto entry = onDay(riga, calendario) ? oreCodice.find(riga.codice.view()) : oreCodice.end();
+        if (entry != oreCodice.end()) {
+            entry->second = oreDi(riga, posto);
+            valori.massimo = std::max(valori.massimo, entry->second);
+        }
+    }
+    std::transform(staff.begin(), staff.end(), valori.valori.begin(),
+                   [&](const Collaboratore& each) { return oreCodice.at(each.codice.view()); });
+    return valori;
+}
+
+ValoriGrafico valoriAnnuali(const Archivi& archivi, const Calendario& calendario) {
+    ValoriGrafico valori(MesiAnno);
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        const RigaGrafico& riga = righe[posto];
+        if (inYear(riga, calendario)) {
+            const std::size_t row = rowOf(riga.mese.view(), MesiAnno, posto, CampoMese);
+            valori.metti(row, oreDi(riga, posto));
+        }
+    }
+    return valori;
+}
+
+} // namespace planner

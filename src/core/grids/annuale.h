@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "grids/layout.h"
+#include "session/calendario.h"
+#include "session/modpl.h"
+
+namespace planner {
+
+inline constexpr int RigheAnnuale = 13; // header and twelve months
+
+/// Lays out header, month names and day numbers of the year that the calendar shows, and gives the calendar
+/// back on its day. Until the session says otherwise, moves in the grid no longer move the calendar.
+void showgrid3(modpl& sessione, Calendario& calendario, Griglia& flxa);
+
+/// Marks the days of the yearly table, and writes the year into the corner.
+void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa);
+
+/// Empties the data rows.
+void PulisciGrid3(Griglia& flxa);
+
+} // namespace planner

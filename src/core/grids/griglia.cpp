@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "grids/griglia.h"
+
+#include "ports/runtime_errors.h"
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+constexpr int DefaultRowHeight = 300; // twips
+constexpr int DefaultColWidth = 350;
+
+} // namespace
+
+void AreaCelle::include(int riga, int colonna) {
+    if (empty()) {
+        *this = {riga, colonna, riga, colonna};
+        return;
+    }
+    rigaMin = std::min(rigaMin, riga);
+    rigaMax = std::max(rigaMax, riga);
+    colonnaMin = std::min(colonnaMin, colonna);
+    colonnaMax = std::max(colonnaMax, colonna);
+}
+
+Griglia::Griglia(int rows, int cols, int fixedRows, Colore sfondoBase)
+    : m_rows(rows), m_cols(cols), m_fixedRows(fixedRows), m_sfondoBase(sfondoBase),
+      m_cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols)),
+      m_rowHeights(static_cast<std::size_t>(rows), DefaultRowHeight),
+      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows), m_knownCols(cols) {}
+
+void Griglia::setRows(int rows) {
+    const LockWindowUpdate lock(*this);
+    m_rows = std::max(rows, m_fixedRows);
+    m_cells.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols));
+    m_rowHeights.resize(static_cast<std::size_t>(m_rows), DefaultRowHeight);
+    std::erase_if(m_fasce, [this](const auto& row) { return row.first >= m_rows; });
+    m_row = std::min(m_row, m_rows - 1);
+    m_dirty.include(m_fixedRows, 0);
+    m_dirty.include(m_rows - 1, m_cols - 1);
+    m_measuresChanged = true;
+}
+
+void Griglia::setCols(int cols) {
+    if (cols == m_cols) {
+        return;
+    }
+    const LockWindowUpdate lock(*this);
+    m_cols = std::max(cols, FixedCols());
+    m_fasce.clear();
+    m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
+    m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
+    m_col = std::min(m_col, m_cols - 1);
+}
+
+void Griglia::setCurrent(int row, int col) {
+    index(row, col);
+    m_row = row;
+    m_col = col;
+}
+
+template <typename Change>
+void Griglia::change(int row, int col, Change apply) {
+    Cella& cell = m_cells[index(row, col)];
+    const Cella before = cell;
+    apply(cell);
+    if (cell == before) {
+        return; // what looks as before needs no repainting
+    }
+    m_dirty.include(row, col);
+    notify();
+}
+
+void Griglia::setText(int row, int col, std::string_view text) {
+    change(row, col, [&](Cella& cell) { cell.testo = intern(text); });
+}
+
+void Griglia::setCellForeColor(int row, int col, Colore colore) {
+    change(row, col, [=](Cella& cell) { cell.colore = colore; });
+}
+
+void Griglia::setCellBackColor(int row, int col, Colore colore) {
+    change(row, col, [=](Cella& cell) { cell.sfondo = colore; });
+}
+
+void Griglia::setCellPicture(int row, int col, int immagine) {
+    change(row, col, [=](Cella& cell) { cell.immagine = std::clamp(immagine, 0, 16) & 0x1F; });
+}
+
+void Griglia::setCellFont(int row, int col, Carattere carattere) {
+    change(row, col, [=](Cella& cell) { cell.carattere = carattere; });
+}
+
+void Griglia::setCellAlignment(int row, int col, Allineamento allineamento) {
+    change(row, col, [=](Cella& cell) { cell.allineamento = allineamento; });
+}
+
+void Griglia::addCellKinds(int row, int col, unsigned tipi) {
+    change(row, col, [=](Cella& cell) { cell.tipi = (cell.tipi | tipi) & 0xFu; });
+}
+
+std::span<const FasciaImpegno> Griglia::fasce(int row) const {
+    index(row, 0);
+    const auto found = m_fasce.find(row);
+    return found == m_fasce.end() ? std::span<const FasciaImpegno>() : found->second;
+}
+
+void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
+    index(row, 0);
+    m_fasce[row] = std::move(fasce);
+    m_dirty.include(row, 0);
+    m_dirty.include(row, m_cols - 1);
+    notify();
+}
+
+void Griglia::setCellEntry(int row, int col, bool impegno) {
+    change(row, col, [=](Cella& cell) { cell.impegno = impegno; });
+}
+
+void Griglia::setCellToday(int row, int col, bool oggi) {
+    change(row, col, [=](Cella& cell) { cell.oggi = oggi; });
+}
+
+int Griglia::RowHeight(int row) const {
+    index(row, 0);
+    return m_rowHeights[static_cast<std::size_t>(row)];
+}
+
+int Griglia::ColWidth(int col) const {
+    index(0, col);
+    return m_colWidths[static_cast<std::size_t>(col)];
+}
+
+Colore Griglia::sfondoVisibile(int row, int col) const {
+    const Colore own = cella(row, col).sfondo;
+    if (own != Colore::predefinito) {
+        return own;
+    }
+    return row < m_fixedRows || col < FixedCols() ? Colore::intestazione : m_sfondoBase;
+}
+
+void Griglia::setRowHeight(int row, int twips) {
+    index(row, 0);
+    m_rowHeights[static_cast<std::size_t>(row)] = twips;
+    m_measuresChanged = true;
+    notify();
+}
+
+void Griglia::setColWidth(int col, int twips) {
+    index(0, col);
+    m_colWidths[static_cast<std::size_t>(col)] = twips;
+    m_measuresChanged = true;
+    notify();
+}
+
+void Griglia::setOsservatore(OsservatoreGriglia* osservatore) {
+    m_osservatore = osservatore;
+    m_knownRows = m_rows;
+    m_knownCols = m_cols;
+    m_dirty = {};
+    m_measuresChanged = false;
+}
+
+std::size_t Griglia::index(int row, int col) const {
+    if (row < 0 || row >= m_rows || col < 0 || col >= m_cols) {
+        throw SubscriptError();
+    }
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_cols) + static_cast<std::size_t>(col);
+}
+
+std::uint32_t Griglia::intern(std::string_view text) {
+    const auto known = m_textIndex.find(text);
+    if (known != m_textIndex.end()) {
+        return known->second;
+    }
+    const auto place = static_cast<std::uint32_t>(m_texts.size());
+    m_texts.emplace_back(text);
+    m_textIndex.emplace(m_texts.back(), place);
+    return place;
+}
+
+void Griglia::notify() {
+    if (m_locks > 0 || m_osservatore == nullptr) {
+        return;
+    }
+    const bool structure = m_rows != m_knownRows || m_cols != m_knownCols;
+    const AreaCelle area = m_dirty;
+    const bool measures = m_measuresChanged;
+    m_knownRows = m_rows;
+    m_knownCols = m_cols;
+    m_dirty = {};
+    m_measuresChanged = false;
+    if (structure) {
+        m_osservatore->strutturaCambiata();
+    } else if (measures || !area.empty()) {
+        m_osservatore->celleCambiate(area, measures);
+    }
+}
+
+Griglia::LockWindowUpdate::LockWindowUpdate(Griglia& griglia) : m_griglia(griglia) {
+    ++m_griglia.m_locks;
+}
+
+Griglia::LockWindowUpdate::~LockWindowUpdate() {
+    --m_griglia.m_locks;
+    m_griglia.notify();
+}
+
+} // namespace planner

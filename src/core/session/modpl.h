@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "archive/tables.h"
+#include "session/calendar_rules.h"
+#include "session/staff.h"
+#include "session/totals.h"
+
+#include <cstdint>
+#include <string>
+
+namespace planner {
+
+/// First and last day of the period that the host asked for, as texts of digits.
+struct PeriodoSessione {
+    std::string GiornoInizio, MeseInizio, AnnoInizio;
+    std::string GiornoFine, MeseFine, AnnoFine;
+
+    void setInizio(Data data);
+    void setFine(Data data);
+    Data inizio() const { return dateFromTexts(GiornoInizio, MeseInizio, AnnoInizio); }
+    Data fine() const { return dateFromTexts(GiornoFine, MeseFine, AnnoFine); }
+};
+
+/// Whether the last reading of each archive went well. Where it did not, what there was is shown.
+struct LettureArchivi {
+    bool righe = true, annuale = true, collaboratori = true, grafici = true;
+};
+
+/// The state of the planner session, shared by the engine and all windows. `main` makes the one object;
+/// each request refills it. Texts are Windows-1252.
+struct modpl {
+    std::string tipoplanner;   // "M", "G" or "A"
+    std::string tipocall;      // "A" disables the agenda
+    std::string planrichiesto; // "S" disables the charts
+    std::string PathArchivi;   // without a trailing "\"
+    std::string valret;        // the answer being built: ten data characters and the action letter
+    std::string collab = "  "; // staff code that the user picked, two blanks for none
+    bool FinePlanner = false;  // the user is done
+
+    std::string ModoFinestra;   // "N": see Init_planner
+    std::string TitoloFinestra; // kept, read by nobody
+    std::string FlagFinestra;   // "B": reduced window
+
+    TabellaGiorniMese GiorniMese = giorniMese(2001);
+    PeriodoSessione periodo;
+    Data DataSessione{std::chrono::year{2000}, std::chrono::January, std::chrono::day{1}}; // the day to show
+    std::int16_t PrimoGiornoSettimana = 1; // of the shown month; 1 = Sunday
+
+    Archivi archivi;
+    LettureArchivi letture;
+    IndiceCodici indiceCodici;
+    TabellaTotali TotaliImpegni;
+
+    std::int16_t IndiceCollab = -1;    // selected staff member, negative for none
+    std::int16_t IndiceRichiesto = -1; // the one that the request names, negative for none
+    std::int16_t LivelloDettaglio = 4; // 4 detailed, 1 not
+    bool CalendarioAttivo = false;     // moves in the yearly grid may move the calendar
+
+    /// True when the last character of the answer is `azione`.
+    bool risposta(char azione) const { return !valret.empty() && valret.back() == azione; }
+    /// True in the window variant without deadlines.
+    bool varianteRidotta() const { return FlagFinestra == "B"; }
+};
+
+} // namespace planner

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/kit/appearance.h"
+
+#include "ui/kit/text.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QProxyStyle>
+#include <QTranslator>
+
+#include <algorithm>
+
+/// A static library's resources are linked in only when somebody asks for them; the toolkit's macro must
+/// stand outside any namespace.
+static void initResources() {
+    Q_INIT_RESOURCE(resources);
+}
+
+namespace planner {
+
+namespace {
+
+constexpr double SmallestLegible = 7; // points
+
+/// Buttons of message boxes and dialogs bear words alone, as those of the program's own windows: the
+/// toolkit's pictures for them are dark on dark desktops.
+class PlannerStyle : public QProxyStyle {
+public:
+    PlannerStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+/// What stands for the design-time fonts where they are not installed.
+QFont fontNamed(std::string_view family) {
+    QFont font;
+    font.setFamilies({fromUtf8(family), QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans")});
+    return font;
+}
+
+} // namespace
+
+void setUpAppearance(QApplication& application) {
+    initResources();
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
+    QApplication::setStyle(new PlannerStyle); // the application owns it
+    // The style's own pictures everywhere: to search a desktop's themes takes a tenth of the start. An empty
+    // list would mean the system's folders.
+    const QStringList own{QStringLiteral(":/planner")};
+    QIcon::setThemeSearchPaths(own);
+    QIcon::setFallbackSearchPaths(own);
+    QApplication::setFont(qtFont(Carattere::normale, 1));
+    QApplication::setWindowIcon(qtIcon("planner"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QColor qtColor(Colore colore) {
+    const Rgb value = rgb(colore);
+    return {value.red, value.green, value.blue};
+}
+
+QFont qtFont(Carattere which, double factor) {
+    return qtFont(carattere(which), factor);
+}
+
+QFont qtFont(const DescrizioneCarattere& described, double factor) {
+    QFont font = fontNamed(described.famiglia);
+    font.setPointSizeF(std::max(described.punti * factor, SmallestLegible));
+    font.setBold(described.grassetto);
+    return font;
+}
+
+QIcon qtIcon(std::string_view name) {
+    return QIcon(QStringLiteral(":/planner/") + fromUtf8(name) + QStringLiteral(".svg"));
+}
+
+} // namespace planner

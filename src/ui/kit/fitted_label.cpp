@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/kit/fitted_label.h"
+
+#include "ui/kit/text.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace planner {
+
+FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent), m_font(font()) {}
+
+FittedText FittedLabel::fitted() const {
+    return m_font.fit(text(), contentsRect().width());
+}
+
+QSize FittedLabel::minimumSizeHint() const {
+    return {0, PlainLabel::minimumSizeHint().height()};
+}
+
+bool FittedLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return PlainLabel::event(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), fitted().cut ? plainToolTip(text()) : QString(), this);
+    return true;
+}
+
+void FittedLabel::changeEvent(QEvent* event) {
+    PlainLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        m_font = FittingFont(font());
+    }
+}
+
+void FittedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawFrame(&painter);
+    const FittedText shown = fitted();
+    painter.setFont(shown.font);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(contentsRect(), static_cast<int>(alignment()) | static_cast<int>(Qt::TextSingleLine),
+                     shown.shown);
+}
+
+} // namespace planner

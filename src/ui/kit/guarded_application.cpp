@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/kit/guarded_application.h"
+
+#include "ports/guard.h"
+#include "ui/kit/text.h"
+
+#include <QKeyEvent>
+
+namespace planner {
+
+namespace {
+
+constexpr quint64 SamePress = 5; // ms between a release and a press that no finger makes
+
+bool isAnswer(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+bool GuardedApplication::isRepeatedAnswer(const QObject& receiver, const QEvent& event) {
+    if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (!isAnswer(key)) {
+        return false;
+    }
+    const bool press = event.type() == QEvent::KeyPress;
+    // A key comes to the window first, with its time. The toolkit knows a repetition, which is a release and
+    // a press in one moment, only if both have come when it looks.
+    const bool timed = receiver.isWindowType();
+    const bool held = timed && press && key.timestamp() - m_released < SamePress;
+    if (timed && !press) {
+        m_released = key.timestamp();
+    }
+    return press && (held || key.isAutoRepeat());
+}
+
+bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+    if (isRepeatedAnswer(*receiver, *event)) {
+        event->accept();
+        return true;
+    }
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        report(fromUtf8(operazioneNonRiuscita(error)));
+    } catch (...) {
+        report(QStringLiteral("Errore imprevisto."));
+    }
+    return true;
+}
+
+void GuardedApplication::report(const QString& trouble) {
+    if (m_said.contains(trouble)) {
+        return; // a painting that fails would say so with every painting
+    }
+    m_said.insert(trouble);
+    const auto say = [this, trouble] {
+        if (m_messaggi != nullptr) {
+            m_messaggi->critical(trouble.toStdString());
+        }
+    };
+    QMetaObject::invokeMethod(this, say, Qt::QueuedConnection);
+}
+
+} // namespace planner

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/plcal.h"
+#include "ui/plcal/plcal_window.h"
+#include "ui/plfcollab/plfcollab_window.h"
+#include "ui/plfgraf/plfgraf_dialog.h"
+#include "ui/plfimp/plfimp_dialog.h"
+#include "ui/ports/qt_collation.h"
+
+namespace planner {
+
+/// All windows of the planner, wired to each other over one session.
+struct PlannerWindows {
+    PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi, const Clock& orologio,
+                   plcal::FabbricaMotore fabbrica);
+
+    PlcalWindow vista;
+    PlfimpDialog finestraImpegno;
+    PlfgrafDialog finestraGrafici;
+    QtCollation alfabeto;
+    PlfcollabWindow vistaCollab;
+    plfcollab collaboratori;
+    plcal finestra;
+};
+
+} // namespace planner

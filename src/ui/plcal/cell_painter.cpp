@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/cell_painter.h"
+
+#include "grids/layout.h"
+#include "ui/kit/text.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+constexpr QRgb LineColor = qRgb(200, 200, 188);
+constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
+constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
+constexpr QRgb TodayColor = qRgb(0, 110, 60);
+constexpr int TextMargin = 4;
+constexpr int QuartersPerHour = 4;
+
+int pictureSide(const QRect& rect) {
+    return std::min({rect.width() - 3, rect.height() - 2, 64});
+}
+
+/// A day column's right line is stronger at the end of a week, a quarter's at the end of an hour.
+bool endsGroup(const Griglia& griglia, int col) {
+    const int group = griglia.Cols() == ColonneQuarti + 1 ? QuartersPerHour : 7;
+    return col == 0 || col % group == 0;
+}
+
+/// Above and below the bars of a row: no more than a low row can spare.
+int barMargin(const QRect& cell) {
+    return std::clamp(cell.height() / 16, 1, 3);
+}
+
+/// The share of the cell in which the appointment's bar stands: all its height where there is one lane. All
+/// lanes are equally high. Where the row is too low for them they come to lie on each other, each in sight.
+QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
+    constexpr int lowest = 2; // an edge and a line of colour
+    const int margin = barMargin(cell);
+    const QRect bars = cell.adjusted(0, margin, 0, -1 - margin);
+    const int share = bars.height() / fascia.corsie;
+    const int gap = fascia.corsie > 1 && share > lowest ? 1 : 0;
+    const int height = std::max(share - gap, lowest);
+    const int top = std::min(bars.height() * fascia.corsia / fascia.corsie, bars.height() - height);
+    return {bars.left(), bars.top() + std::max(top, 0), bars.width(), height};
+}
+
+/// Lines one pixel wide inside a rectangle's edges, sharp on every screen.
+QRect leftLine(const QRect& rect) {
+    return {rect.left(), rect.top(), 1, rect.height()};
+}
+QRect rightLine(const QRect& rect) {
+    return {rect.right(), rect.top(), 1, rect.height()};
+}
+QRect topLine(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.width(), 1};
+}
+QRect bottomLine(const QRect& rect) {
+    return {rect.left(), rect.bottom(), rect.width(), 1};
+}
+
+bool centred(const Cella& cella) {
+    return cella.allineamento == Allineamento::centro;
+}
+
+} // namespace
+
+CellPainter::CellPainter(double fontFactor) {
+    setFontFactor(fontFactor);
+}
+
+void CellPainter::setFontFactor(double fontFactor) {
+    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
+        m_fonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor));
+    }
+}
+
+void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+                        int keptFree) {
+    const Cella& cella = griglia.cella(row, col);
+    painter.fillRect(rect, qtColor(cella.impegno && cella.sfondo == Colore::azzurro
+                                       ? Colore::gialloChiaro // the span is a bar on the plain row
+                                       : griglia.sfondoVisibile(row, col)));
+    paintLines(painter, rect, griglia, row, col);
+    for (const FasciaImpegno& fascia : griglia.fasce(row)) {
+        if (fascia.copre(col)) {
+            paintBar(painter, laneOf(rect, fascia), fascia, col, cella.sfondo == Colore::ciano);
+        }
+    }
+    if (cella.immagine != 0 && !cella.impegno) { // a bar has its own
+        paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
+    }
+    if (cella.testo != 0) {
+        paintText(painter, textPlace(rect, cella, keptFree), griglia, row, col);
+    }
+    if (cella.oggi) {
+        paintToday(painter, rect);
+    }
+}
+
+void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
+    const int side = besideText ? sideBesideText(rect) : pictureSide(rect);
+    const QPixmap& pixmap = m_pictures.picture(picture, side, painter.device()->devicePixelRatioF());
+    const int left =
+        besideText ? rect.right() - side - TextMargin : rect.left() + (rect.width() - 1 - side) / 2;
+    painter.drawPixmap(QPoint(left, rect.top() + (rect.height() - 1 - side) / 2), pixmap);
+}
+
+int CellPainter::sideBesideText(const QRect& rect) const {
+    constexpr int lines = 2;
+    const QFont& font = m_fonts.at(static_cast<std::size_t>(Carattere::normale)).font();
+    return std::min(pictureSide(rect), lines * QFontMetrics(font).height());
+}
+
+QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree) const {
+    const int pictureWidth = cella.immagine != 0 ? sideBesideText(rect) + TextMargin : 0;
+    constexpr int narrowPart = 20; // of a narrow column: as little as this fraction
+    constexpr int wide = 45;       // of a wide column: a margin that grows with the screen
+    const int margin = centred(cella) ? std::min(TextMargin, rect.width() / narrowPart)
+                                      : std::max(TextMargin, rect.width() / wide);
+    const int right = std::max(pictureWidth, centred(cella) ? margin : 0);
+    return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
+}
+
+FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
+    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(griglia.cella(row, col).carattere));
+    return font.fit(fromCp1252(griglia.TextMatrix(row, col)), place.width());
+}
+
+bool CellPainter::cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree) const {
+    const QRect place = textPlace(rect, griglia.cella(row, col), keptFree);
+    return fittedText(place, griglia, row, col).cut;
+}
+
+void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col) {
+    const Cella& cella = griglia.cella(row, col);
+    const FittedText fitted = fittedText(place, griglia, row, col);
+    painter.setFont(fitted.font);
+    painter.setPen(qtColor(cella.colore));
+    painter.drawText(place,
+                     static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
+                                      (centred(cella) ? Qt::AlignHCenter : Qt::AlignLeft)),
+                     fitted.shown);
+}
+
+void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
+                           bool marked) {
+    constexpr int lowestWithTwoEdges = 4;
+    const QColor edge(BarBorderColor);
+    // The bar stays in sight whatever colour a highlighted row or a marked cell has.
+    painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
+    painter.fillRect(topLine(bar), edge);
+    if (bar.height() >= lowestWithTwoEdges) {
+        painter.fillRect(bottomLine(bar), edge);
+    }
+    if (col == fascia.prima) {
+        painter.fillRect(leftLine(bar), edge);
+        paintBarPicture(painter, bar, fascia.immagine);
+    }
+    if (col == fascia.ultima) {
+        painter.fillRect(rightLine(bar), edge);
+    }
+}
+
+void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int picture) {
+    constexpr int smallest = 3;
+    constexpr int legible = 12;
+    const QRect place = bar.adjusted(2, 1, -1, -1);
+    const int largest = std::max(bar.width() / 2 - 1, legible); // about a corner's size in a high bar
+    const QSize room(place.width(), std::min(place.height(), largest));
+    const QPixmap& line = m_pictures.line(picture, room, painter.device()->devicePixelRatioF());
+    const int height = qRound(line.deviceIndependentSize().height());
+    if (bar.height() >= bar.width() || height <= pictureSide(bar) / 2) { // corners as large as in a free row
+        paintPicture(painter, bar, picture, /*besideText=*/false);
+    } else if (height >= smallest) {
+        painter.drawPixmap(QPoint(place.left(), place.top() + (place.height() - height) / 2), line);
+    }
+}
+
+void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
+    constexpr int frame = 2;
+    painter.setPen(QPen(QColor(TodayColor), frame));
+    painter.drawRect(rect.adjusted(1, 1, -frame, -frame));
+}
+
+void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
+    painter.fillRect(bottomLine(rect), QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
+    painter.fillRect(rightLine(rect), QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
+}
+
+} // namespace planner

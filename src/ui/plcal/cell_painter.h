@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "grids/griglia.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/fitting_font.h"
+#include "ui/kit/pictures.h"
+
+#include <array>
+
+class QPainter;
+class QRect;
+
+namespace planner {
+
+/// Paints the cells of a grid: background, picture, text, lines. Delegate, headers and corner share it, so
+/// that every cell looks the same wherever it stands.
+class CellPainter {
+public:
+    /// Fonts follow the screen, as far as they stay legible.
+    explicit CellPainter(double fontFactor);
+
+    void setFontFactor(double fontFactor);
+
+    /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
+    void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+               int keptFree = 0);
+    /// True when the cell's text is not shown whole in the place.
+    bool cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree = 0) const;
+
+private:
+    int sideBesideText(const QRect& rect) const;
+    /// Where a cell's text stands: beside its picture, and between what stands at either side.
+    QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
+    FittedText fittedText(const QRect& place, const Griglia& griglia, int row, int col) const;
+    void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
+    void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col);
+    void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, bool marked);
+    /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
+    void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
+    void paintToday(QPainter& painter, const QRect& rect);
+    void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+
+    std::array<FittingFont, Caratteri.size()> m_fonts;
+    Pictures m_pictures;
+};
+
+} // namespace planner

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/detail_panel.h"
+
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/text.h"
+
+#include <QFrame>
+
+namespace planner {
+
+namespace {
+
+constexpr QRgb BoxEdgeColor = qRgb(136, 136, 136);
+
+void place(QWidget& label, const Rettangolo& twips, const Scala& scala) {
+    const Rettangolo place = pixels(twips, scala);
+    label.setGeometry(place.Left, place.Top, place.Width, place.Height);
+}
+
+/// A field that stands out from the window in light and in dark.
+QFrame* makeBox(QWidget* parent) {
+    auto* box = new QFrame(parent);
+    box->setFrameStyle(QFrame::Box | QFrame::Plain);
+    box->setAutoFillBackground(true);
+    box->setBackgroundRole(QPalette::Base);
+    box->setForegroundRole(QPalette::WindowText);
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::WindowText, QColor(BoxEdgeColor));
+    box->setPalette(palette);
+    return box;
+}
+
+} // namespace
+
+DetailPanel::DetailPanel(QWidget* parent) : QObject(parent) {
+    for (const EtichettaTotale& etichetta : EtichetteTotali) {
+        auto* caption = new FittedLabel(parent);
+        caption->setText(fromUtf8(etichetta.didascalia));
+        QFrame* box = makeBox(parent);
+        auto* number = new FittedLabel(box);
+        number->setForegroundRole(QPalette::Text);
+        number->setObjectName(fromUtf8(etichetta.nome));
+        number->setAlignment(Qt::AlignCenter);
+        m_coppie.push_back({&etichetta, caption, box, number});
+    }
+}
+
+void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta, const Scala& scala) {
+    for (const Coppia& coppia : m_coppie) {
+        const bool visible = totaleVisibile(*coppia.etichetta, tipo, varianteRidotta);
+        coppia.didascalia->setVisible(visible);
+        coppia.riquadro->setVisible(visible);
+        place(*coppia.didascalia, posizioneDidascalia(*coppia.etichetta, varianteRidotta), scala);
+        place(*coppia.riquadro, posizioneNumero(*coppia.etichetta, varianteRidotta), scala);
+        coppia.numero->setGeometry(coppia.riquadro->rect());
+    }
+}
+
+void DetailPanel::show(const PannelloDettagli& contents) {
+    for (const Coppia& coppia : m_coppie) {
+        const StatoEtichetta& state = contents[coppia.etichetta->nome];
+        const QString number = fromUtf8(state.testo);
+        coppia.numero->setVisible(state.visibile);
+        coppia.numero->setText(number);
+        coppia.numero->setAccessibleName(fromUtf8(coppia.etichetta->didascalia) + QStringLiteral(": ") +
+                                         (number.isEmpty() ? QStringLiteral("0") : number));
+    }
+}
+
+} // namespace planner

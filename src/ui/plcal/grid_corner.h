@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plcal/design.h"
+#include "ui/plcal/cell_painter.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QToolButton;
+
+namespace planner {
+
+/// A grid's top left fixed cells, with the period buttons on them.
+class GridCorner : public QWidget {
+    Q_OBJECT
+public:
+    GridCorner(const Griglia& griglia, TipoPlanner tipo, CellPainter& painter, QWidget* parent);
+
+    /// Heights of the header rows, in pixels.
+    void setRowHeights(const std::vector<int>& heights);
+    /// Puts the period buttons into their cells.
+    void placeButtons(float scalaX);
+    /// Disables the buttons that would do nothing; one that has the focus passes it to `successor`.
+    void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active, QWidget& successor);
+
+Q_SIGNALS:
+    void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addButton(const PulsantePeriodo& described);
+    Rettangolo cellOf(int row) const;
+    QRect placeOf(int row) const;
+    int roomForButtons(int row) const;
+    QString toolTipAt(const QPoint& position) const;
+
+    const Griglia& m_griglia;
+    CellPainter& m_painter;
+    std::vector<int> m_heights;
+    std::vector<std::pair<const PulsantePeriodo*, QToolButton*>> m_buttons;
+};
+
+} // namespace planner

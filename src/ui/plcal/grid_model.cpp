@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/grid_model.h"
+
+#include "ui/kit/appearance.h"
+#include "ui/kit/model_answers.h"
+#include "ui/kit/text.h"
+
+#include <algorithm>
+
+namespace planner {
+
+GridModel::GridModel(Griglia& griglia, Frase frase, QObject* parent)
+    : QAbstractTableModel(parent), m_griglia(griglia), m_frase(std::move(frase)), m_rows(griglia.Rows()),
+      m_cols(griglia.Cols()) {
+    m_griglia.setOsservatore(this);
+}
+
+GridModel::~GridModel() {
+    m_griglia.setOsservatore(nullptr);
+}
+
+QModelIndex GridModel::index(int row, int column, const QModelIndex& parent) const {
+    // The toolkit keeps an index for each cell that an assistive program has read, in a table by row * 16 +
+    // column + identifier. Where rows are wider than 16 cells, cells would share places, thousands of them
+    // one; giving back an office of 500 would take minutes. The identifier makes the rows lie apart.
+    constexpr quintptr hashedRow = 16;
+    const auto apart = static_cast<quintptr>(std::max(m_cols, 0));
+    return hasIndex(row, column, parent)
+               ? createIndex(row, column,
+                             static_cast<quintptr>(row) * (apart > hashedRow ? apart - hashedRow : 0))
+               : QModelIndex();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(m_rows - m_griglia.FixedRows(), 0);
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(m_cols - Griglia::FixedCols(), 0);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    return orNothing([&] { return cellData(gridRow(index.row()), gridCol(index.column()), role); });
+}
+
+QVariant GridModel::cellData(int row, int col, int role) const {
+    switch (role) {
+    case Qt::DisplayRole:
+        return fromCp1252(m_griglia.TextMatrix(row, col));
+    case Qt::ForegroundRole:
+        return qtColor(m_griglia.cella(row, col).colore);
+    case Qt::BackgroundRole:
+        return qtColor(m_griglia.sfondoVisibile(row, col));
+    case Qt::AccessibleTextRole:
+    case Qt::StatusTipRole:
+        return fromUtf8(m_frase(row, col));
+    case Qt::ToolTipRole:
+        return plainToolTip(fromUtf8(m_frase(row, col)));
+    default:
+        return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const int count = orientation == Qt::Vertical ? rowCount() : columnCount();
+    if (section < 0 || section >= count) {
+        return {};
+    }
+    return orNothing([&]() -> QVariant {
+        if (orientation == Qt::Vertical) {
+            return rowData(gridRow(section), role);
+        }
+        return role == Qt::DisplayRole ? columnTitle(gridCol(section)) : QVariant();
+    });
+}
+
+QVariant GridModel::rowData(int row, int role) const {
+    return role == Qt::DisplayRole          ? fromCp1252(m_griglia.TextMatrix(row, 0))
+           : role == Qt::AccessibleTextRole ? fromUtf8(m_frase(row, 0))
+                                            : QVariant();
+}
+
+QString GridModel::columnTitle(int col) const {
+    QString text;
+    for (int row = 0; row < m_griglia.FixedRows(); ++row) {
+        text += fromCp1252(m_griglia.TextMatrix(row, col)) + QLatin1Char(' ');
+    }
+    return text.trimmed();
+}
+
+void GridModel::strutturaCambiata() {
+    beginResetModel();
+    m_rows = m_griglia.Rows();
+    m_cols = m_griglia.Cols();
+    endResetModel();
+    Q_EMIT measuresChanged();
+    Q_EMIT headersChanged();
+}
+
+void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
+    const int firstRow = std::max(area.rigaMin - m_griglia.FixedRows(), 0);
+    const int firstColumn = std::max(area.colonnaMin - Griglia::FixedCols(), 0);
+    const int lastRow = area.rigaMax - m_griglia.FixedRows();
+    const int lastColumn = area.colonnaMax - Griglia::FixedCols();
+    if (lastRow >= firstRow && lastColumn >= firstColumn) {
+        Q_EMIT dataChanged(index(firstRow, firstColumn), index(lastRow, lastColumn));
+    }
+    if (misure) {
+        Q_EMIT measuresChanged();
+    }
+    if (!area.empty() && (area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols())) {
+        Q_EMIT headersChanged();
+    }
+}
+
+} // namespace planner

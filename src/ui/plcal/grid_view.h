@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "forms/plcal/design.h"
+#include "forms/plcal/geometry.h"
+#include "forms/plcal/gesti.h"
+#include "ui/plcal/cell_painter.h"
+#include "ui/plcal/grid_model.h"
+
+#include <QTableView>
+
+namespace planner {
+
+class GridCorner;
+class GridHeader;
+
+/// One of the planner's grids on the screen: header rows and names stay in sight, the rest scrolls.
+class GridView : public QTableView {
+    Q_OBJECT
+public:
+    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, GridModel::Frase frase,
+             QWidget* parent);
+
+    /// The factors that turn the grid's twips into pixels.
+    void setScala(const Scala& scala);
+    void placeButtons();
+    /// Makes a grid column, counted from 1, the first one in sight.
+    void scrollToColumn(int colonna);
+    /// Makes the grid's current cell the view's, without scrolling and without an event.
+    void showCurrentCell();
+    /// Disables the period buttons that would do nothing.
+    void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
+    /// Shows or hides the corner too.
+    void setVisible(bool visible) override;
+
+    /// The first column in sight beside the names, the grid's own.
+    int firstColumnInSight() const;
+    /// Scrolls to the beginning, and from there as far as the current cell's row needs it.
+    void scrollToCurrentRow();
+
+Q_SIGNALS:
+    /// The user acted on a place of the grid: once for each gesture, and for nothing that the toolkit does.
+    void gesture(const planner::Gesto& gesto);
+    void menuRequested(const QPoint& globalPosition);
+    void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent*) override {}    // a drag selects nothing
+    void mouseReleaseEvent(QMouseEvent*) override {} // a click acts at the press
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(const QString&) override {} // letters are no way to a cell
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void updateGeometries() override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+private:
+    void setUpBehaviour();
+    void connectEvents();
+    void announce(const QModelIndex& index, Mezzo mezzo);
+    static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
+    void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);
+    void applyMeasures();
+    void applyRowMeasures();
+    float columnScale() const;
+    float rowScale() const;
+
+    TipoPlanner m_tipo;
+    GridModel* m_model;
+    GridHeader* m_columns;
+    GridHeader* m_names;
+    GridCorner* m_corner;
+    Scala m_scala;
+};
+
+} // namespace planner

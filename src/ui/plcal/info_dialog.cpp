@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/info_dialog.h"
+
+#include "session/staff.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/pictures.h"
+#include "ui/kit/plain_label.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+
+namespace planner {
+
+namespace {
+
+struct VoceLegenda {
+    int immagine;
+    QString significato;
+};
+
+std::vector<VoceLegenda> legend() {
+    return {{Eval_imagedisplay("1"), QStringLiteral("Note riservate")},
+            {Eval_imagedisplay("2"), QStringLiteral("Impegni vari")},
+            {Eval_imagedisplay("3"), QStringLiteral("Scadenze")},
+            {Eval_imagedisplay("4"), QStringLiteral("Pratiche")},
+            {Eval_imagedisplay("1234"),
+             QStringLiteral("Più disegni insieme: più tipi di impegno nello stesso giorno")},
+            {ImmaginePresenza, QStringLiteral("Planner non dettagliato: nel giorno c'è almeno un impegno")}};
+}
+
+/// The pictures are drawn for light cells, so they stand on one here too.
+QLabel* pictureLabel(QWidget* parent, int picture) {
+    constexpr int margin = 4;
+    const int side = 5 * parent->fontMetrics().height() / 2;
+    Pictures pictures;
+    auto* label = new PlainLabel(parent);
+    label->setPixmap(pictures.picture(picture, side, parent->devicePixelRatioF()));
+    label->setAutoFillBackground(true);
+    label->setMargin(margin);
+    QPalette light = label->palette();
+    light.setColor(QPalette::Window, qtColor(Colore::gialloChiaro));
+    label->setPalette(light);
+    return label;
+}
+
+QLabel* textLabel(QWidget* parent, const QString& text) {
+    auto* label = new PlainLabel(parent);
+    label->setText(text);
+    return label;
+}
+
+QFont titleFont(QFont font) {
+    constexpr double factor = 1.3;
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(true);
+    return font;
+}
+
+void addLegend(QGridLayout& layout, QWidget* parent) {
+    for (const VoceLegenda& entry : legend()) {
+        const int row = layout.rowCount();
+        layout.addWidget(pictureLabel(parent, entry.immagine), row, 0, Qt::AlignCenter);
+        layout.addWidget(textLabel(parent, entry.significato), row, 1);
+    }
+}
+
+} // namespace
+
+void showInfoDialog(QWidget* parent) {
+    QDialog dialog(parent);
+    dialog.setObjectName(QStringLiteral("informazioni"));
+    dialog.setWindowTitle(QStringLiteral("Informazioni"));
+    auto* layout = new QGridLayout(&dialog);
+    layout->setColumnStretch(1, 1);
+    layout->setHorizontalSpacing(12);
+    QLabel* title = textLabel(&dialog, QStringLiteral("Planner grafico, versione " PLANNER_VERSION));
+    title->setFont(titleFont(dialog.font()));
+    layout->addWidget(title, 0, 0, 1, 2);
+    addLegend(*layout, &dialog);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons, layout->rowCount(), 0, 1, 2);
+    dialog.exec();
+}
+
+} // namespace planner

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/controls.h"
+#include "forms/plcal/plcal.h"
+#include "forms/plcal/vista_plcal.h"
+#include "ui/plcal/cell_painter.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QShortcut;
+
+namespace planner {
+
+class CommandBar;
+class DetailPanel;
+class FittedLabel;
+class GridView;
+class ShownCalendar;
+
+/// The planner window's widgets. It decides nothing: events go to `plcal`, contents come from its data and
+/// from the controls'.
+class PlcalWindow : public QWidget, public VistaPlcal {
+    Q_OBJECT
+public:
+    PlcalWindow(const modpl& sessione, ControlliPlcal& controlli);
+    ~PlcalWindow() override;
+
+    /// Whom the window's events go to; must be set before the window is shown.
+    void setForm(plcal& form) { m_form = &form; }
+
+    Dimensioni schermo() const override;
+    void disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) override;
+    void aggiorna() override;
+    void disponiPulsantiPeriodo() override;
+    void scorriA(int colonna) override;
+    int primaColonnaInVista() const override;
+    void scorriAlCursore() override;
+    void rinvia(std::function<void()> azione) override;
+    void mostra() override;
+    void nascondi() override;
+    void portaDavanti() override;
+    void LockWindowUpdate(bool locked) override;
+    void mostraInformazioni() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    GridView* makeGrid(TipoPlanner tipo);
+    void awaitMidnight();
+    void nameControls();
+    void connectEvents();
+    void connectGrid(GridView& grid);
+    void addPeriodShortcuts();
+    void pressPeriodKeys(const QKeySequence& keys);
+    void showMenu(const QPoint& globalPosition);
+    void updateCalendar();
+    void updateGrid();
+    void place(QWidget& widget, const Rettangolo& twips) const;
+    void setSmallestSize();
+    void fillRemainingSpace();
+    GridView* visibleGrid() const;
+
+    const modpl& m_sessione;
+    ControlliPlcal& m_controlli;
+    plcal* m_form = nullptr;
+    Scala m_scala;
+    CellPainter m_painter{1};
+
+    CommandBar* m_Toolbar1;
+    ShownCalendar* m_calendario;
+    FittedLabel* m_lbldescr;
+    FittedLabel* m_lblcollab;
+    FittedLabel* m_stato;
+    DetailPanel* m_panel;
+    GridView* m_Flxm;
+    GridView* m_flxg;
+    GridView* m_flxa;
+    std::vector<QShortcut*> m_periodKeys;
+    QTimer m_mezzanotte;
+    bool m_pressedHere = false;    // the mouse, since the window was shown for this request
+    bool m_untouched = true;       // the user has done nothing since then
+    bool m_leftForMessage = false; // the window is inactive because of a message box of its own
+};
+
+} // namespace planner

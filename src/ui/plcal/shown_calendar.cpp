@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/shown_calendar.h"
+
+#include "ui/kit/quiet_accessibility.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include <algorithm>
+#include <optional>
+
+namespace planner {
+
+namespace {
+
+constexpr int SmallestRow = 1; // pixels: the rows share the height that there is
+constexpr int Rows = 8;        // heading, letters of the weekdays, six weeks
+
+QDate qtDate(Data data) {
+    return {yearOf(data), monthOf(data), dayOf(data)};
+}
+
+} // namespace
+
+ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
+    setObjectName(QStringLiteral("calendario"));
+    setLocale(QLocale());
+    setFirstDayOfWeek(Qt::Monday);
+    setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
+    setDateEditEnabled(false); // typed digits would open a field of their own
+    hideNavigation();
+    for (QTableView* days : findChildren<QTableView*>()) {
+        days->viewport()->installEventFilter(this);
+        days->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where it was
+        days->setAccessibleName(QStringLiteral("Giorni del calendario"));
+        days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
+    }
+    colourDays();
+    connect(this, &QCalendarWidget::clicked, this, &ShownCalendar::pick);
+    connect(this, &QCalendarWidget::selectionChanged, this, [this] {
+        if (!m_byCode) {
+            pick(selectedDate());
+        }
+    });
+}
+
+void ShownCalendar::pick(QDate day) {
+    if (const auto picked = makeDate(day.year(), day.month(), day.day())) {
+        Q_EMIT dayPicked(*picked);
+    }
+}
+
+void ShownCalendar::hideNavigation() {
+    // It shows a date; the period buttons move it. Month and year stay as its heading.
+    for (const char* arrow : {"qt_calendar_prevmonth", "qt_calendar_nextmonth"}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(arrow))) {
+            button->hide();
+        }
+    }
+    for (const char* heading : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(heading))) {
+            button->setAttribute(Qt::WA_TransparentForMouseEvents);
+            button->setFocusPolicy(Qt::NoFocus);
+            button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+        }
+    }
+}
+
+void ShownCalendar::colourDays() {
+    // Readable on light and on dark; pure red is not.
+    const bool dark = palette().color(QPalette::Base).lightness() < 128;
+    QTextCharFormat weekend;
+    weekend.setForeground(dark ? QColor(255, 128, 128) : QColor(176, 0, 0));
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
+}
+
+void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
+    const QScopedValueRollback byCode(m_byCode, true);
+    // The days' table announces its current day as focused, wherever the focus is: a screen reader would
+    // leave the grid.
+    std::optional<QuietAccessibility> quiet;
+    if (!isAncestorOf(QApplication::focusWidget())) {
+        quiet.emplace();
+    }
+    const Data shown = calendario.Value();
+    setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
+    setSelectedDate(qtDate(shown));
+    setCurrentPage(calendario.Year(), calendario.Month());
+}
+
+void ShownCalendar::fitHeading() {
+    const int height = std::max(this->height() / Rows, fontMetrics().height() + 2);
+    QFont letters = font();
+    letters.setBold(true);
+    for (const char* part :
+         {"qt_calendar_navigationbar", "qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
+        if (auto* widget = findChild<QWidget*>(QLatin1String(part))) {
+            widget->setFixedHeight(height);
+            widget->setFont(letters); // the toolkit's own keep the size they were made with
+        }
+    }
+}
+
+void ShownCalendar::resizeEvent(QResizeEvent* event) {
+    fitHeading();
+    QCalendarWidget::resizeEvent(event);
+}
+
+bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {
+    return event->type() == QEvent::Wheel || QCalendarWidget::eventFilter(watched, event);
+}
+
+} // namespace planner

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "session/calendario.h"
+
+#include <QCalendarWidget>
+
+namespace planner {
+
+/// The month calendar that shows the date of `calendario`.
+class ShownCalendar : public QCalendarWidget {
+    Q_OBJECT
+public:
+    explicit ShownCalendar(QWidget* parent);
+
+    /// Shows the date; days outside the bounds cannot be picked.
+    void update(const Calendario& calendario, Data primo, Data ultimo);
+
+Q_SIGNALS:
+    void dayPicked(planner::Data giorno);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void hideNavigation();
+    void fitHeading();
+    void colourDays();
+    void pick(QDate day);
+
+    bool m_byCode = false;
+};
+
+} // namespace planner

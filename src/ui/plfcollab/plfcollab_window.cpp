@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plfcollab/plfcollab_window.h"
+
+#include "ui/kit/appearance.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/screen_scale.h"
+#include "ui/kit/text.h"
+#include "ui/kit/tool_commands.h"
+#include "ui/plfcollab/staff_list_view.h"
+#include "ui/plfcollab/staff_toolbar.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QToolButton>
+
+namespace planner {
+
+namespace {
+
+constexpr QSize DesignSize(840, 560);
+constexpr int ArrowSide = 20; // beside letters of the designed size
+
+} // namespace
+
+PlfcollabWindow::PlfcollabWindow()
+    : m_toolbar(new StaffToolbar(this)), m_list(new StaffListView(this)), m_count(new FittedLabel(this)) {
+    setObjectName(QStringLiteral("plfcollab"));
+    setWindowTitle(QStringLiteral("Selezione Collaboratori"));
+    m_list->setObjectName(QStringLiteral("List_Prenotazione"));
+    m_list->setAccessibleName(QStringLiteral("Collaboratori"));
+    m_count->setObjectName(QStringLiteral("conteggio"));
+    layOut();
+    connectEvents();
+}
+
+PlfcollabWindow::~PlfcollabWindow() = default;
+
+void PlfcollabWindow::layOut() {
+    auto* list = new QHBoxLayout;
+    list->addWidget(m_list, 1);
+    m_arrows = makeArrows();
+    list->addWidget(m_arrows);
+    auto* inner = new QVBoxLayout;
+    inner->setContentsMargins(8, 4, 8, 6);
+    inner->addLayout(list, 1);
+    inner->addWidget(m_count);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(m_toolbar);
+    outer->addLayout(inner, 1);
+}
+
+QWidget* PlfcollabWindow::makeArrows() {
+    auto* frame = new QFrame(this);
+    frame->setObjectName(QStringLiteral("Frame1"));
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(4, 4, 4, 4);
+    for (const DescrizioneFreccia& described : FrecceCollab) {
+        const int indice = static_cast<int>(described.indice);
+        auto* button = new QToolButton(frame);
+        button->setObjectName(QStringLiteral("ButtonFrecce_") + QString::number(indice));
+        button->setIcon(qtIcon(described.immagine));
+        button->setIconSize(QSize(ArrowSide, ArrowSide));
+        button->setToolTip(fromUtf8(described.nome));
+        button->setAccessibleName(fromUtf8(described.nome));
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setAutoRepeat(true);
+        connect(button, &QToolButton::clicked, this, [this, indice] { m_form->ButtonFrecce_Click(indice); });
+        layout->addWidget(button);
+        if (described.indice == Freccia::rigaSu) {
+            layout->addStretch();
+        }
+    }
+    return frame;
+}
+
+void PlfcollabWindow::connectEvents() {
+    connect(m_toolbar, &StaffToolbar::ButtonClick, this,
+            [this](int indice) { m_form->Toolbar_pren_ButtonClick(indice); });
+    connect(m_list, &StaffListView::rowSelected, this,
+            [this](std::optional<int> riga) { m_form->List_Prenotazione_ItemClick(riga); });
+    connect(m_list, &StaffListView::checkRequested, this,
+            [this](int riga, bool spuntata) { m_form->List_Prenotazione_ItemCheck(riga, spuntata); });
+}
+
+void PlfcollabWindow::setForm(plfcollab& form) {
+    m_form = &form;
+    m_list->setLista(form.List_Prenotazione());
+}
+
+void PlfcollabWindow::fitToScreen() {
+    // The same factor as the planner window's, so that both have one size of letters.
+    const QRect available = screen()->availableGeometry();
+    const double factor = fontFactorFor(*screen());
+    setFont(qtFont(Carattere::normale, factor));
+    fitPictures(*m_toolbar, QWIDGETSIZE_MAX);
+    for (QToolButton* arrow : m_arrows->findChildren<QToolButton*>()) {
+        const int side = qRound(ArrowSide * factor);
+        arrow->setIconSize(QSize(side, side));
+    }
+    m_toolbar->setMinimumWidth(m_toolbar->sizeHint().width()); // every command stays in sight
+    const QSize wanted = (QSizeF(DesignSize) * factor).toSize().expandedTo(sizeHint());
+    resize(wanted.boundedTo(available.size() * 9 / 10));
+    move(available.center() - rect().center());
+}
+
+void PlfcollabWindow::mostra() {
+    if (!m_placed) {
+        m_placed = true; // later the window stands where the user left it
+        fitToScreen();
+        m_list->showRows();
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    m_list->setFocus();
+    raise();
+    activateWindow();
+}
+
+void PlfcollabWindow::nascondi() {
+    if (m_question) {
+        m_question->reject();
+    }
+    hide();
+}
+
+void PlfcollabWindow::aggiornaRighe() {
+    m_list->showRows();
+    aggiorna();
+}
+
+void PlfcollabWindow::aggiorna() {
+    m_list->showMarks();
+    m_count->setText(fromUtf8(m_form->conteggio()));
+}
+
+void PlfcollabWindow::portaInVista(int riga) {
+    m_list->bringIntoView(riga);
+}
+
+int PlfcollabWindow::primaRigaVisibile() const {
+    return m_list->firstVisibleRow();
+}
+
+int PlfcollabWindow::righePerPagina() const {
+    return m_list->rowsPerPage();
+}
+
+void PlfcollabWindow::scorriA(int riga) {
+    m_list->scrollToRow(riga);
+}
+
+std::optional<std::string> PlfcollabWindow::chiediTesto(std::string_view titolo,
+                                                        const std::string& iniziale) {
+    QInputDialog dialog(this);
+    dialog.setObjectName(QStringLiteral("domanda"));
+    dialog.setFont(font()); // a window of its own inherits none
+    dialog.setWindowTitle(fromUtf8(titolo));
+    dialog.setLabelText(QStringLiteral("Testo da cercare nel nome o nel codice (F3 ripete la ricerca):"));
+    dialog.setTextValue(fromUtf8(iniziale));
+    m_question = &dialog;
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog.textValue().toStdString();
+}
+
+void PlfcollabWindow::closeEvent(QCloseEvent* event) {
+    event->ignore(); // the form takes the window off the screen
+    m_form->unload();
+}
+
+void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
+    // No shortcuts: those are deaf until the window system has made the window the active one.
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        m_form->unload();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        pressEnter();
+        break;
+    case Qt::Key_F3:
+        m_form->cercaAncora();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PlfcollabWindow::pressEnter() {
+    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget())) {
+        button->click();
+    } else {
+        m_form->Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));
+    }
+}
+
+} // namespace planner

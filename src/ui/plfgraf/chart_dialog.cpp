@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plfgraf/chart_dialog.h"
+
+#include "forms/plfgraf/chart_texts.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/screen_scale.h"
+#include "ui/kit/text.h"
+#include "ui/plfgraf/chart_kind_frame.h"
+#include "ui/plfgraf/chart_view.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+
+namespace planner {
+
+namespace {
+
+constexpr int TastoEscape = 27;
+constexpr double ScreenShare = 0.9; // of the screen, in each direction, that the window takes at first
+constexpr int StripMargin = 3;      // above and below what stands in the strip below the chart, pixels
+constexpr int StripGap = 6;
+constexpr int ButtonPadding = 12;                       // beyond the style's own
+constexpr int MargineGrafico = 500 / TwipsPerPixel + 1; // of the chart in the window, both sides
+constexpr int NarrowestStatus = 120;
+
+const QString Suggerimento = QStringLiteral("Frecce o mouse: leggere i valori.");
+
+QRect pixelRect(const Rettangolo& twips) {
+    return {twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel,
+            twips.Height / TwipsPerPixel};
+}
+
+QString chartName(const plfgraf& form) {
+    const Grafico* chart = form.visibile();
+    return chart == &form.MSChartm()   ? QStringLiteral("MSChartm")
+           : chart == &form.MSChartg() ? QStringLiteral("MSChartg")
+                                       : QStringLiteral("MSCharta");
+}
+
+/// The font of what stands outside the chart: the strip below it has one height on every screen.
+QFont stripFont(double factor) {
+    constexpr double highestLetters = 22; // pixels, that a button of the strip can hold
+    QFont font = qtFont(Carattere::normale, factor);
+    const double height = QFontMetricsF(font).height();
+    if (height > highestLetters) {
+        font.setPointSizeF(font.pointSizeF() * highestLetters / height);
+    }
+    return font;
+}
+
+int widthOf(const QPushButton& button) {
+    return button.sizeHint().width() + ButtonPadding;
+}
+
+const Rettangolo& chartPosition(const plfgraf& form) {
+    const Grafico* chart = form.visibile();
+    return chart == &form.MSChartm()   ? form.posizioneMSChartm()
+           : chart == &form.MSChartg() ? form.posizioneMSChartg()
+                                       : form.posizioneMSCharta();
+}
+
+} // namespace
+
+ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), m_form(form),
+      m_messaggi(messaggi), m_fontFactor(fontFactorFor(*screen())),
+      m_chart(new ChartView(*form.visibile(), m_fontFactor, this)), m_frame(makeFrame()),
+      m_stato(new FittedLabel(this)) {
+    setObjectName(QStringLiteral("plfgraf"));
+    setWindowTitle(QStringLiteral("Planner"));
+    setFont(stripFont(m_fontFactor));
+    const QString heading = fromUtf8(testoIntestazione(grafico()));
+    setAccessibleDescription(heading);
+    m_chart->setObjectName(chartName(form));
+    m_chart->setAccessibleName(QStringLiteral("Grafico"));
+    m_chart->setAccessibleDescription(heading);
+    m_stato->setObjectName(QStringLiteral("stato"));
+    connect(m_chart, &ChartView::valuePointed, this, &ChartDialog::showValue);
+    showValue({});
+    addCommands();
+    setMinimumSize(smallestSize());
+    resize(screen()->availableSize() * ScreenShare);
+    m_chart->setFocus();
+}
+
+const Grafico& ChartDialog::grafico() const {
+    return *m_form.visibile();
+}
+
+/// The window's inner size at which chart and strip are still whole.
+QSize ChartDialog::smallestSize() const {
+    int strip = NarrowestStatus;
+    for (const QPushButton* button : m_buttons) {
+        strip += StripGap + widthOf(*button);
+    }
+    const QSize frame = m_frame->sizeHint();
+    return {std::max(frame.width() * 2, strip + MargineGrafico), frame.height() * 5};
+}
+
+ChartKindFrame* ChartDialog::makeFrame() {
+    auto* frame = new ChartKindFrame(QStringLiteral("Tipo Grafico"), this);
+    frame->setObjectName(QStringLiteral("FrameTipo_Grafico"));
+    frame->setFont(qtFont({"MS Sans Serif", carattere(Carattere::normale).punti, false}, m_fontFactor));
+    auto* layout = new QHBoxLayout(frame);
+    for (int index = 0; index < static_cast<int>(OpzioniTipoGrafico.size()); ++index) {
+        auto* option =
+            new QRadioButton(fromUtf8(OpzioniTipoGrafico.at(static_cast<std::size_t>(index))), frame);
+        option->setObjectName(QStringLiteral("OptTipoGrafico_") + QString::number(index));
+        option->setChecked(index == m_form.OptTipoGrafico());
+        connect(option, &QRadioButton::toggled, this, [this, index](bool checked) {
+            if (checked) {
+                m_form.OptTipoGrafico_Click(index);
+                m_chart->refresh();
+            }
+        });
+        layout->addWidget(option);
+    }
+    return frame;
+}
+
+void ChartDialog::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape) {
+        if (plfgraf::Form_KeyDown(TastoEscape)) {
+            close();
+        }
+    } else if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()); enter && button != nullptr) {
+        button->click();
+    } else {
+        QWidget::keyPressEvent(event); // a dialog would look for a default button
+    }
+}
+
+void ChartDialog::resizeEvent(QResizeEvent*) {
+    const QSize frame = m_frame->sizeHint() * TwipsPerPixel;
+    m_form.setDimensioniFrame({frame.width(), frame.height()});
+    m_form.Form_Resize({width() * TwipsPerPixel, height() * TwipsPerPixel});
+    placeControls();
+}
+
+void ChartDialog::placeControls() {
+    m_chart->setGeometry(pixelRect(chartPosition(m_form)));
+    m_frame->setGeometry(pixelRect(m_form.posizioneFrameTipo_Grafico()));
+    m_frame->raise();
+    m_chart->setReserved(m_frame->geometry().translated(-m_chart->pos()));
+    const int top = m_chart->geometry().bottom() + 1;
+    placeStrip({m_chart->x(), top, m_chart->width(), height() - top});
+}
+
+/// The buttons stand at the right end of the strip below the chart; the line gets what they leave.
+void ChartDialog::placeStrip(const QRect& strip) {
+    int right = strip.right() + 1;
+    for (auto button = m_buttons.rbegin(); button != m_buttons.rend(); ++button) {
+        const int width = widthOf(**button);
+        const int height = std::min((*button)->sizeHint().height(), strip.height() - 2 * StripMargin);
+        right -= width;
+        (*button)->setGeometry(right, strip.center().y() - height / 2, width, height);
+        right -= StripGap;
+    }
+    m_stato->setGeometry(strip.x(), strip.y(), std::max(right - strip.x(), 0), strip.height());
+}
+
+void ChartDialog::say(const QString& text, const QString& spoken) {
+    m_stato->setText(fromUtf8(grafico().avviso) + text);
+    m_stato->setAccessibleName(spoken);
+}
+
+void ChartDialog::showValue(const QModelIndex& index) {
+    if (index.isValid()) {
+        say(index.data(Qt::StatusTipRole).toString(), index.data(Qt::AccessibleTextRole).toString());
+    } else {
+        const QString heading = fromUtf8(testoIntestazione(grafico()));
+        say(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
+    }
+}
+
+} // namespace planner

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/plfgraf/plfgraf.h"
+#include "ports/message_boxes.h"
+
+#include <QDialog>
+
+#include <vector>
+
+class QPushButton;
+
+namespace planner {
+
+class ChartKindFrame;
+class ChartView;
+class FittedLabel;
+struct Drawing;
+struct Grafico;
+
+/// The chart window's widgets: the chart, the frame with its kinds that floats over it, and below it a line
+/// that reads the value pointed at, beside buttons that copy, save and print.
+class ChartDialog : public QDialog {
+    Q_OBJECT
+public:
+    /// `form` must have a visible chart.
+    ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    const Grafico& grafico() const;
+    ChartKindFrame* makeFrame();
+    QPushButton* makeButton(QAction* command);
+    QAction* makeCommand(ComandoGrafico command);
+    void run(ComandoGrafico command);
+    void addCommands();
+    QSize smallestSize() const;
+    void placeControls();
+    void placeStrip(const QRect& strip);
+    /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
+    void say(const QString& text, const QString& spoken = {});
+    void showValue(const QModelIndex& index);
+    Drawing drawing() const;
+    QString fileName() const;
+    void copyValues();
+    void saveChart();
+    void printChart();
+
+    plfgraf& m_form;
+    MessageBoxes& m_messaggi;
+    double m_fontFactor;
+    ChartView* m_chart;
+    ChartKindFrame* m_frame;
+    FittedLabel* m_stato;
+    std::vector<QPushButton*> m_buttons; // from left to right
+};
+
+} // namespace planner

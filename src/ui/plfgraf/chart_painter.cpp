@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plfgraf/chart_painter.h"
+
+#include "ui/kit/appearance.h"
+#include "ui/kit/text.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <numbers>
+
+namespace planner {
+
+namespace {
+
+constexpr double PixelsPerPoint = 96.0 / 72.0;
+constexpr int TitlePoints = 14;
+constexpr int HeadingPoints = 11;
+constexpr double ShadowOffset = 20.0 / 15; // twenty twips
+constexpr double PlotShadowOffset = 3;
+const QColor ShadowColour(128, 128, 128);
+
+QColor colourOf(Rgb value) {
+    return {value.red, value.green, value.blue};
+}
+
+QRectF rectOf(const ChartArea& area) {
+    return {area.x, area.y, area.width, area.height};
+}
+
+QPointF pointOf(ChartPoint point) {
+    return {point.x, point.y};
+}
+
+QFont fontFor(const DescrizioneCarattere& described, double factor) {
+    QFont font = qtFont(described, factor);
+    font.setPixelSize(std::max(qRound(font.pointSizeF() * PixelsPerPoint), 1));
+    return font;
+}
+
+/// The text as wide as its area allows.
+QString fitted(const QString& text, const QFont& font, double width) {
+    const QFontMetricsF metrics(font);
+    constexpr double tolerance = 1; // the area was measured from this very text
+    return metrics.horizontalAdvance(text) <= width + tolerance
+               ? text
+               : metrics.elidedText(text, Qt::ElideRight, width);
+}
+
+QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice) {
+    const QPointF centre = pointOf(layout.pieCentre);
+    const QRectF circle(centre.x() - layout.pieRadius, centre.y() - layout.pieRadius, 2 * layout.pieRadius,
+                        2 * layout.pieRadius);
+    QPainterPath path;
+    if (slice.span >= 360) {
+        path.addEllipse(circle);
+        return path;
+    }
+    path.moveTo(centre);
+    path.arcTo(circle, 90 - slice.start, -slice.span); // the toolkit counts from three o'clock, to the left
+    path.closeSubpath();
+    return path;
+}
+
+/// What goes round a value; nothing where it has neither bar nor slice.
+QPainterPath outline(const ChartLayout& layout, std::size_t number) {
+    QPainterPath path;
+    if (number < layout.bars.size()) {
+        constexpr double lowest = 6; // of no hours: a mark that stands on the axis
+        QRectF bar = rectOf(layout.bars[number].area);
+        bar.setTop(std::min(bar.top(), bar.bottom() - lowest));
+        path.addRect(bar);
+    }
+    for (const ChartSlice& slice : layout.slices) {
+        if (slice.number == number) {
+            return slicePath(layout, slice);
+        }
+    }
+    return path;
+}
+
+} // namespace
+
+ChartPainter::ChartPainter(const Grafico& grafico, double fontFactor)
+    : m_grafico(grafico), m_fonts{fontFor({carattere(Carattere::grassetto).famiglia, TitlePoints, true},
+                                          fontFactor),
+                                  fontFor(grafico.fontTitoliAssi, fontFactor),
+                                  fontFor(carattere(Carattere::grassetto), fontFactor),
+                                  fontFor(carattere(Carattere::grassetto), fontFactor),
+                                  fontFor(carattere(Carattere::normale), fontFactor),
+                                  fontFor({carattere(Carattere::grassetto).famiglia, HeadingPoints, true},
+                                          fontFactor)} {}
+
+MeasureText ChartPainter::measure() const {
+    return [this](ChartTextRole role, const std::string& text) {
+        const QFontMetricsF metrics(font(role));
+        return ChartSize{metrics.horizontalAdvance(fromUtf8(text)), metrics.height()};
+    };
+}
+
+void ChartPainter::paint(QPainter& painter, const ChartLayout& layout) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRectF(0, 0, layout.size.width, layout.size.height), Qt::white);
+    paintTitleFrame(painter, layout);
+    paintPlotFrame(painter, layout);
+    if (m_grafico.tipo == TipoGrafico::Torta) {
+        paintSlices(painter, layout);
+        paintLabelBoxes(painter, layout);
+    } else {
+        paintLines(painter, layout);
+        paintBars(painter, layout);
+        paintAxes(painter, layout);
+    }
+    paintLegend(painter, layout);
+    paintTexts(painter, layout);
+}
+
+void ChartPainter::paintTitleFrame(QPainter& painter, const ChartLayout& layout) const {
+    if (!m_grafico.titoloIncorniciato || layout.title.empty()) {
+        return;
+    }
+    const QRectF box = rectOf(layout.title);
+    painter.fillRect(box.translated(ShadowOffset, ShadowOffset), ShadowColour);
+    painter.fillRect(box, Qt::white);
+    painter.setPen(QPen(Qt::yellow, 1));
+    painter.setBrush(Qt::NoBrush);
+    constexpr double between = 3;
+    painter.drawRect(box.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawRect(box.adjusted(between, between, -between, -between));
+}
+
+void ChartPainter::paintPlotFrame(QPainter& painter, const ChartLayout& layout) const {
+    if (!m_grafico.areaIncorniciata) {
+        return;
+    }
+    constexpr double outer = 3;
+    constexpr double inner = 5;
+    const QRectF box = rectOf(layout.frame);
+    painter.fillRect(box.translated(PlotShadowOffset, PlotShadowOffset), ShadowColour);
+    painter.fillRect(box, Qt::white);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::black, outer, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(box.adjusted(outer / 2, outer / 2, -outer / 2, -outer / 2));
+    painter.setPen(QPen(Qt::black, 1));
+    painter.drawRect(box.adjusted(inner, inner, -inner, -inner));
+}
+
+void ChartPainter::paintLines(QPainter& painter, const ChartLayout& layout) const {
+    const auto drawAll = [&](const std::vector<double>& heights, const Penna& pen) {
+        painter.setPen(QPen(colourOf(pen.colore), pen.Width * PixelsPerPoint, Qt::SolidLine, Qt::FlatCap));
+        for (const double y : heights) {
+            painter.drawLine(QPointF(layout.plot.x, y), QPointF(layout.plot.right(), y));
+        }
+    };
+    drawAll(layout.minorLines, m_grafico.asseY.PennaMinor);
+    drawAll(layout.majorLines, m_grafico.asseY.PennaMajor);
+}
+
+void ChartPainter::paintBars(QPainter& painter, const ChartLayout& layout) const {
+    painter.setPen(Qt::NoPen);
+    for (std::size_t number = 0; number < layout.bars.size(); ++number) {
+        painter.setBrush(colourOf(m_grafico.serie[m_grafico.serieDi(number)].colore));
+        painter.drawRect(rectOf(layout.bars[number].area));
+    }
+}
+
+void ChartPainter::paintAxes(QPainter& painter, const ChartLayout& layout) const {
+    const QRectF plot = rectOf(layout.plot);
+    painter.setPen(QPen(Qt::black, 1));
+    painter.drawLine(plot.topLeft(), plot.bottomLeft());
+    painter.drawLine(plot.bottomLeft(), plot.bottomRight());
+}
+
+void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) const {
+    constexpr double degreesPerRadian = 180 / std::numbers::pi;
+    constexpr double narrowest = 6; // arc, in pixels, that a line beside it leaves something of
+    for (const ChartSlice& slice : layout.slices) {
+        const double arc = layout.pieRadius * slice.span / degreesPerRadian;
+        painter.setPen(arc < narrowest ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
+        painter.setBrush(colourOf(slice.colour));
+        painter.drawPath(slicePath(layout, slice));
+    }
+}
+
+void ChartPainter::paintLabelBoxes(QPainter& painter, const ChartLayout& layout) const {
+    painter.setPen(QPen(Qt::black, 1));
+    painter.setBrush(Qt::white);
+    for (const ChartSlice& slice : layout.slices) {
+        if (slice.label) {
+            const std::array line{pointOf(slice.labelLine[0]), pointOf(slice.labelLine[1]),
+                                  pointOf(slice.labelLine[2])};
+            painter.drawPolyline(line.data(), static_cast<int>(line.size()));
+            painter.drawRect(rectOf(layout.texts[*slice.label].area));
+        }
+    }
+}
+
+void ChartPainter::paintLegend(QPainter& painter, const ChartLayout& layout) const {
+    painter.setPen(QPen(Qt::black, 1));
+    for (const ChartLegendEntry& entry : layout.legend) {
+        painter.setBrush(colourOf(m_grafico.serie[entry.series].colore));
+        painter.drawRect(rectOf(entry.swatch));
+    }
+}
+
+void ChartPainter::paintTexts(QPainter& painter, const ChartLayout& layout) const {
+    const bool bars = m_grafico.tipo == TipoGrafico::Istogramma;
+    for (const PlacedText& text : layout.texts) {
+        // The lines of the grid pass behind the values.
+        paintText(painter, text, /*onPaper=*/bars && text.role == ChartTextRole::value);
+    }
+}
+
+void ChartPainter::paintText(QPainter& painter, const PlacedText& placed, bool onPaper) const {
+    const QFont& textFont = font(placed.role);
+    const QRectF area = rectOf(placed.area);
+    painter.save();
+    painter.setFont(textFont);
+    QRectF box = area;
+    if (placed.upwards) {
+        painter.translate(area.bottomLeft());
+        painter.rotate(-90);
+        box = QRectF(0, 0, area.height(), area.width());
+    }
+    const QString text = fitted(fromUtf8(placed.text), textFont, box.width());
+    if (onPaper) {
+        painter.fillRect(box, Qt::white);
+    }
+    painter.setPen(Qt::black);
+    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine, text);
+    painter.restore();
+}
+
+void ChartPainter::pointOut(QPainter& painter, const ChartLayout& layout, std::size_t number) {
+    constexpr double narrow = 16;
+    const QPainterPath path = outline(layout, number);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!layout.bars.empty()) { // the hours along the axis stay whole
+        painter.setClipRect(
+            QRectF(QPointF(layout.plot.x + 1, 0), QPointF(layout.size.width, layout.size.height)));
+    }
+    // A dark line between light ones stands out from every colour.
+    const int lightWidth = path.boundingRect().width() < narrow ? 4 : 6; // a narrow bar keeps its own colour
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, width] : {std::pair{Qt::white, lightWidth}, std::pair{Qt::black, 2}}) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawPath(path);
+    }
+}
+
+} // namespace planner

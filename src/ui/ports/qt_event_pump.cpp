@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/ports/qt_event_pump.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+
+namespace planner {
+
+void QtEventPump::waitAndProcess() {
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    // Without a running event loop nobody else carries out deleteLater().
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtEventPump::flush() {
+    QGuiApplication::sync();
+}
+
+} // namespace planner

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ports/periodic_timer.h"
+
+#include <QTimer>
+
+#include <functional>
+
+namespace planner {
+
+/// The timer of the polling mode.
+class QtPeriodicTimer : public PeriodicTimer {
+public:
+    explicit QtPeriodicTimer(std::function<void()> tick);
+    void setEnabled(bool enabled) override;
+
+private:
+    QTimer m_timer;
+};
+
+} // namespace planner
