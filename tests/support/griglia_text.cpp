@@ -14,15 +14,18 @@ namespace {
 
 constexpr int NameWidth = 24;
 
-char coloursOf(const Cella& cella) {
-    const bool black = cella.colore == Colore::nero || cella.colore == Colore::predefinito;
-    switch (cella.sfondo) {
-    case Colore::predefinito:
-        return black ? ' ' : cella.colore == Colore::rosso ? 'r' : cella.colore == Colore::navy ? 'n' : '?';
+char coloursOf(const Griglia& griglia, int riga, int colonna) {
+    const Colore colore = griglia.CellForeColor(riga, colonna);
+    const bool black = colore == Colore::nero || colore == Colore::predefinito;
+    switch (griglia.CellBackColor(riga, colonna)) {
+    case Colore::intestazione:
+    case Colore::gialloChiaro:
+    case Colore::bianco:
+        return black ? ' ' : colore == Colore::rosso ? 'r' : colore == Colore::navy ? 'n' : '?';
     case Colore::grigioChiaro:
-        return black ? '.' : cella.colore == Colore::rosso ? ':' : '?';
+        return black ? '.' : colore == Colore::rosso ? ':' : '?';
     case Colore::navy:
-        return cella.colore == Colore::bianco ? '*' : '?';
+        return colore == Colore::bianco ? '*' : '?';
     case Colore::azzurro:
         return black ? '=' : '?';
     default:
@@ -32,7 +35,7 @@ char coloursOf(const Cella& cella) {
 
 char fontOf(const Cella& cella) {
     constexpr std::string_view letters = " boma";
-    return letters.at(static_cast<std::size_t>(cella.carattere));
+    return letters.at(static_cast<std::size_t>(stile(cella).carattere));
 }
 
 std::string contentOf(const Griglia& griglia, int riga, int colonna) {
@@ -55,7 +58,8 @@ std::string cellEntry(const Griglia& griglia, int riga, int colonna) {
     if (cella.immagine != 0) {
         entry += "#" + std::to_string(cella.immagine);
     }
-    entry += coloursOf(cella) == ' ' ? std::string() : std::string(1, coloursOf(cella));
+    const char colours = coloursOf(griglia, riga, colonna);
+    entry += colours == ' ' ? std::string() : std::string(1, colours);
     return fontOf(cella) == ' ' ? entry : entry + "(" + fontOf(cella) + ")";
 }
 
@@ -72,11 +76,10 @@ std::string tabella(const Griglia& griglia) {
     for (int riga = 0; riga < griglia.Rows(); ++riga) {
         std::ostringstream line;
         line << std::setw(7) << griglia.RowHeight(riga) << " |" << std::left << std::setw(NameWidth)
-             << contentOf(griglia, riga, 0) << coloursOf(griglia.cella(riga, 0))
-             << fontOf(griglia.cella(riga, 0)) << "|" << std::right;
+             << contentOf(griglia, riga, 0) << coloursOf(griglia, riga, 0) << fontOf(griglia.cella(riga, 0))
+             << "|" << std::right;
         for (int colonna = 1; colonna < griglia.Cols(); ++colonna) {
-            line << std::setw(3) << contentOf(griglia, riga, colonna)
-                 << coloursOf(griglia.cella(riga, colonna));
+            line << std::setw(3) << contentOf(griglia, riga, colonna) << coloursOf(griglia, riga, colonna);
         }
         out += withoutTrailingBlanks(line.str()) + "\n";
     }

@@ -38,8 +38,7 @@ struct BarsTest : testing::Test {
         for (const FasciaImpegno& bar : bars) {
             griglia.setCellPicture(Row, bar.prima, bar.immagine);
             for (int column = bar.prima; column <= bar.ultima; ++column) {
-                griglia.setCellBackColor(Row, column, Colore::azzurro);
-                griglia.setCellEntry(Row, column, true);
+                griglia.addCellEntry(Row, column, 0);
             }
         }
         assegnaCorsie(bars);
@@ -220,10 +219,8 @@ TEST_F(BarsTest, LinesAreSharpOnAScreenOfTwiceTheDensity) {
 
 TEST_F(BarsTest, AHighlightedRowAndAMarkedCellLeaveTheBarsInSight) {
     put({{1, 6, Deadline}, {4, 9, Deadline}});
-    for (int column = 1; column <= ColonneQuarti; ++column) {
-        griglia.setCellBackColor(Row, column, Colore::giallo);
-    }
-    griglia.setCellBackColor(Row, 5, Colore::ciano);
+    griglia.evidenzia(Row);
+    griglia.scegli(Row, 5);
     const QImage image = paint();
     EXPECT_THAT(stripes(image, 6, Fill), testing::SizeIs(2));
     EXPECT_THAT(stripes(image, 6, Edge), testing::ElementsAre(1, 1, 1, 1));
@@ -235,7 +232,7 @@ TEST_F(BarsTest, AHighlightedRowAndAMarkedCellLeaveTheBarsInSight) {
 
 TEST_F(BarsTest, AMarkedCellKeepsItsPictures) {
     put({{5, 8, Deadline}});
-    griglia.setCellBackColor(Row, 5, Colore::ciano);
+    griglia.scegli(Row, 5);
     const QImage image = paint();
     EXPECT_GT(ink(image, cell(5, height)), 20);
     EXPECT_EQ(image.pixel(cell(5, height).left(), height / 2), Edge);

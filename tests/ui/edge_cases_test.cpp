@@ -56,11 +56,11 @@ TEST_F(EdgeCasesTest, ASpareRowHidesThePanelAndLeavesTheStaffMember) {
 TEST_F(EdgeCasesTest, ASecondRowPaintsTheFirstBackAndTheNamesKeepTheirColours) {
     bench.open("M");
     bench.click(3, 17);
-    EXPECT_EQ(Flxm().cella(3, 5).sfondo, Colore::giallo);
+    EXPECT_EQ(Flxm().CellBackColor(3, 5), Colore::giallo);
     bench.click(2, 17);
-    EXPECT_EQ(Flxm().cella(3, 5).sfondo, Colore::gialloChiaro);
-    EXPECT_EQ(Flxm().cella(2, 5).sfondo, Colore::giallo);
-    EXPECT_EQ(Flxm().cella(2, 0).sfondo, Colore::predefinito);
+    EXPECT_EQ(Flxm().CellBackColor(3, 5), Colore::gialloChiaro);
+    EXPECT_EQ(Flxm().CellBackColor(2, 5), Colore::giallo);
+    EXPECT_EQ(Flxm().CellBackColor(2, 0), Colore::intestazione);
 }
 
 TEST_F(EdgeCasesTest, InVariantBTheDeadlinesNeverShow) {

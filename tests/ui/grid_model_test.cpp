@@ -38,7 +38,7 @@ TEST_F(GridModelTest, FixedRowsAndTheFirstColumnAreHeadersNotData) {
 
 TEST_F(GridModelTest, ACellsTextAndColoursAreThoseOfTheGrid) {
     griglia.setText(3, 2, "x");
-    griglia.setCellForeColor(3, 2, Colore::rosso);
+    griglia.setCellHoliday(3, 2);
     const QModelIndex index = model.index(1, 1);
     EXPECT_EQ(index.data(Qt::DisplayRole).toString(), QStringLiteral("x"));
     EXPECT_EQ(index.data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
@@ -52,7 +52,7 @@ TEST_F(GridModelTest, TheSentenceIsReadAloudAsItIsAndNoToolTipIsMarkup) {
 }
 
 TEST_F(GridModelTest, OneChangedCellIsAnnouncedAloneAndOnce) {
-    griglia.setCellBackColor(3, 2, Colore::ciano);
+    griglia.scegli(3, 2);
     ASSERT_EQ(changes.size(), 1);
     EXPECT_EQ(changes[0][0].toModelIndex(), model.index(1, 1));
     EXPECT_EQ(changes[0][1].toModelIndex(), model.index(1, 1));

@@ -59,7 +59,7 @@ TEST_P(MondayYears, TheYearlyPlannerOpensOnTheIncomingDayWhenTheFocusComes) {
     QCoreApplication::processEvents();
     EXPECT_EQ(bench.shownDay(), year + "0605");
     EXPECT_EQ(text("stato").toStdString(), plcal::StatoIniziale);
-    EXPECT_EQ(bench.base.controlli.flxa.cella(1, 1).sfondo == Colore::ciano, false);
+    EXPECT_EQ(bench.base.controlli.flxa.CellBackColor(1, 1) == Colore::ciano, false);
     EXPECT_EQ(bench.griglia().Row(), 6);
 }
 
@@ -170,12 +170,12 @@ TEST_F(OwnMovesTest, ADayPickedInTheCalendarTakesCursorMarkAndSentenceAlong) {
     Q_EMIT bench.widget<QCalendarWidget>("calendario").clicked(QDate(2006, 3, 20));
     EXPECT_EQ(bench.griglia().Row(), 3);
     EXPECT_EQ(bench.griglia().Col(), 22);
-    EXPECT_EQ(bench.griglia().cella(3, 22).sfondo, Colore::ciano);
-    EXPECT_EQ(bench.griglia().cella(3, 17).sfondo, Colore::giallo);
+    EXPECT_EQ(bench.griglia().CellBackColor(3, 22), Colore::ciano);
+    EXPECT_EQ(bench.griglia().CellBackColor(3, 17), Colore::giallo);
     EXPECT_EQ(text("stato"), QStringLiteral("Rossi Bruno, lunedì 20 marzo 2006"));
     Q_EMIT bench.widget<QCalendarWidget>("calendario").clicked(QDate(2006, 5, 2));
     EXPECT_EQ(bench.griglia().Col(), 2);
-    EXPECT_EQ(bench.griglia().cella(3, 2).sfondo, Colore::ciano);
+    EXPECT_EQ(bench.griglia().CellBackColor(3, 2), Colore::ciano);
     EXPECT_EQ(text("stato"), QStringLiteral("Rossi Bruno, martedì 2 maggio 2006"));
 }
 
@@ -186,10 +186,10 @@ TEST_F(OwnMovesTest, InTheYearlyPlannerAPickedDayShowsItsTotals) {
     bench.open("A");
     Q_EMIT bench.widget<QCalendarWidget>("calendario").clicked(QDate(2006, 3, 20));
     EXPECT_EQ(text("scad"), QStringLiteral("3"));
-    EXPECT_EQ(bench.griglia().cella(3, 22).sfondo, Colore::ciano);
+    EXPECT_EQ(bench.griglia().CellBackColor(3, 22), Colore::ciano);
     Q_EMIT bench.widget<QCalendarWidget>("calendario").clicked(QDate(2006, 3, 21));
     EXPECT_EQ(text("scad"), QString());
-    EXPECT_EQ(bench.griglia().cella(3, 22).sfondo, Colore::navy);
+    EXPECT_EQ(bench.griglia().CellBackColor(3, 22), Colore::navy);
 }
 
 TEST_F(OwnMovesTest, AScreenReaderPressesTheCellThatTheCursorStandsOn) {

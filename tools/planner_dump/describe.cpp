@@ -50,10 +50,9 @@ Json describeStaff(const Archivi& archivi) {
     return list;
 }
 
-/// True for a cell that holds nothing and that nobody coloured; its font and alignment are not asked.
+/// True for a cell that holds nothing.
 bool isPlain(const Cella& cell) {
-    return cell.testo == 0 && cell.immagine == 0 && cell.colore == Colore::predefinito &&
-           cell.sfondo == Colore::predefinito;
+    return cell.testo == 0 && cell.immagine == 0 && !cell.impegno && !cell.segnato;
 }
 
 Json describeCell(const Griglia& griglia, int row, int column) {
@@ -61,8 +60,8 @@ Json describeCell(const Griglia& griglia, int row, int column) {
     return {{"r", row},
             {"c", column},
             {"testo", utf8FromCp1252(griglia.TextMatrix(row, column))},
-            {"colore", describeColour(cell.colore)},
-            {"sfondo", describeColour(griglia.sfondoVisibile(row, column))},
+            {"colore", describeColour(griglia.CellForeColor(row, column))},
+            {"sfondo", describeColour(griglia.CellBackColor(row, column))},
             {"immagine", cell.immagine}};
 }
 

@@ -10,9 +10,9 @@ namespace planner {
 
 inline constexpr int RigheAnnuale = 13; // header and twelve months
 
-/// Lays out header, month names and day numbers of the year that the calendar shows, and gives the calendar
-/// back on its day. Until the session says otherwise, moves in the grid no longer move the calendar.
-void showgrid3(modpl& sessione, Calendario& calendario, Griglia& flxa);
+/// Lays out header, month names and day numbers of the year that the calendar shows. Until the session says
+/// otherwise, moves in the grid do not move the calendar.
+void showgrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa);
 
 /// Marks the days of the yearly table, and writes the year into the corner.
 void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa);

@@ -23,9 +23,8 @@ void writeQuarter(Griglia& flxg, int column) {
     const int hour = (column - 1) / QuartersPerHour;
     const int quarter = (column - 1) % QuartersPerHour;
     flxg.setColWidth(column, QuarterWidth);
-    flxg.setText(0, column, std::to_string(quarter == 0 ? hour : quarter * MinutesPerQuarter));
-    flxg.setCellFont(0, column, quarter == 0 ? Carattere::ora : Carattere::minuti);
-    flxg.setCellForeColor(0, column, Colore::navy);
+    flxg.setCaption(0, column, quarter == 0 ? Ruolo::ora : Ruolo::minuti,
+                    std::to_string(quarter == 0 ? hour : quarter * MinutesPerQuarter));
 }
 
 /// A whole number between 0 and `maximum`, or -1.
@@ -37,15 +36,12 @@ int numberUpTo(std::string_view text, int maximum) {
     return complete && number <= maximum ? number : -1;
 }
 
-void paintEntry(Griglia& flxg, int row, const Impegno& impegno, IntervalloColonne columns) {
+void writeEntry(Griglia& flxg, int row, const Impegno& impegno, IntervalloColonne columns) {
     if (impegno.immagine != 0) {
-        flxg.setCellPicture(row, columns.prima, impegno.immagine);
-        flxg.addCellKinds(row, columns.prima, impegno.tipi);
+        flxg.setCellPicture(row, columns.prima, impegno.immagine, impegno.tipi);
     }
     for (int column = std::max(columns.prima, 1); column <= columns.ultima; ++column) {
-        flxg.setCellBackColor(row, column, Colore::azzurro);
-        flxg.setCellEntry(row, column, true);
-        flxg.addCellKinds(row, column, impegno.tipi);
+        flxg.addCellEntry(row, column, impegno.tipi);
     }
 }
 
@@ -113,8 +109,8 @@ void showgrid2(Griglia& flxg) {
 
 EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato) {
     const Griglia::LockWindowUpdate lock(flxg);
-    writeCornerCaption(flxg, 0, shownDay(calendario), Carattere::grassetto);
-    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi, Allineamento::sinistra);
+    flxg.setCaption(0, 0, Ruolo::periodo, shownDay(calendario));
+    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi, Ruolo::nomeGiornaliero);
     setDataRowHeights(flxg, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
@@ -129,7 +125,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
         const IntervalloColonne columns = colonneImpegno(riga);
         const int row = impegno.indice + PrimaRigaGiornaliera;
         sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
-        paintEntry(flxg, row, impegno, columns);
+        writeEntry(flxg, row, impegno, columns);
         if (columns.prima > 0) {
             bars[row].push_back({columns.prima, columns.ultima, impegno.immagine});
         }

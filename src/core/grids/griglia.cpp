@@ -29,16 +29,18 @@ void AreaCelle::include(int riga, int colonna) {
 Griglia::Griglia(int rows, int cols, int fixedRows, Colore sfondoBase)
     : m_rows(rows), m_cols(cols), m_fixedRows(fixedRows), m_sfondoBase(sfondoBase),
       m_cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols)),
-      m_rowHeights(static_cast<std::size_t>(rows), DefaultRowHeight),
+      m_rowHeights(static_cast<std::size_t>(fixedRows) + 1, DefaultRowHeight),
       m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows), m_knownCols(cols) {}
 
 void Griglia::setRows(int rows) {
     const LockWindowUpdate lock(*this);
     m_rows = std::max(rows, m_fixedRows);
     m_cells.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols));
-    m_rowHeights.resize(static_cast<std::size_t>(m_rows), DefaultRowHeight);
     std::erase_if(m_fasce, [this](const auto& row) { return row.first >= m_rows; });
     m_row = std::min(m_row, m_rows - 1);
+    if (m_sceltaRow >= m_rows) {
+        m_sceltaRow = m_sceltaCol = -1;
+    }
     m_dirty.include(m_fixedRows, 0);
     m_dirty.include(m_rows - 1, m_cols - 1);
     m_measuresChanged = true;
@@ -78,28 +80,82 @@ void Griglia::setText(int row, int col, std::string_view text) {
     change(row, col, [&](Cella& cell) { cell.testo = intern(text); });
 }
 
-void Griglia::setCellForeColor(int row, int col, Colore colore) {
-    change(row, col, [=](Cella& cell) { cell.colore = colore; });
+void Griglia::setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana) {
+    change(row, col, [&](Cella& cell) {
+        cell.testo = intern(text);
+        cell.ruolo = ruolo;
+        cell.fineSettimana = fineSettimana;
+        cell.festivo = false;
+        cell.segnato = false;
+    });
 }
 
-void Griglia::setCellBackColor(int row, int col, Colore colore) {
-    change(row, col, [=](Cella& cell) { cell.sfondo = colore; });
+void Griglia::setCellHoliday(int row, int col) {
+    change(row, col, [](Cella& cell) { cell.festivo = true; });
 }
 
-void Griglia::setCellPicture(int row, int col, int immagine) {
-    change(row, col, [=](Cella& cell) { cell.immagine = std::clamp(immagine, 0, 16) & 0x1F; });
+void Griglia::setCellToday(int row, int col, bool oggi) {
+    change(row, col, [=](Cella& cell) { cell.oggi = oggi; });
 }
 
-void Griglia::setCellFont(int row, int col, Carattere carattere) {
-    change(row, col, [=](Cella& cell) { cell.carattere = carattere; });
+void Griglia::setCellPicture(int row, int col, int immagine, unsigned tipi) {
+    change(row, col, [=](Cella& cell) {
+        cell.immagine = std::clamp(immagine, 0, 16) & 0x1F;
+        cell.tipi = (cell.tipi | tipi) & 0xFu;
+    });
 }
 
-void Griglia::setCellAlignment(int row, int col, Allineamento allineamento) {
-    change(row, col, [=](Cella& cell) { cell.allineamento = allineamento; });
+void Griglia::addCellEntry(int row, int col, unsigned tipi) {
+    change(row, col, [=](Cella& cell) {
+        cell.impegno = true;
+        cell.tipi = (cell.tipi | tipi) & 0xFu;
+    });
 }
 
-void Griglia::addCellKinds(int row, int col, unsigned tipi) {
-    change(row, col, [=](Cella& cell) { cell.tipi = (cell.tipi | tipi) & 0xFu; });
+void Griglia::segna(int row, int col) {
+    change(row, col, [](Cella& cell) { cell.segnato = true; });
+}
+
+void Griglia::evidenzia(int riga) {
+    const LockWindowUpdate lock(*this);
+    index(riga, 0);
+    scegliNessuna();
+    if (riga != m_evidenziata) {
+        includeRow(m_evidenziata);
+        m_evidenziata = riga;
+        includeRow(riga);
+    }
+}
+
+void Griglia::scegli(int row, int col) {
+    const LockWindowUpdate lock(*this);
+    index(row, col);
+    scegliNessuna();
+    m_sceltaRow = row;
+    m_sceltaCol = col;
+    m_dirty.include(row, col);
+}
+
+void Griglia::scegliNessuna() {
+    if (m_sceltaRow >= 0) {
+        m_dirty.include(m_sceltaRow, m_sceltaCol);
+        m_sceltaRow = m_sceltaCol = -1;
+        notify();
+    }
+}
+
+void Griglia::dimenticaScelte() {
+    const LockWindowUpdate lock(*this);
+    scegliNessuna();
+    includeRow(m_evidenziata);
+    m_evidenziata = -1;
+}
+
+void Griglia::includeRow(int row) {
+    if (row >= 0 && row < m_rows) {
+        m_dirty.include(row, FixedCols());
+        m_dirty.include(row, m_cols - 1);
+    }
 }
 
 std::span<const FasciaImpegno> Griglia::fasce(int row) const {
@@ -116,17 +172,8 @@ void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
     notify();
 }
 
-void Griglia::setCellEntry(int row, int col, bool impegno) {
-    change(row, col, [=](Cella& cell) { cell.impegno = impegno; });
-}
-
-void Griglia::setCellToday(int row, int col, bool oggi) {
-    change(row, col, [=](Cella& cell) { cell.oggi = oggi; });
-}
-
 int Griglia::RowHeight(int row) const {
-    index(row, 0);
-    return m_rowHeights[static_cast<std::size_t>(row)];
+    return m_rowHeights[heightIndex(row)];
 }
 
 int Griglia::ColWidth(int col) const {
@@ -134,17 +181,21 @@ int Griglia::ColWidth(int col) const {
     return m_colWidths[static_cast<std::size_t>(col)];
 }
 
-Colore Griglia::sfondoVisibile(int row, int col) const {
-    const Colore own = cella(row, col).sfondo;
-    if (own != Colore::predefinito) {
-        return own;
-    }
-    return row < m_fixedRows || col < FixedCols() ? Colore::intestazione : m_sfondoBase;
+Aspetto Griglia::aspetto(int row, int col) const {
+    const bool fixed = row < m_fixedRows || col < FixedCols();
+    return planner::aspetto(cella(row, col), {fixed ? Colore::intestazione : m_sfondoBase,
+                                              row == m_evidenziata && col >= FixedCols(),
+                                              row == m_sceltaRow && col == m_sceltaCol});
 }
 
 void Griglia::setRowHeight(int row, int twips) {
-    index(row, 0);
-    m_rowHeights[static_cast<std::size_t>(row)] = twips;
+    m_rowHeights[heightIndex(row)] = twips;
+    m_measuresChanged = true;
+    notify();
+}
+
+void Griglia::setDataRowHeight(int twips) {
+    m_rowHeights.back() = twips;
     m_measuresChanged = true;
     notify();
 }
@@ -169,6 +220,11 @@ std::size_t Griglia::index(int row, int col) const {
         throw SubscriptError();
     }
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_cols) + static_cast<std::size_t>(col);
+}
+
+std::size_t Griglia::heightIndex(int row) const {
+    index(row, 0);
+    return static_cast<std::size_t>(std::min(row, m_fixedRows));
 }
 
 std::uint32_t Griglia::intern(std::string_view text) {

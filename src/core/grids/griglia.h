@@ -14,22 +14,6 @@
 
 namespace planner {
 
-/// One cell, small because a grid has up to three million of them.
-struct Cella {
-    std::uint32_t testo = 0; // place in the grid's text pool; 0 is the empty text
-    Colore colore : 4 = Colore::predefinito;
-    Colore sfondo : 4 = Colore::predefinito;
-    std::uint8_t immagine : 5 = 0; // 1 to 16, 0 for none
-    Carattere carattere : 3 = Carattere::normale;
-    std::uint8_t tipi : 4 = 0; // kinds of entries present: bit i stands for `TipiImpegno[i]`
-    Allineamento allineamento : 1 = Allineamento::centro;
-    bool impegno : 1 = false; // part of an appointment's span
-    bool oggi : 1 = false;    // stands for today
-
-    friend bool operator==(const Cella&, const Cella&) = default;
-};
-static_assert(sizeof(Cella) == 8);
-
 /// An appointment's bar in a row of the daily grid. Appointments that overlap stand one above the other, each
 /// in a lane of its own.
 struct FasciaImpegno {
@@ -84,27 +68,43 @@ public:
     const Cella& cella(int row, int col) const { return m_cells[index(row, col)]; }
     std::string_view TextMatrix(int row, int col) const { return m_texts[cella(row, col).testo]; }
     void setText(int row, int col, std::string_view text);
-    void setCellForeColor(int row, int col, Colore colore);
-    void setCellBackColor(int row, int col, Colore colore);
-    void setCellPicture(int row, int col, int immagine);
-    void setCellFont(int row, int col, Carattere carattere);
-    /// Adds kinds of entries to those that the cell has.
-    void addCellKinds(int row, int col, unsigned tipi);
-    void setCellEntry(int row, int col, bool impegno);
+    /// Makes the cell one of the role with the text, of no holiday and not marked.
+    void setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana = false);
+    void setCellHoliday(int row, int col);
     void setCellToday(int row, int col, bool oggi);
-    void setCellAlignment(int row, int col, Allineamento allineamento);
+    /// Shows the picture, and adds kinds of entries to those that the cell has.
+    void setCellPicture(int row, int col, int immagine, unsigned tipi = 0);
+    /// Makes the cell part of an appointment's span, and adds the appointment's kinds.
+    void addCellEntry(int row, int col, unsigned tipi);
+    /// Marks the day as the yearly table does.
+    void segna(int row, int col);
+
+    /// Highlights the row and no other. No cell is the selected one afterwards.
+    void evidenzia(int riga);
+    /// True once a row is highlighted; it stays so when the grid's rows are made anew.
+    bool EvidenziazioneAttiva() const { return m_evidenziata >= 0; }
+    /// The highlighted row, negative for none.
+    int RigaEvidenziata() const { return m_evidenziata; }
+    /// Makes the cell the selected one, or none. It stays so until its row is dropped.
+    void scegli(int row, int col);
+    void scegliNessuna();
+    /// Neither a row is highlighted nor a cell selected afterwards.
+    void dimenticaScelte();
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;
     void setFasce(int row, std::vector<FasciaImpegno> fasce);
 
-    /// The back colour that the cell shows: its own, or that of the grid's fixed or data cells.
-    Colore sfondoVisibile(int row, int col) const;
+    /// The colours that the cell shows, and those of them that have a name.
+    Aspetto aspetto(int row, int col) const;
+    Colore CellForeColor(int row, int col) const { return aspetto(row, col).colore; }
+    Colore CellBackColor(int row, int col) const { return aspetto(row, col).sfondo; }
 
-    /// Twips. All throw SubscriptError outside the grid.
+    /// Twips; data rows are equally high. All but `setDataRowHeight` throw SubscriptError outside the grid.
     int RowHeight(int row) const;
     int ColWidth(int col) const;
     void setRowHeight(int row, int twips);
+    void setDataRowHeight(int twips);
     void setColWidth(int col, int twips);
 
     /// At most one observer; null for none. It is told what changes from now on.
@@ -124,6 +124,8 @@ public:
 
 private:
     std::size_t index(int row, int col) const;
+    std::size_t heightIndex(int row) const;
+    void includeRow(int row);
     template <typename Change>
     void change(int row, int col, Change apply);
     std::uint32_t intern(std::string_view text);
@@ -132,8 +134,10 @@ private:
     int m_rows, m_cols, m_fixedRows;
     Colore m_sfondoBase;
     int m_row = 0, m_col = 0;
+    int m_evidenziata = -1; // row
+    int m_sceltaRow = -1, m_sceltaCol = -1;
     std::vector<Cella> m_cells;
-    std::vector<int> m_rowHeights;
+    std::vector<int> m_rowHeights; // of the fixed rows, and at last of every data row
     std::vector<int> m_colWidths;
     std::unordered_map<int, std::vector<FasciaImpegno>> m_fasce; // by row; few rows have any
 

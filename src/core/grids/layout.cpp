@@ -6,31 +6,25 @@ namespace planner {
 
 void writeWeekdayLetters(Griglia& griglia) {
     for (int column = 1; column <= ColonneGiorni; ++column) {
-        griglia.setText(0, column, LettereGiorni[static_cast<std::size_t>((column - 1) % 7)]);
-        griglia.setCellForeColor(0, column, isWeekendColumn(column) ? Colore::rosso : Colore::nero);
+        griglia.setCaption(0, column, Ruolo::lettera,
+                           LettereGiorni[static_cast<std::size_t>((column - 1) % 7)],
+                           isWeekendColumn(column));
     }
 }
 
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Allineamento allineamento) {
+void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Ruolo ruolo) {
     int row = firstRow;
     for (int i = 0; i < archivi.NumCollab; ++i, ++row) {
-        griglia.setText(row, 0, archivi.Collaboratori.at(static_cast<std::size_t>(i)).nome.trimmedRight());
-        griglia.setCellAlignment(row, 0, allineamento);
+        griglia.setCaption(row, 0, ruolo,
+                           archivi.Collaboratori.at(static_cast<std::size_t>(i)).nome.trimmedRight());
     }
-    griglia.setText(row, 0, NonAssegnate);
-    griglia.setCellAlignment(row, 0, allineamento);
-}
-
-void writeCornerCaption(Griglia& griglia, int row, std::string_view text, Carattere carattere) {
-    griglia.setText(row, 0, text);
-    griglia.setCellFont(row, 0, carattere);
-    griglia.setCellForeColor(row, 0, Colore::navy);
+    griglia.setCaption(row, 0, ruolo, NonAssegnate);
 }
 
 bool CheckGiornoFestivo(Griglia& griglia, int row, int col, int giorno, int mese) {
     const bool festivo = trovaFestivo(giorno, mese) != nullptr;
     if (festivo) {
-        griglia.setCellForeColor(row, col, Colore::rosso);
+        griglia.setCellHoliday(row, col);
     }
     return festivo;
 }
@@ -43,10 +37,7 @@ void clearRows(Griglia& griglia) {
 }
 
 void setDataRowHeights(Griglia& griglia, bool dettagliato) {
-    const Griglia::LockWindowUpdate lock(griglia);
-    for (int row = griglia.FixedRows(); row < griglia.Rows(); ++row) {
-        griglia.setRowHeight(row, dettagliato ? AltezzaDettagliata : AltezzaNonDettagliata);
-    }
+    griglia.setDataRowHeight(dettagliato ? AltezzaDettagliata : AltezzaNonDettagliata);
 }
 
 void EsitoRiempimento::annota(const std::string& causa) {

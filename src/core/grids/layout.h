@@ -40,17 +40,15 @@ constexpr int righeGiornaliera(int numCollab) {
     return numCollab + 1 + RigheInPiu;
 }
 
-/// Writes the weekday letters into row 0, Saturdays and Sundays in red.
+/// Writes the weekday letters into row 0.
 void writeWeekdayLetters(Griglia& griglia);
 
 /// Writes the staff names into column 0 from `firstRow` down, in table order, and below them the row for
 /// appointments whose staff code matches nobody.
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Allineamento allineamento);
+void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Ruolo ruolo);
 
-/// A bold navy caption in the grid's corner.
-void writeCornerCaption(Griglia& griglia, int row, std::string_view text, Carattere carattere);
-
-/// Colours the cell pure red and returns true when the day, counted from 0, of month 1 to 12 is a holiday.
+/// Makes the cell a holiday's, which colours it pure red, and returns true when the day, counted from 0, of
+/// month 1 to 12 is one.
 bool CheckGiornoFestivo(Griglia& griglia, int row, int col, int giorno, int mese);
 
 /// Empties every data row: the rows are dropped and made anew.

@@ -17,18 +17,16 @@ void layOutColumns(Griglia& Flxm) {
     Flxm.setColWidth(0, NameWidth);
     for (int column = 1; column <= ColonneGiorni; ++column) {
         Flxm.setColWidth(column, DayWidth);
-        Flxm.setText(1, column, "");
-        Flxm.setCellForeColor(1, column, Colore::predefinito);
+        Flxm.setCaption(1, column, Ruolo::casella, "");
     }
     Flxm.setRowHeight(0, HeaderHeight);
     Flxm.setRowHeight(1, HeaderHeight);
 }
 
 void writeDay(Griglia& Flxm, int column, int day, int month) {
-    Flxm.setText(1, column, std::to_string(day));
-    Flxm.setCellForeColor(1, column, isWeekendColumn(column) ? Colore::rosso : Colore::nero);
+    Flxm.setCaption(1, column, Ruolo::numeroGiorno, std::to_string(day), isWeekendColumn(column));
     if (CheckGiornoFestivo(Flxm, 0, column, day - 1, month)) {
-        Flxm.setCellForeColor(1, column, Colore::rosso);
+        Flxm.setCellHoliday(1, column);
     }
 }
 
@@ -47,7 +45,7 @@ void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm) {
     sessione.GiorniMese = giorniMese(calendario.Year());
     layOutColumns(Flxm);
     writeWeekdayLetters(Flxm);
-    const int start = colonnaIniziale(sessione.PrimoGiornoSettimana);
+    const int start = colonnaIniziale(primoGiornoSettimana(calendario.Year(), calendario.Month()));
     const int days = lunghezzaMese(sessione.GiorniMese, calendario.Month());
     for (int day = 1; day <= days; ++day) {
         writeDay(Flxm, start + day - 1, day, calendario.Month());
@@ -56,9 +54,9 @@ void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm) {
 
 EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Griglia& Flxm, bool dettagliato) {
     const Griglia::LockWindowUpdate lock(Flxm);
-    writeCornerCaption(Flxm, 0, nomeMese(calendario.Month()), Carattere::grassetto);
-    writeCornerCaption(Flxm, 1, std::to_string(calendario.Year()), Carattere::grassetto);
-    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi, Allineamento::centro);
+    Flxm.setCaption(0, 0, Ruolo::periodo, nomeMese(calendario.Month()));
+    Flxm.setCaption(1, 0, Ruolo::periodo, std::to_string(calendario.Year()));
+    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi, Ruolo::nomeMensile);
     setDataRowHeights(Flxm, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
@@ -72,10 +70,8 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
             const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
             sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
             if (impegno.immagine != 0) {
-                const int row = impegno.indice + PrimaRigaMensile;
-                const int column = firstDay + dayOf(impegno.data) - 1;
-                Flxm.setCellPicture(row, column, impegno.immagine);
-                Flxm.addCellKinds(row, column, impegno.tipi);
+                Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
+                                    impegno.immagine, impegno.tipi);
             }
         });
     Flxm.setCurrent(PrimaRigaMensile, 1);

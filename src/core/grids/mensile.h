@@ -11,8 +11,7 @@ namespace planner {
 /// First staff row of the monthly grid.
 inline constexpr int PrimaRigaMensile = 2;
 
-/// Lays out the header of the month that the calendar shows; `sessione.PrimoGiornoSettimana` must be that
-/// month's.
+/// Lays out the header of the month that the calendar shows.
 void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm);
 
 /// Writes captions, totals and the days' pictures of the month that the calendar shows. Records that raise a

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "grids/cella.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -13,7 +15,7 @@ struct Rgb {
     friend constexpr bool operator==(Rgb, Rgb) = default;
 };
 
-/// The colours of the grids. `predefinito` is what a cell has that nobody coloured.
+/// The colours of the grids. `predefinito` is what a cell has that has no colour of its own.
 enum class Colore : std::uint8_t {
     predefinito,
     nero,
@@ -68,5 +70,64 @@ constexpr const DescrizioneCarattere& carattere(Carattere which) {
 }
 
 enum class Allineamento : std::uint8_t { sinistra, centro };
+
+/// How a cell of a role looks where nothing about it says otherwise.
+struct Stile {
+    Colore colore = Colore::predefinito;
+    Colore sfondo = Colore::predefinito;
+    Carattere carattere = Carattere::normale;
+    Allineamento allineamento = Allineamento::centro;
+};
+
+/// By role.
+inline constexpr std::array<Stile, 11> Stili{{
+    {},                                                                          // casella
+    {},                                                                          // nomeMensile
+    {.allineamento = Allineamento::sinistra},                                    // nomeGiornaliero
+    {.carattere = Carattere::grassetto, .allineamento = Allineamento::sinistra}, // mese
+    {.colore = Colore::navy, .carattere = Carattere::grassetto},                 // periodo
+    {.colore = Colore::navy, .carattere = Carattere::anno},                      // anno
+    {.colore = Colore::nero},                                                    // lettera
+    {.colore = Colore::nero},                                                    // numeroGiorno
+    {.colore = Colore::nero, .sfondo = Colore::grigioChiaro},                    // giornoAnno
+    {.colore = Colore::navy, .carattere = Carattere::ora},                       // ora
+    {.colore = Colore::navy, .carattere = Carattere::minuti},                    // minuti
+}};
+
+constexpr const Stile& stile(const Cella& cella) {
+    return Stili.at(static_cast<std::size_t>(cella.ruolo));
+}
+
+/// What a cell's look takes from its grid.
+struct PostoCella {
+    Colore base;      // of cells without a colour of their own
+    bool evidenziata; // in the highlighted row
+    bool scelta;      // the selected cell
+};
+
+/// The colours in which a cell appears.
+struct Aspetto {
+    Colore colore; // of the text
+    Colore sfondo; // of the cell, appointments included
+    Colore fondo;  // of what is in sight around an appointment's bar
+    Colore barra;  // of an appointment's bar
+};
+
+/// The one place where meaning becomes colour.
+constexpr Aspetto aspetto(const Cella& cella, const PostoCella& posto) {
+    if (posto.scelta) {
+        return {Colore::nero, Colore::ciano, Colore::ciano, Colore::ciano};
+    }
+    const Stile& proprio = stile(cella);
+    const Colore colore = cella.segnato                          ? Colore::bianco
+                          : cella.fineSettimana || cella.festivo ? Colore::rosso
+                                                                 : proprio.colore;
+    const Colore fondo = posto.evidenziata                       ? Colore::giallo
+                         : cella.segnato                         ? Colore::navy
+                         : proprio.sfondo != Colore::predefinito ? proprio.sfondo
+                                                                 : posto.base;
+    const bool colorato = cella.impegno && !posto.evidenziata;
+    return {colore, colorato ? Colore::azzurro : fondo, fondo, Colore::azzurro};
+}
 
 } // namespace planner

@@ -63,7 +63,7 @@ QRect bottomLine(const QRect& rect) {
 }
 
 bool centred(const Cella& cella) {
-    return cella.allineamento == Allineamento::centro;
+    return stile(cella).allineamento == Allineamento::centro;
 }
 
 } // namespace
@@ -81,13 +81,12 @@ void CellPainter::setFontFactor(double fontFactor) {
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
                         int keptFree) {
     const Cella& cella = griglia.cella(row, col);
-    painter.fillRect(rect, qtColor(cella.impegno && cella.sfondo == Colore::azzurro
-                                       ? Colore::gialloChiaro // the span is a bar on the plain row
-                                       : griglia.sfondoVisibile(row, col)));
+    const Aspetto aspetto = griglia.aspetto(row, col);
+    painter.fillRect(rect, qtColor(aspetto.fondo));
     paintLines(painter, rect, griglia, row, col);
     for (const FasciaImpegno& fascia : griglia.fasce(row)) {
         if (fascia.copre(col)) {
-            paintBar(painter, laneOf(rect, fascia), fascia, col, cella.sfondo == Colore::ciano);
+            paintBar(painter, laneOf(rect, fascia), fascia, col, aspetto.barra);
         }
     }
     if (cella.immagine != 0 && !cella.impegno) { // a bar has its own
@@ -126,7 +125,7 @@ QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree
 }
 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
-    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(griglia.cella(row, col).carattere));
+    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(stile(griglia.cella(row, col)).carattere));
     return font.fit(fromCp1252(griglia.TextMatrix(row, col)), place.width());
 }
 
@@ -139,7 +138,7 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
     const Cella& cella = griglia.cella(row, col);
     const FittedText fitted = fittedText(place, griglia, row, col);
     painter.setFont(fitted.font);
-    painter.setPen(qtColor(cella.colore));
+    painter.setPen(qtColor(griglia.CellForeColor(row, col)));
     painter.drawText(place,
                      static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
                                       (centred(cella) ? Qt::AlignHCenter : Qt::AlignLeft)),
@@ -147,11 +146,10 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 }
 
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
-                           bool marked) {
+                           Colore colore) {
     constexpr int lowestWithTwoEdges = 4;
     const QColor edge(BarBorderColor);
-    // The bar stays in sight whatever colour a highlighted row or a marked cell has.
-    painter.fillRect(bar, qtColor(marked ? Colore::ciano : Colore::azzurro));
+    painter.fillRect(bar, qtColor(colore));
     painter.fillRect(topLine(bar), edge);
     if (bar.height() >= lowestWithTwoEdges) {
         painter.fillRect(bottomLine(bar), edge);

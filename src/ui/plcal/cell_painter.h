@@ -36,7 +36,7 @@ private:
     FittedText fittedText(const QRect& place, const Griglia& griglia, int row, int col) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
     void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col);
-    void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, bool marked);
+    void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
     void paintToday(QPainter& painter, const QRect& rect);

@@ -52,9 +52,9 @@ QVariant GridModel::cellData(int row, int col, int role) const {
     case Qt::DisplayRole:
         return fromCp1252(m_griglia.TextMatrix(row, col));
     case Qt::ForegroundRole:
-        return qtColor(m_griglia.cella(row, col).colore);
+        return qtColor(m_griglia.CellForeColor(row, col));
     case Qt::BackgroundRole:
-        return qtColor(m_griglia.sfondoVisibile(row, col));
+        return qtColor(m_griglia.CellBackColor(row, col));
     case Qt::AccessibleTextRole:
     case Qt::StatusTipRole:
         return fromUtf8(m_frase(row, col));

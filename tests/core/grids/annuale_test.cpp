@@ -14,8 +14,8 @@ protected:
         bench.init("A", "00000000", std::string(year) + "0315", std::string(year) + "1231");
     }
     bool isMarked(int month, int column) const {
-        const Cella& cella = flxa.cella(month, column);
-        return cella.colore == Colore::bianco && cella.sfondo == Colore::navy;
+        return flxa.CellForeColor(month, column) == Colore::bianco &&
+               flxa.CellBackColor(month, column) == Colore::navy;
     }
 
     PlannerBench bench;
@@ -42,17 +42,17 @@ TEST_F(AnnualeTest, TheCornerShowsTheYearCentredBoldSize10AndNavy) {
     show("2006");
     const Cella& corner = flxa.cella(0, 0);
     EXPECT_EQ(flxa.TextMatrix(0, 0), "2006");
-    EXPECT_EQ(corner.colore, Colore::navy);
-    EXPECT_EQ(corner.allineamento, Allineamento::centro);
-    EXPECT_EQ(carattere(corner.carattere).punti, 10);
-    EXPECT_TRUE(carattere(corner.carattere).grassetto);
+    EXPECT_EQ(flxa.CellForeColor(0, 0), Colore::navy);
+    EXPECT_EQ(stile(corner).allineamento, Allineamento::centro);
+    EXPECT_EQ(carattere(stile(corner).carattere).punti, 10);
+    EXPECT_TRUE(carattere(stile(corner).carattere).grassetto);
 }
 
 TEST_F(AnnualeTest, MonthsAreNamedInBold) {
     show("2006");
     for (int month = 1; month <= 12; ++month) {
         EXPECT_EQ(flxa.TextMatrix(month, 0), NomiMesi.at(static_cast<std::size_t>(month - 1)));
-        EXPECT_TRUE(carattere(flxa.cella(month, 0).carattere).grassetto);
+        EXPECT_TRUE(carattere(stile(flxa.cella(month, 0)).carattere).grassetto);
         EXPECT_EQ(flxa.RowHeight(month), 700);
     }
     EXPECT_EQ(flxa.RowHeight(0), 500);
@@ -66,15 +66,15 @@ TEST_F(AnnualeTest, DaysStandUnderTheirWeekdaysOnLightGrey) {
     for (int month = 1; month <= 12; ++month) {
         for (int column = 1; column <= 37; ++column) {
             const std::string_view text = flxa.TextMatrix(month, column);
-            const Cella& cella = flxa.cella(month, column);
             if (text.empty()) {
-                EXPECT_EQ(cella, Cella{}) << month << "," << column;
+                EXPECT_EQ(flxa.cella(month, column), Cella{}) << month << "," << column;
                 continue;
             }
             const int weekday = weekdayOf(*makeDate(2006, month, std::stoi(std::string(text))));
             EXPECT_EQ((column - 1) % 7, (weekday + 5) % 7) << month << "/" << text;
-            EXPECT_EQ(cella.sfondo, Colore::grigioChiaro);
-            EXPECT_EQ(cella.colore, isWeekendColumn(column) ? Colore::rosso : Colore::nero);
+            EXPECT_EQ(flxa.CellBackColor(month, column), Colore::grigioChiaro);
+            EXPECT_EQ(flxa.CellForeColor(month, column),
+                      isWeekendColumn(column) ? Colore::rosso : Colore::nero);
         }
     }
 }
@@ -140,8 +140,8 @@ TEST_F(AnnualeTest, TheNextYearLeavesNothingOfTheOneBefore) {
     for (int row = 0; row < 13; ++row) {
         for (int column = 0; column <= 37; ++column) {
             EXPECT_EQ(flxa.TextMatrix(row, column), fresh.controlli.flxa.TextMatrix(row, column));
-            EXPECT_EQ(flxa.cella(row, column).sfondo, fresh.controlli.flxa.cella(row, column).sfondo);
-            EXPECT_EQ(flxa.cella(row, column).colore, fresh.controlli.flxa.cella(row, column).colore);
+            EXPECT_EQ(flxa.CellBackColor(row, column), fresh.controlli.flxa.CellBackColor(row, column));
+            EXPECT_EQ(flxa.CellForeColor(row, column), fresh.controlli.flxa.CellForeColor(row, column));
         }
     }
 }

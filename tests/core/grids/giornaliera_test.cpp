@@ -32,8 +32,8 @@ TEST_F(GiornalieraTest, HoursAreBoldAndMinutesSmall) {
         const int quarter = (column - 1) % 4;
         const int hour = (column - 1) / 4;
         EXPECT_EQ(flxg.TextMatrix(0, column), std::to_string(quarter == 0 ? hour : quarter * 15)) << column;
-        EXPECT_EQ(flxg.cella(0, column).carattere, quarter == 0 ? Carattere::ora : Carattere::minuti);
-        EXPECT_EQ(flxg.cella(0, column).colore, Colore::navy);
+        EXPECT_EQ(stile(flxg.cella(0, column)).carattere, quarter == 0 ? Carattere::ora : Carattere::minuti);
+        EXPECT_EQ(flxg.CellForeColor(0, column), Colore::navy);
         EXPECT_EQ(flxg.ColWidth(column), 350);
     }
     EXPECT_EQ(flxg.ColWidth(0), 2377);
@@ -42,8 +42,8 @@ TEST_F(GiornalieraTest, HoursAreBoldAndMinutesSmall) {
 TEST_F(GiornalieraTest, TheCornerShowsTheDayBoldAndNavy) {
     fill({}, "20060305");
     EXPECT_EQ(flxg.TextMatrix(0, 0), "05/03/2006");
-    EXPECT_EQ(flxg.cella(0, 0).colore, Colore::navy);
-    EXPECT_TRUE(carattere(flxg.cella(0, 0).carattere).grassetto);
+    EXPECT_EQ(flxg.CellForeColor(0, 0), Colore::navy);
+    EXPECT_TRUE(carattere(stile(flxg.cella(0, 0)).carattere).grassetto);
 }
 
 TEST_F(GiornalieraTest, NamesStartInRow1AndTheUnassignedFollow) {

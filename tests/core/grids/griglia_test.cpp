@@ -32,19 +32,14 @@ TEST_F(GrigliaTest, IsEmptyAtFirst) {
 }
 
 TEST_F(GrigliaTest, KeepsWhatACellHolds) {
-    griglia.setText(1, 2, "Rossi");
-    griglia.setCellForeColor(1, 2, Colore::rosso);
-    griglia.setCellBackColor(1, 2, Colore::ciano);
+    griglia.setCaption(1, 2, Ruolo::nomeGiornaliero, "Rossi");
+    griglia.setCellHoliday(1, 2);
     griglia.setCellPicture(1, 2, 16);
-    griglia.setCellFont(1, 2, Carattere::anno);
-    griglia.setCellAlignment(1, 2, Allineamento::sinistra);
     const Cella& cella = griglia.cella(1, 2);
     EXPECT_EQ(griglia.TextMatrix(1, 2), "Rossi");
-    EXPECT_EQ(cella.colore, Colore::rosso);
-    EXPECT_EQ(cella.sfondo, Colore::ciano);
+    EXPECT_EQ(griglia.CellForeColor(1, 2), Colore::rosso);
     EXPECT_EQ(cella.immagine, 16);
-    EXPECT_EQ(cella.carattere, Carattere::anno);
-    EXPECT_EQ(cella.allineamento, Allineamento::sinistra);
+    EXPECT_EQ(stile(cella).allineamento, Allineamento::sinistra);
     EXPECT_EQ(griglia.cella(1, 1), Cella{});
 }
 
@@ -114,11 +109,43 @@ TEST_F(GrigliaTest, TheCurrentCellStaysInsideAShrinkingGrid) {
 }
 
 TEST_F(GrigliaTest, UncolouredCellsLookLikeTheirPartOfTheGrid) {
-    EXPECT_EQ(griglia.sfondoVisibile(0, 1), Colore::intestazione);
-    EXPECT_EQ(griglia.sfondoVisibile(1, 0), Colore::intestazione);
-    EXPECT_EQ(griglia.sfondoVisibile(1, 1), Colore::gialloChiaro);
-    griglia.setCellBackColor(1, 1, Colore::ciano);
-    EXPECT_EQ(griglia.sfondoVisibile(1, 1), Colore::ciano);
+    EXPECT_EQ(griglia.CellBackColor(0, 1), Colore::intestazione);
+    EXPECT_EQ(griglia.CellBackColor(1, 0), Colore::intestazione);
+    EXPECT_EQ(griglia.CellBackColor(1, 1), Colore::gialloChiaro);
+    griglia.scegli(1, 1);
+    EXPECT_EQ(griglia.CellBackColor(1, 1), Colore::ciano);
+}
+
+TEST_F(GrigliaTest, AnAppointmentColoursTheCellAndNotTheGroundAroundItsBar) {
+    griglia.addCellEntry(1, 1, 0);
+    EXPECT_EQ(griglia.aspetto(1, 1).sfondo, Colore::azzurro);
+    EXPECT_EQ(griglia.aspetto(1, 1).fondo, Colore::gialloChiaro);
+    griglia.evidenzia(1);
+    EXPECT_EQ(griglia.aspetto(1, 1).fondo, Colore::giallo);
+    EXPECT_EQ(griglia.aspetto(1, 1).barra, Colore::azzurro);
+    griglia.scegli(1, 1);
+    EXPECT_EQ(griglia.aspetto(1, 1).barra, Colore::ciano);
+}
+
+TEST_F(GrigliaTest, AnotherHighlightedRowLeavesNoCellSelectedAndNamesAsTheyAre) {
+    griglia.evidenzia(1);
+    griglia.scegli(1, 2);
+    griglia.evidenzia(2);
+    EXPECT_EQ(griglia.RigaEvidenziata(), 2);
+    EXPECT_EQ(griglia.CellBackColor(1, 2), Colore::gialloChiaro);
+    EXPECT_EQ(griglia.CellBackColor(2, 2), Colore::giallo);
+    EXPECT_EQ(griglia.CellBackColor(2, 0), Colore::intestazione);
+}
+
+TEST_F(GrigliaTest, TheHighlightStaysWhenRowsAreMadeAnewAndTheSelectedCellDoesNot) {
+    griglia.evidenzia(2);
+    griglia.scegli(2, 1);
+    griglia.setRows(1);
+    griglia.setRows(4);
+    EXPECT_EQ(griglia.CellBackColor(2, 1), Colore::giallo);
+    griglia.dimenticaScelte();
+    EXPECT_FALSE(griglia.EvidenziazioneAttiva());
+    EXPECT_EQ(griglia.CellBackColor(2, 1), Colore::gialloChiaro);
 }
 
 class GrigliaObserverTest : public GrigliaTest {

@@ -28,8 +28,8 @@ TEST_F(MensileFillTest, ACornerOfMonthAndYearBoldAndNavy) {
     EXPECT_EQ(Flxm.TextMatrix(0, 0), "Marzo");
     EXPECT_EQ(Flxm.TextMatrix(1, 0), "2006");
     for (int row = 0; row <= 1; ++row) {
-        EXPECT_EQ(Flxm.cella(row, 0).colore, Colore::navy);
-        EXPECT_TRUE(carattere(Flxm.cella(row, 0).carattere).grassetto);
+        EXPECT_EQ(Flxm.CellForeColor(row, 0), Colore::navy);
+        EXPECT_TRUE(carattere(stile(Flxm.cella(row, 0)).carattere).grassetto);
     }
 }
 
@@ -70,7 +70,7 @@ TEST_F(MensileFillTest, TheNonDetailedDisplayShowsPicture16) {
     bench.init("M", "20060315");
     EXPECT_EQ(picture(3, 17), 16);
     EXPECT_EQ(picture(3, 18), 0);
-    EXPECT_EQ(Flxm.cella(3, 17).allineamento, Allineamento::centro);
+    EXPECT_EQ(stile(Flxm.cella(3, 17)).allineamento, Allineamento::centro);
 }
 
 TEST_F(MensileFillTest, DataCellsHoldNoText) {

@@ -16,7 +16,7 @@ protected:
         bench.motore.showgrid();
     }
     std::string_view dayNumber(int column) const { return Flxm.TextMatrix(1, column); }
-    Colore colour(int row, int column) const { return Flxm.cella(row, column).colore; }
+    Colore colour(int row, int column) const { return Flxm.CellForeColor(row, column); }
 
     PlannerBench bench;
     const Griglia& Flxm = bench.controlli.Flxm;
@@ -108,7 +108,7 @@ TEST_F(MensileLayoutTest, AMoveToAnotherMonthLeavesNothingOfTheOneBefore) {
     for (int row = 0; row <= 1; ++row) {
         for (int column = 0; column <= 37; ++column) {
             EXPECT_EQ(Flxm.TextMatrix(row, column), fresh.controlli.Flxm.TextMatrix(row, column));
-            EXPECT_EQ(rgb(colour(row, column)), rgb(fresh.controlli.Flxm.cella(row, column).colore))
+            EXPECT_EQ(rgb(colour(row, column)), rgb(fresh.controlli.Flxm.CellForeColor(row, column)))
                 << row << "," << column;
         }
     }
@@ -119,8 +119,8 @@ TEST_F(MensileLayoutTest, WidthsHeightsAndAlignments) {
     EXPECT_EQ(Flxm.ColWidth(0), 2000);
     for (int column = 1; column <= 37; ++column) {
         EXPECT_EQ(Flxm.ColWidth(column), 350);
-        EXPECT_EQ(Flxm.cella(0, column).allineamento, Allineamento::centro);
-        EXPECT_EQ(Flxm.cella(1, column).allineamento, Allineamento::centro);
+        EXPECT_EQ(stile(Flxm.cella(0, column)).allineamento, Allineamento::centro);
+        EXPECT_EQ(stile(Flxm.cella(1, column)).allineamento, Allineamento::centro);
     }
     EXPECT_EQ(Flxm.RowHeight(0), 300);
     EXPECT_EQ(Flxm.RowHeight(1), 300);
@@ -129,7 +129,7 @@ TEST_F(MensileLayoutTest, WidthsHeightsAndAlignments) {
 TEST_F(MensileLayoutTest, ColumnZeroIsCentred) {
     bench.init("M", "20060315");
     for (int row = 0; row < Flxm.Rows(); ++row) {
-        EXPECT_EQ(Flxm.cella(row, 0).allineamento, Allineamento::centro) << row;
+        EXPECT_EQ(stile(Flxm.cella(row, 0)).allineamento, Allineamento::centro) << row;
     }
 }
 

@@ -51,7 +51,7 @@ TEST(LayoutTest, WeekdayLettersRepeatEverySevenColumns) {
     for (int column = 1; column <= 37; ++column) {
         const auto place = static_cast<std::size_t>((column - 1) % 7);
         EXPECT_EQ(griglia.TextMatrix(0, column), letters.substr(place, 1)) << column;
-        EXPECT_EQ(griglia.cella(0, column).colore, place >= 5 ? Colore::rosso : Colore::nero) << column;
+        EXPECT_EQ(griglia.CellForeColor(0, column), place >= 5 ? Colore::rosso : Colore::nero) << column;
     }
 }
 
@@ -69,7 +69,7 @@ TEST(LayoutTest, CaptionsAreTheStaffInTableOrderAndTheUnassignedBelow) {
     archivi.Collaboratori[1].nome.assign("  Bianchi  Rosa");
     archivi.NumCollab = 3;
     Griglia griglia(8, 2, 1, Colore::bianco);
-    writeStaffCaptions(griglia, 2, archivi, Allineamento::centro);
+    writeStaffCaptions(griglia, 2, archivi, Ruolo::nomeMensile);
     EXPECT_EQ(griglia.TextMatrix(1, 0), "");
     EXPECT_EQ(griglia.TextMatrix(2, 0), "Verdi Ugo");
     EXPECT_EQ(griglia.TextMatrix(3, 0), "  Bianchi  Rosa");

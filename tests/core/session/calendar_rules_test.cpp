@@ -91,7 +91,7 @@ class CheckGiornoFestivoTest : public testing::Test {
 protected:
     /// Days are counted from 0; the cell is black before.
     bool check(int giorno, int mese) {
-        griglia.setCellForeColor(0, 1, Colore::nero);
+        griglia.setCaption(0, 1, Ruolo::lettera, "L");
         return CheckGiornoFestivo(griglia, 0, 1, giorno, mese);
     }
 
@@ -123,14 +123,14 @@ TEST_F(CheckGiornoFestivoTest, TheYearHasExactlyTheseTenHolidays) {
 
 TEST_F(CheckGiornoFestivoTest, AHitColoursTheCellPureRedAndNothingElse) {
     check(0, 1);
-    EXPECT_EQ(rgb(griglia.cella(0, 1).colore), (Rgb{255, 0, 0}));
+    EXPECT_EQ(rgb(griglia.CellForeColor(0, 1)), (Rgb{255, 0, 0}));
     EXPECT_EQ(griglia.cella(0, 2), Cella{});
     EXPECT_EQ(griglia.cella(1, 1), Cella{});
 }
 
 TEST_F(CheckGiornoFestivoTest, NoHitChangesNothing) {
     check(1, 1);
-    EXPECT_EQ(griglia.cella(0, 1).colore, Colore::nero);
+    EXPECT_EQ(griglia.CellForeColor(0, 1), Colore::nero);
 }
 
 TEST(DayofweekTest, AMonthThatBeginsOnASundayGives1) {

@@ -15,7 +15,9 @@ void plcal::load() {
         Form_Load();
     }
     // A kept window is refilled for its next request: what was marked in its grids is gone.
-    m_marks.forget();
+    for (Griglia* griglia : {&m_controlli.Flxm, &m_controlli.flxg, &m_controlli.flxa}) {
+        griglia->dimenticaScelte();
+    }
     m_pannello.nascondiTotali();
     m_pannello.svuotaAnnuali();
     m_stato.clear();

@@ -5,7 +5,6 @@
 #include "engine/clsplg.h"
 #include "forms/plcal/gesti.h"
 #include "forms/plcal/panel.h"
-#include "forms/plcal/row_marks.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/plfgraf/finestra_grafici.h"
@@ -130,7 +129,6 @@ private:
     bool m_loaded = false;
     Scala m_scala;
     PannelloDettagli m_pannello;
-    RowMarks m_marks; // of the visible grid
     std::string m_stato;
 };
 

@@ -85,7 +85,7 @@ void plcal::SelChange(Scelta scelta) {
 void plcal::selectStaff(Griglia& griglia) {
     const int indice = griglia.Row() - griglia.FixedRows();
     setStaff(indice);
-    m_marks.highlight(griglia, griglia.Row());
+    griglia.evidenzia(griglia.Row());
     m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
     m_pannello.lblcollabVisibile = true;
     showTotals(indice);
@@ -114,27 +114,25 @@ void plcal::showTotals(int indice) {
 void plcal::flxa_SelChange(int riga, int colonna) {
     m_pannello.svuotaAnnuali();
     if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
-        m_marks.unmark(m_controlli.flxa); // what is marked is the day whose totals are shown
+        m_controlli.flxa.scegliNessuna(); // what is marked is the day whose totals are shown
         return;
     }
     for (const TotaleGiorno& totale : totaliGiorno(m_sessione.archivi, riga, colonna)) {
         m_pannello[totale.campo->etichetta].testo = formatoTotale(totale.valore);
     }
-    m_marks.markDay(m_controlli.flxa, riga, colonna);
+    m_controlli.flxa.scegli(riga, colonna);
 }
 
 void plcal::markShownCell() {
-    if (!m_marks.EvidenziazioneAttiva()) {
+    Griglia& griglia = *m_controlli.grigliaVisibile();
+    const int riga = griglia.RigaEvidenziata();
+    if (!griglia.EvidenziazioneAttiva()) {
         return;
     }
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int riga = m_marks.RigaEvidenziata();
     if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        m_marks.highlight(griglia, riga); // gives the cell marked before the row's colour
-        m_marks.markCell(griglia, riga, colonnaGiornoMostrato(m_controlli));
+        griglia.scegli(riga, colonnaGiornoMostrato(m_controlli));
     } else if (griglia.Row() == riga) {
-        m_marks.highlight(griglia, riga);
-        m_marks.markCell(griglia, riga, griglia.Col());
+        griglia.scegli(riga, griglia.Col());
     }
 }
 
@@ -150,7 +148,7 @@ void plcal::describeCurrentCell() {
 
 int plcal::rigaCursore() const {
     const Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int wanted = m_marks.EvidenziazioneAttiva()    ? m_marks.RigaEvidenziata()
+    const int wanted = griglia.EvidenziazioneAttiva()    ? griglia.RigaEvidenziata()
                        : m_sessione.IndiceRichiesto >= 0 ? griglia.FixedRows() + m_sessione.IndiceRichiesto
                                                          : griglia.FixedRows();
     return std::clamp(wanted, griglia.FixedRows(), griglia.Rows() - 1);
@@ -167,14 +165,11 @@ void plcal::posizionaCursore(int colonnaGiornaliera) {
 }
 
 void plcal::restoreMarks() {
-    if (!m_marks.EvidenziazioneAttiva()) {
-        return;
-    }
     Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int riga = std::min(m_marks.RigaEvidenziata(), griglia.Rows() - 1);
-    m_marks.forget();
-    m_marks.highlight(griglia, riga);
-    markShownCell();
+    if (griglia.EvidenziazioneAttiva()) {
+        griglia.evidenzia(std::min(griglia.RigaEvidenziata(), griglia.Rows() - 1));
+        markShownCell();
+    }
 }
 
 } // namespace planner

@@ -151,8 +151,8 @@ TEST_F(CommandsTest, ASwitchOfDetailKeepsSelectionAndPanel) {
     open("M");
     gesto(3, 17);
     press("dettno");
-    EXPECT_EQ(controlli.Flxm.cella(3, 1).sfondo, Colore::giallo);
-    EXPECT_EQ(controlli.Flxm.cella(3, 17).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 1), Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 17), Colore::ciano);
     EXPECT_EQ(form.pannello()["Lblscad"].testo, "2");
     EXPECT_EQ(controlli.Flxm.Row(), 3);
     EXPECT_EQ(controlli.Flxm.Col(), 17);

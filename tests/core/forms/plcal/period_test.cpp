@@ -98,16 +98,16 @@ TEST_F(PeriodTest, AMoveHidesThePanelAndKeepsTheStaffMemberAndItsHighlight) {
     EXPECT_FALSE(form.pannello()["lblpra"].visibile);
     EXPECT_EQ(sessione.IndiceCollab, 1);
     EXPECT_EQ(sessione.collab, "RB");
-    EXPECT_EQ(controlli.Flxm.cella(3, 1).sfondo, Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 1), Colore::giallo);
     EXPECT_EQ(controlli.Flxm.Row(), 3);
     EXPECT_EQ(controlli.Flxm.Col(), 20) << "the cell of 15 April";
-    EXPECT_EQ(controlli.Flxm.cella(3, 20).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 20), Colore::ciano);
 }
 
 TEST_F(PeriodTest, WithoutASelectionAMoveHighlightsNothing) {
     open("M");
     form.bselm_Click(1);
-    EXPECT_EQ(controlli.Flxm.cella(2, 1).sfondo, Colore::predefinito);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(2, 1), Colore::gialloChiaro);
     EXPECT_EQ(controlli.Flxm.Row(), 2);
     EXPECT_EQ(controlli.Flxm.Col(), 20) << "the cell of 15 April";
 }

@@ -34,7 +34,7 @@ protected:
     std::vector<Colore> backgrounds(const Griglia& griglia, int row) {
         std::vector<Colore> colours;
         for (int column = 1; column < griglia.Cols(); ++column) {
-            colours.push_back(griglia.cella(row, column).sfondo);
+            colours.push_back(griglia.CellBackColor(row, column));
         }
         return colours;
     }
@@ -81,7 +81,7 @@ TEST_F(SelectionTest, AColumnOfNoDayHidesThePanelAndLeavesStaffMemberAndDay) {
     EXPECT_FALSE(form.pannello().lblcollabVisibile);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(controlli.calendario.Day(), 15);
-    EXPECT_EQ(controlli.Flxm.cella(3, Day15).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, Day15), Colore::ciano);
 }
 
 TEST_F(SelectionTest, AMarkedCellFollowsTheDayThatASpareRowGives) {
@@ -89,8 +89,8 @@ TEST_F(SelectionTest, AMarkedCellFollowsTheDayThatASpareRowGives) {
     gesto(3, Day15);
     gesto(SpareRow, Day15 + 1);
     EXPECT_EQ(controlli.calendario.Day(), 16);
-    EXPECT_EQ(controlli.Flxm.cella(3, Day15).sfondo, Colore::giallo);
-    EXPECT_EQ(controlli.Flxm.cella(3, Day15 + 1).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, Day15), Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, Day15 + 1), Colore::ciano);
 }
 
 TEST_F(SelectionTest, ANameSelectsItsStaffMemberOnTheShownDay) {
@@ -132,7 +132,7 @@ TEST_F(SelectionTest, TheSelectedRowIsYellowAndItsCellCyan) {
     auto expected = std::vector<Colore>(37, Colore::giallo);
     expected[Day15 - 1] = Colore::ciano;
     EXPECT_EQ(backgrounds(controlli.Flxm, 3), expected);
-    EXPECT_EQ(controlli.Flxm.cella(3, 0).sfondo, Colore::predefinito) << "the names keep their colours";
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 0), Colore::intestazione) << "the names keep their colours";
 }
 
 TEST_F(SelectionTest, ASecondRowPaintsTheFirstBackToLightYellow) {
@@ -140,9 +140,9 @@ TEST_F(SelectionTest, ASecondRowPaintsTheFirstBackToLightYellow) {
     gesto(3, Day15);
     gesto(2, 5);
     EXPECT_THAT(backgrounds(controlli.Flxm, 3), Each(Colore::gialloChiaro));
-    EXPECT_EQ(controlli.Flxm.cella(2, 5).sfondo, Colore::ciano);
-    EXPECT_EQ(controlli.Flxm.cella(2, 6).sfondo, Colore::giallo);
-    EXPECT_EQ(controlli.Flxm.cella(3, 0).sfondo, Colore::predefinito);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(2, 5), Colore::ciano);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(2, 6), Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, 0), Colore::intestazione);
 }
 
 TEST_F(SelectionTest, MovingInsideTheHighlightedRowChangesTwoCellsOnly) {
@@ -160,7 +160,7 @@ TEST_F(SelectionTest, MovingInsideTheHighlightedRowChangesTwoCellsOnly) {
     EXPECT_EQ(counter.area.rigaMax, 3);
     EXPECT_EQ(counter.area.colonnaMin, Day15);
     EXPECT_EQ(counter.area.colonnaMax, Day15 + 1);
-    EXPECT_EQ(controlli.Flxm.cella(3, Day15).sfondo, Colore::giallo);
+    EXPECT_EQ(controlli.Flxm.CellBackColor(3, Day15), Colore::giallo);
 }
 
 TEST_F(SelectionTest, InVariantBTheDeadlinesNeverShow) {
@@ -216,8 +216,8 @@ TEST_F(SelectionTest, TheDailyGridSelectsByRowLessOneAndKeepsTheSelectedIndex) {
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(sessione.IndiceCollab, -1);
     EXPECT_EQ(total("Lblscad"), "3");
-    EXPECT_EQ(controlli.flxg.cella(2, 1).sfondo, Colore::giallo);
-    EXPECT_EQ(controlli.flxg.cella(2, 40).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.flxg.CellBackColor(2, 1), Colore::giallo);
+    EXPECT_EQ(controlli.flxg.CellBackColor(2, 40), Colore::ciano);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
 }
 
@@ -282,21 +282,21 @@ TEST_F(YearlySelectionTest, AnUnmarkedDayEmptiesThePanel) {
 
 TEST_F(YearlySelectionTest, TheMarkedDayIsCyanWithBlackTextAndThePreviousOneGetsItsColoursBack) {
     gesto(3, 17);
-    EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::ciano);
-    EXPECT_EQ(controlli.flxa.cella(3, 17).colore, Colore::nero);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 17), Colore::ciano);
+    EXPECT_EQ(controlli.flxa.CellForeColor(3, 17), Colore::nero);
     gesto(1, 8);
-    EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::navy);
-    EXPECT_EQ(controlli.flxa.cella(3, 17).colore, Colore::bianco);
-    EXPECT_EQ(controlli.flxa.cella(1, 8).sfondo, Colore::ciano);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 17), Colore::navy);
+    EXPECT_EQ(controlli.flxa.CellForeColor(3, 17), Colore::bianco);
+    EXPECT_EQ(controlli.flxa.CellBackColor(1, 8), Colore::ciano);
     gesto(3, 17);
-    EXPECT_EQ(controlli.flxa.cella(1, 8).sfondo, Colore::navy) << "January's days get them back too";
+    EXPECT_EQ(controlli.flxa.CellBackColor(1, 8), Colore::navy) << "January's days get them back too";
 }
 
 TEST_F(YearlySelectionTest, ADayWithoutEntriesLeavesNoOtherDayMarked) {
     gesto(3, 17);
     gesto(3, 18);
-    EXPECT_EQ(controlli.flxa.cella(3, 17).sfondo, Colore::navy);
-    EXPECT_EQ(controlli.flxa.cella(3, 18).sfondo, Colore::grigioChiaro);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 17), Colore::navy);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 18), Colore::grigioChiaro);
 }
 
 TEST_F(YearlySelectionTest, TheNameOfAMonthMovesNothing) {
@@ -323,7 +323,7 @@ TEST_F(YearlySelectionTest, ArrowKeysMoveTheCalendarOnlyOnceThePlannerHasStarted
 TEST_F(YearlySelectionTest, SelectingChangesNeitherStaffMemberNorRowColours) {
     gesto(3, 17);
     EXPECT_EQ(sessione.collab, "  ");
-    EXPECT_EQ(controlli.flxa.cella(3, 16).sfondo, Colore::grigioChiaro);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 16), Colore::grigioChiaro);
 }
 
 } // namespace
