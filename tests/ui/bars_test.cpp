@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "grids/giornaliera.h"
-#include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/cell_painter.h"
 #include "ui/plcal/grid_model.h"

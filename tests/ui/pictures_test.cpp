@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "ui/kit/pictures.h"
 
 #include <QImage>

@@ -24,18 +24,4 @@ private:
     Data m_value{std::chrono::year{2000}, std::chrono::January, std::chrono::day{1}};
 };
 
-/// Gives the calendar back on the day it showed when a layout that walks it through the months ends.
-class CalendarioSalvato {
-public:
-    explicit CalendarioSalvato(Calendario& calendario)
-        : m_calendario(calendario), m_value(calendario.Value()) {}
-    ~CalendarioSalvato() { m_calendario.setValue(m_value); }
-    CalendarioSalvato(const CalendarioSalvato&) = delete;
-    CalendarioSalvato& operator=(const CalendarioSalvato&) = delete;
-
-private:
-    Calendario& m_calendario;
-    Data m_value;
-};
-
 } // namespace planner

@@ -5,6 +5,7 @@
 #include "archive/tables.h"
 #include "session/calendar_rules.h"
 #include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "session/totals.h"
 
 #include <cstdint>

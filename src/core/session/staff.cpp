@@ -18,19 +18,6 @@ std::size_t slotOf(std::string_view trimmed) {
     return byteAt(0) * 256 + byteAt(1);
 }
 
-/// The pictures by set of kinds: the fills ask for one with every record.
-constexpr std::array<std::int16_t, 1u << TipiImpegno.size()> ImmaginiTipi = [] {
-    std::array<std::int16_t, 1u << TipiImpegno.size()> pictures{};
-    for (std::size_t i = 0; i < ChiaviImmagini.size(); ++i) {
-        unsigned tipi = 0;
-        for (const char cifra : ChiaviImmagini[i]) {
-            tipi |= 1u << (cifra - '1');
-        }
-        pictures[tipi] = static_cast<std::int16_t>(i + 1);
-    }
-    return pictures;
-}();
-
 } // namespace
 
 IndiceCodici::IndiceCodici() : m_indici(CodeCount, -1) {}
@@ -59,21 +46,6 @@ std::string EstraiCollaboratore(std::span<const Collaboratore> collaboratori, co
     const std::int16_t found = indice.trova(codice);
     const bool known = found >= 0 && static_cast<std::size_t>(found) < collaboratori.size();
     return known ? std::string(collaboratori[static_cast<std::size_t>(found)].nome.trimmedRight()) : "  ";
-}
-
-std::int16_t Eval_imagedisplay(std::string_view deps) {
-    const auto found = std::find(ChiaviImmagini.begin(), ChiaviImmagini.end(), deps);
-    return found == ChiaviImmagini.end() ? std::int16_t{0}
-                                         : static_cast<std::int16_t>(found - ChiaviImmagini.begin() + 1);
-}
-
-std::int16_t immagineTipi(unsigned tipi) {
-    return tipi < ImmaginiTipi.size() ? ImmaginiTipi[tipi] : std::int16_t{0};
-}
-
-std::string_view chiaveImmagine(int immagine) {
-    const bool known = immagine >= 1 && static_cast<std::size_t>(immagine) <= ChiaviImmagini.size();
-    return known ? ChiaviImmagini[static_cast<std::size_t>(immagine - 1)] : std::string_view{};
 }
 
 } // namespace planner

@@ -4,19 +4,8 @@
 
 #include "archive/numeric_value.h"
 #include "ports/runtime_errors.h"
-#include "session/staff.h"
 
 namespace planner {
-
-namespace {
-
-bool contains(const ValoriContatori& valori, const CategoriaTotali& categoria) {
-    const bool first = valori.at(categoria.contatori[0]) != 0;
-    const bool second = valori.at(categoria.contatori[1]) != 0;
-    return first | second;
-}
-
-} // namespace
 
 ValoriContatori valoriContatori(const RigaPlanner& riga) {
     ValoriContatori valori{};
@@ -26,18 +15,9 @@ ValoriContatori valoriContatori(const RigaPlanner& riga) {
     return valori;
 }
 
-unsigned tipiPresenti(const ValoriContatori& valori) {
-    // The kinds are those of categories 3, 2, 0 and 1, in this order.
-    constexpr std::array<std::uint8_t, TipiImpegno.size()> categories{3, 2, 0, 1};
-    unsigned tipi = 0;
-    for (std::size_t i = 0; i < categories.size(); ++i) {
-        tipi |= static_cast<unsigned>(contains(valori, CategorieTotali[categories[i]])) << i;
-    }
-    return tipi;
-}
-
-std::string_view chiaveTipi(const ValoriContatori& valori) {
-    return chiaveImmagine(immagineTipi(tipiPresenti(valori)));
+double somma(const ValoriContatori& valori, Totale totale) {
+    const auto& [first, second] = descrizione(totale).contatori;
+    return valori.at(first) + valori.at(second);
 }
 
 TabellaTotali::TabellaTotali(std::int16_t upperBound) : m_righe(static_cast<std::size_t>(upperBound) + 1) {}

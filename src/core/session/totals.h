@@ -11,13 +11,24 @@
 
 namespace planner {
 
-/// A category of totals: which of a record's counters (1 to 11; 0 for none) add up in it.
+/// The totals that appointments and days add up to.
+enum class Totale : std::uint8_t {
+    scadenze,
+    pratiche,
+    impegniVari,
+    noteRiservate,
+    scadenzeConcluse,
+    praticheConcluse,
+    altro
+};
+
+/// A category of totals: which of the counters of a record or a day (1 to 11; 0 for none) add up in it.
 struct CategoriaTotali {
     std::string_view nome;
     std::array<std::uint8_t, 2> contatori;
 };
 
-/// The seven categories, by index.
+/// The seven categories, by total.
 inline constexpr std::array CategorieTotali{CategoriaTotali{"scadenze", {5, 1}},
                                             CategoriaTotali{"pratiche", {6, 2}},
                                             CategoriaTotali{"impegni vari", {8, 0}},
@@ -26,16 +37,16 @@ inline constexpr std::array CategorieTotali{CategoriaTotali{"scadenze", {5, 1}},
                                             CategoriaTotali{"pratiche concluse", {10, 4}},
                                             CategoriaTotali{"altro", {11, 0}}};
 
-/// The numeric values of a record's eleven counters; index 1 to 11, index 0 is always 0.
+constexpr const CategoriaTotali& descrizione(Totale totale) {
+    return CategorieTotali.at(static_cast<std::size_t>(totale));
+}
+
+/// The numeric values of eleven counters; index 1 to 11, index 0 is always 0.
 using ValoriContatori = std::array<double, 12>;
 ValoriContatori valoriContatori(const RigaPlanner& riga);
 
-/// The kinds that the counters hold: bit i stands for `TipiImpegno[i]`, 0 for nothing to mark.
-unsigned tipiPresenti(const ValoriContatori& valori);
-
-/// The picture key of the kinds that the counters hold: ascending digits, empty when there is nothing to
-/// mark.
-std::string_view chiaveTipi(const ValoriContatori& valori);
+/// The counters of the total added up.
+double somma(const ValoriContatori& valori, Totale totale);
 
 /// Totals per index and category, 16-bit numbers.
 class TabellaTotali {
@@ -54,6 +65,7 @@ public:
 
     /// 0 for an index beyond the table. Throws SubscriptError for a category that is none.
     std::int16_t at(int indice, int categoria) const;
+    std::int16_t at(int indice, Totale totale) const { return at(indice, static_cast<int>(totale)); }
 
     int upperBound() const { return static_cast<int>(m_righe.size()) - 1; }
     const std::vector<Riga>& righe() const { return m_righe; }

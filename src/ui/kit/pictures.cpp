@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/pictures.h"
 
-#include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "ui/kit/text.h"
 
 #include <QPainter>
@@ -13,9 +13,6 @@
 namespace planner {
 
 namespace {
-
-constexpr std::array<std::string_view, TipiImpegno.size()> Drawings{"note", "impegni", "scadenze",
-                                                                    "pratiche"};
 
 std::unique_ptr<QSvgRenderer> loadDrawing(std::string_view name) {
     return std::make_unique<QSvgRenderer>(QStringLiteral(":/planner/") + fromUtf8(name) +
@@ -41,8 +38,8 @@ QPixmap transparent(QSize size, qreal devicePixelRatio) {
 } // namespace
 
 Pictures::Pictures() : m_presence(loadDrawing("presenza")) {
-    for (const std::string_view name : Drawings) {
-        m_corners.push_back(loadDrawing(name));
+    for (const DescrizioneTipo& tipo : TipiImpegno) {
+        m_corners.push_back(loadDrawing(tipo.disegno));
     }
 }
 

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/info_dialog.h"
 
-#include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/pictures.h"
 #include "ui/kit/plain_label.h"
+#include "ui/kit/text.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -21,13 +22,16 @@ struct VoceLegenda {
 };
 
 std::vector<VoceLegenda> legend() {
-    return {{Eval_imagedisplay("1"), QStringLiteral("Note riservate")},
-            {Eval_imagedisplay("2"), QStringLiteral("Impegni vari")},
-            {Eval_imagedisplay("3"), QStringLiteral("Scadenze")},
-            {Eval_imagedisplay("4"), QStringLiteral("Pratiche")},
-            {Eval_imagedisplay("1234"),
-             QStringLiteral("Più disegni insieme: più tipi di impegno nello stesso giorno")},
-            {ImmaginePresenza, QStringLiteral("Planner non dettagliato: nel giorno c'è almeno un impegno")}};
+    std::vector<VoceLegenda> entries;
+    for (const DescrizioneTipo& tipo : TipiImpegno) {
+        const QString name = fromUtf8(tipo.nome);
+        entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), name.left(1).toUpper() + name.mid(1)});
+    }
+    entries.push_back({Eval_imagedisplay(ChiaviImmagini.front()),
+                       QStringLiteral("Più disegni insieme: più tipi di impegno nello stesso giorno")});
+    entries.push_back(
+        {ImmaginePresenza, QStringLiteral("Planner non dettagliato: nel giorno c'è almeno un impegno")});
+    return entries;
 }
 
 /// The pictures are drawn for light cells, so they stand on one here too.

@@ -111,15 +111,5 @@ TEST(CalendarioTest, RefusesWhatIsNoDayAndKeepsTheOneItHas) {
     EXPECT_EQ(calendario.Value(), day(2006, 3, 5));
 }
 
-TEST(CalendarioTest, IsGivenBackOnItsDayWhenAWalkEnds) {
-    Calendario calendario;
-    calendario.setValue(day(2006, 3, 31));
-    {
-        const CalendarioSalvato saved(calendario);
-        calendario.setValue(day(2006, 2, 1));
-    }
-    EXPECT_EQ(calendario.Value(), day(2006, 3, 31));
-}
-
 } // namespace
 } // namespace planner::test

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "session/staff.h"
+#include "session/tipi_impegno.h"
 #include "support/planner_bench.h"
 
 #include <algorithm>

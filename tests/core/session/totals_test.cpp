@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "ports/runtime_errors.h"
-#include "session/totals.h"
+#include "session/tipi_impegno.h"
 #include "support/builders.h"
 
 #include <array>
@@ -13,6 +13,11 @@
 
 namespace planner::test {
 namespace {
+
+/// The picture key of the kinds that the counters hold.
+std::string_view chiaveTipi(const ValoriContatori& valori) {
+    return chiaveImmagine(immagineTipi(tipiPresenti(valori)));
+}
 
 TabellaTotali::Riga totalsOf(const RigaPlanner& riga) {
     TabellaTotali totals(0);

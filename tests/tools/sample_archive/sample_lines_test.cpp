@@ -4,7 +4,7 @@
 #include "sample_archive/sample_archive.h"
 #include "session/calendar_rules.h"
 #include "session/staff.h"
-#include "session/totals.h"
+#include "session/tipi_impegno.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ Data dayOfLine(const RigaPlanner& riga) {
 }
 
 std::string kinds(const RigaPlanner& riga) {
-    return std::string(chiaveTipi(valoriContatori(riga)));
+    return std::string(chiaveImmagine(immagineTipi(tipiPresenti(valoriContatori(riga)))));
 }
 
 int minuteOf(const RigaPlanner& riga) {

@@ -16,7 +16,7 @@ constexpr int RowHeight = 370;
 constexpr int NumberWidth = 750;
 
 std::size_t shownRow(const EtichettaTotale& etichetta, bool varianteRidotta) {
-    const bool movedUp = varianteRidotta && etichetta.pratiche;
+    const bool movedUp = varianteRidotta && etichetta.pratiche();
     return static_cast<std::size_t>(etichetta.riga - (movedUp ? 1 : 0));
 }
 
@@ -33,7 +33,7 @@ constexpr int SmallestGridHeight = 2700;
 
 bool totaleVisibile(const EtichettaTotale& etichetta, std::optional<TipoPlanner> tipo, bool varianteRidotta) {
     const bool rightPanel = tipo && etichetta.annuale == (*tipo == TipoPlanner::Annuale);
-    return rightPanel && !(varianteRidotta && etichetta.scadenze);
+    return rightPanel && !(varianteRidotta && etichetta.scadenze());
 }
 
 Rettangolo posizioneDidascalia(const EtichettaTotale& etichetta, bool varianteRidotta) {

@@ -4,6 +4,7 @@
 
 #include "engine/controls.h"
 #include "forms/plcal/geometry.h"
+#include "session/totals.h"
 
 #include <array>
 #include <string_view>
@@ -13,28 +14,38 @@ namespace planner {
 
 /// A total of the detail panel: a static caption and the label that shows the number.
 struct EtichettaTotale {
-    std::string_view nome;       // of the number's label
-    std::string_view didascalia; // shown beside it
-    bool annuale;                // of the yearly panel; else of the monthly and daily one
-    int colonna, riga;           // place in the panel, from 0
-    bool scadenze;               // hidden in the window variant "B"
-    bool pratiche;               // moved up to the deadlines' row in that variant
+    std::string_view nome;        // of the number's label
+    std::string_view didascalia;  // shown beside it
+    bool annuale;                 // of the yearly panel; else of the monthly and daily one
+    int colonna, riga;            // place in the panel, from 0
+    Totale totale;                // that the number is
+    std::string_view nomeInFrase; // of the yearly ones
+
+    /// Hidden in the window variant "B".
+    constexpr bool scadenze() const {
+        return totale == Totale::scadenze || totale == Totale::scadenzeConcluse;
+    }
+    /// Moved up to the deadlines' row in that variant.
+    constexpr bool pratiche() const {
+        return totale == Totale::pratiche || totale == Totale::praticheConcluse;
+    }
 };
 
 inline constexpr std::array EtichetteTotali{
-    EtichettaTotale{"Lblscad", "Scadenze", false, 0, 0, true, false},
-    EtichettaTotale{"Lblscadeva", "di cui concluse", false, 1, 0, true, false},
-    EtichettaTotale{"lblpra", "Pratiche", false, 0, 1, false, true},
-    EtichettaTotale{"Lblpraeva", "di cui concluse", false, 1, 1, false, true},
-    EtichettaTotale{"lblpers", "Impegni vari", false, 2, 0, false, false},
-    EtichettaTotale{"Lblnotes", "Note riservate", false, 2, 1, false, false},
-    EtichettaTotale{"scad", "Scadenze", true, 0, 0, true, false},
-    EtichettaTotale{"scaev", "di cui concluse", true, 1, 0, true, false},
-    EtichettaTotale{"prat", "Pratiche", true, 0, 1, false, true},
-    EtichettaTotale{"praev", "di cui concluse", true, 1, 1, false, true},
-    EtichettaTotale{"nriv", "Note riservate", true, 2, 0, false, false},
-    EtichettaTotale{"bnot", "Block Notes", true, 0, 2, false, false},
-    EtichettaTotale{"blkev", "di cui conclusi", true, 1, 2, false, false},
+    EtichettaTotale{"Lblscad", "Scadenze", false, 0, 0, Totale::scadenze, {}},
+    EtichettaTotale{"Lblscadeva", "di cui concluse", false, 1, 0, Totale::scadenzeConcluse, {}},
+    EtichettaTotale{"lblpra", "Pratiche", false, 0, 1, Totale::pratiche, {}},
+    EtichettaTotale{"Lblpraeva", "di cui concluse", false, 1, 1, Totale::praticheConcluse, {}},
+    EtichettaTotale{"lblpers", "Impegni vari", false, 2, 0, Totale::impegniVari, {}},
+    EtichettaTotale{"Lblnotes", "Note riservate", false, 2, 1, Totale::noteRiservate, {}},
+    EtichettaTotale{"scad", "Scadenze", true, 0, 0, Totale::scadenze, "scadenze"},
+    EtichettaTotale{"scaev", "di cui concluse", true, 1, 0, Totale::scadenzeConcluse, "scadenze concluse"},
+    EtichettaTotale{"prat", "Pratiche", true, 0, 1, Totale::pratiche, "pratiche"},
+    EtichettaTotale{"praev", "di cui concluse", true, 1, 1, Totale::praticheConcluse, "pratiche concluse"},
+    // A day's counters 8, 7 and 11 have other names than those of an appointment.
+    EtichettaTotale{"nriv", "Note riservate", true, 2, 0, Totale::impegniVari, "note riservate"},
+    EtichettaTotale{"bnot", "Block Notes", true, 0, 2, Totale::noteRiservate, "block notes"},
+    EtichettaTotale{"blkev", "di cui conclusi", true, 1, 2, Totale::altro, "block notes conclusi"},
 };
 
 /// True when the panel of the kind and window variant shows the total at all.

@@ -8,25 +8,13 @@
 
 namespace planner {
 
-namespace {
-
-std::size_t placeOf(std::string_view nome) {
+const StatoEtichetta& PannelloDettagli::operator[](std::string_view nome) const {
     for (std::size_t i = 0; i < EtichetteTotali.size(); ++i) {
         if (EtichetteTotali[i].nome == nome) {
-            return i;
+            return totali[i];
         }
     }
     throw SubscriptError();
-}
-
-} // namespace
-
-StatoEtichetta& PannelloDettagli::operator[](std::string_view nome) {
-    return totali[placeOf(nome)];
-}
-
-const StatoEtichetta& PannelloDettagli::operator[](std::string_view nome) const {
-    return totali[placeOf(nome)];
 }
 
 void PannelloDettagli::nascondiTotali() {
@@ -39,10 +27,19 @@ void PannelloDettagli::nascondiTotali() {
     }
 }
 
-void PannelloDettagli::svuotaAnnuali() {
+void PannelloDettagli::mostraTotali(const TabellaTotali& tabella, int indice, bool varianteRidotta) {
+    for (std::size_t i = 0; i < totali.size(); ++i) {
+        const EtichettaTotale& etichetta = EtichetteTotali[i];
+        if (!etichetta.annuale && !(etichetta.scadenze() && varianteRidotta)) {
+            totali[i] = {formatoTotale(tabella.at(indice, etichetta.totale)), /*visibile=*/true};
+        }
+    }
+}
+
+void PannelloDettagli::mostraGiorno(const ValoriContatori& valori) {
     for (std::size_t i = 0; i < totali.size(); ++i) {
         if (EtichetteTotali[i].annuale) {
-            totali[i] = {{}, /*visibile=*/true};
+            totali[i] = {formatoTotale(somma(valori, EtichetteTotali[i].totale)), /*visibile=*/true};
         }
     }
 }

@@ -22,13 +22,15 @@ struct PannelloDettagli {
     std::array<StatoEtichetta, EtichetteTotali.size()> totali;
 
     /// The label of the given name. Throws SubscriptError when there is none.
-    StatoEtichetta& operator[](std::string_view nome);
     const StatoEtichetta& operator[](std::string_view nome) const;
 
+    /// Shows the totals of the staff member with the index, deadlines only where the window has them.
+    void mostraTotali(const TabellaTotali& tabella, int indice, bool varianteRidotta);
     /// Empties and hides the labels of the monthly and daily panel.
     void nascondiTotali();
-    /// Empties the labels of the yearly panel, which stay in sight.
-    void svuotaAnnuali();
+    /// Shows a day's totals in the yearly panel, which stays in sight.
+    void mostraGiorno(const ValoriContatori& valori);
+    void svuotaAnnuali() { mostraGiorno({}); }
 };
 
 /// A number written with the format "####": rounded, digits only, nothing for 0.

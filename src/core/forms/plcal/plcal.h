@@ -97,7 +97,6 @@ private:
     void flxa_SelChange(int riga, int colonna);
     void selectStaff(Griglia& griglia);
     void setStaff(int indice);
-    void showTotals(int indice);
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();

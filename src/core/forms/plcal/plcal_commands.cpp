@@ -12,8 +12,7 @@ namespace planner {
 
 namespace {
 
-/// Kinds of entries as bits: digits 3 and 4 of the picture keys.
-constexpr unsigned ScadenzeOPratiche = 1U << 2 | 1U << 3;
+constexpr unsigned ScadenzeOPratiche = insieme(TipoImpegno::scadenze) | insieme(TipoImpegno::pratiche);
 
 /// True when some cell of the staff member's row has one of the kinds.
 bool rowShows(const Griglia& griglia, int indice, unsigned tipi) {
@@ -80,8 +79,9 @@ bool plcal::canConsult() const {
         return false;
     }
     const TabellaTotali& totals = m_sessione.TotaliImpegni;
-    return totals.contiene(indice) ? totals.at(indice, 0) >= 1 || totals.at(indice, 1) >= 1
-                                   : rowShows(*m_controlli.grigliaVisibile(), indice, ScadenzeOPratiche);
+    return totals.contiene(indice)
+               ? totals.at(indice, Totale::scadenze) >= 1 || totals.at(indice, Totale::pratiche) >= 1
+               : rowShows(*m_controlli.grigliaVisibile(), indice, ScadenzeOPratiche);
 }
 
 void plcal::insimp() {

@@ -11,20 +11,6 @@
 
 namespace planner {
 
-namespace {
-
-/// The labels of the monthly and daily panel, and the category of totals that each shows.
-struct EtichettaCategoria {
-    std::string_view etichetta;
-    int categoria;
-};
-constexpr std::array EtichetteCategorie{
-    EtichettaCategoria{"Lblscad", 0},    EtichettaCategoria{"lblpra", 1},
-    EtichettaCategoria{"lblpers", 2},    EtichettaCategoria{"Lblnotes", 3},
-    EtichettaCategoria{"Lblscadeva", 4}, EtichettaCategoria{"Lblpraeva", 5}};
-
-} // namespace
-
 void plcal::griglia_Gesto(const Gesto& gesto) {
     const auto luogo = luogoDi(m_controlli, gesto.riga, gesto.colonna);
     const EffettoGesto* effetto = luogo ? effettoGesto(*m_controlli.tipoVisibile, *luogo) : nullptr;
@@ -88,7 +74,7 @@ void plcal::selectStaff(Griglia& griglia) {
     griglia.evidenzia(griglia.Row());
     m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
     m_pannello.lblcollabVisibile = true;
-    showTotals(indice);
+    m_pannello.mostraTotali(m_sessione.TotaliImpegni, indice, m_sessione.varianteRidotta());
 }
 
 void plcal::setStaff(int indice) {
@@ -101,24 +87,11 @@ void plcal::setStaff(int indice) {
     }
 }
 
-void plcal::showTotals(int indice) {
-    for (const EtichettaCategoria& shown : EtichetteCategorie) {
-        const bool deadlines = shown.categoria == 0 || shown.categoria == 4;
-        if (!(deadlines && m_sessione.varianteRidotta())) {
-            m_pannello[shown.etichetta] = {
-                formatoTotale(m_sessione.TotaliImpegni.at(indice, shown.categoria)), /*visibile=*/true};
-        }
-    }
-}
-
 void plcal::flxa_SelChange(int riga, int colonna) {
-    m_pannello.svuotaAnnuali();
+    m_pannello.mostraGiorno(valoriGiorno(m_sessione.archivi, riga, colonna));
     if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
         m_controlli.flxa.scegliNessuna(); // what is marked is the day whose totals are shown
         return;
-    }
-    for (const TotaleGiorno& totale : totaliGiorno(m_sessione.archivi, riga, colonna)) {
-        m_pannello[totale.campo->etichetta].testo = formatoTotale(totale.valore);
     }
     m_controlli.flxa.scegli(riga, colonna);
 }

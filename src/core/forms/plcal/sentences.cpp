@@ -18,9 +18,6 @@ namespace {
 constexpr std::array<std::string_view, 7> NomiGiorni{"domenica", "lunedì",  "martedì", "mercoledì",
                                                      "giovedì",  "venerdì", "sabato"};
 
-/// The kinds in the order in which sentences name them, by their digit in a picture key.
-constexpr std::array OrdineTipi{'3', '4', '2', '1'};
-
 std::string lowerFirst(std::string_view text) {
     std::string lower(text);
     lower.front() = static_cast<char>(lower.front() - 'A' + 'a');
@@ -37,10 +34,9 @@ std::string join(const std::vector<std::string>& parts) {
 
 std::string kindsPresent(const Cella& cella) {
     std::vector<std::string> names;
-    for (const char digit : OrdineTipi) {
-        const auto kind = static_cast<std::size_t>(digit - '1');
-        if ((cella.tipi >> kind & 1U) != 0) {
-            names.emplace_back(TipiImpegno.at(kind).nome);
+    for (const TipoImpegno tipo : OrdineTipi) {
+        if ((cella.tipi & insieme(tipo)) != 0) {
+            names.emplace_back(descrizione(tipo).nome);
         }
     }
     return join(names);
@@ -87,10 +83,12 @@ std::string yearlySentence(const ControlliPlcal& controlli, const modpl& session
     if (!day) {
         return {};
     }
+    const ValoriContatori valori = valoriGiorno(sessione.archivi, riga, colonna);
     std::vector<std::string> totals;
-    for (const TotaleGiorno& totale : totaliGiorno(sessione.archivi, riga, colonna)) {
-        if (!formatoTotale(totale.valore).empty()) {
-            totals.push_back(std::string(totale.campo->nome) + " " + formatoTotale(totale.valore));
+    for (const EtichettaTotale& etichetta : EtichetteTotali) {
+        const std::string number = formatoTotale(somma(valori, etichetta.totale));
+        if (etichetta.annuale && !number.empty()) {
+            totals.push_back(std::string(etichetta.nomeInFrase) + " " + number);
         }
     }
     return withDetails(dataEstesa(*day), join(totals));

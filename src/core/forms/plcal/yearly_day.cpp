@@ -26,28 +26,19 @@ CellaAnnuale cellOf(const Archivi& archivi, int riga, int colonna) {
     return {mese.segni[cell], mese.testi[cell]};
 }
 
-double numberAt(const FixedText<44>& testo, std::int8_t place) {
-    return place < 0 ? 0
-                     : numericValue(
-                           slice(testo.view(), static_cast<std::size_t>(place) * NumberLength, NumberLength));
-}
-
 } // namespace
 
 bool giornoSegnato(const Archivi& archivi, int riga, int colonna) {
     return cellOf(archivi, riga, colonna).segno.view() == "*";
 }
 
-std::array<TotaleGiorno, CampiAnnuali.size()> totaliGiorno(const Archivi& archivi, int riga, int colonna) {
+ValoriContatori valoriGiorno(const Archivi& archivi, int riga, int colonna) {
     const CellaAnnuale cell = cellOf(archivi, riga, colonna);
-    const bool marked = cell.segno.view() == "*";
-    std::array<TotaleGiorno, CampiAnnuali.size()> totals{};
-    for (std::size_t i = 0; i < CampiAnnuali.size(); ++i) {
-        const auto& [first, second] = CampiAnnuali[i].numeri;
-        totals[i] = {&CampiAnnuali[i],
-                     marked ? numberAt(cell.testo, first) + numberAt(cell.testo, second) : 0};
+    ValoriContatori valori{};
+    for (std::size_t i = 1; cell.segno.view() == "*" && i < valori.size(); ++i) {
+        valori[i] = numericValue(slice(cell.testo.view(), (i - 1) * NumberLength, NumberLength));
     }
-    return totals;
+    return valori;
 }
 
 } // namespace planner
