@@ -105,10 +105,13 @@ TEST_F(KeptWindowTest, ASelectionOfItsOwnMarksOneRow) {
 }
 
 TEST_F(KeptWindowTest, TheYearlyGridHasNoMarkAndNoTotals) {
-    bench.putAnnuale(annoPlanner("2006", {{3, 10}}));
+    auto mesi = annoPlanner("2006", {{3, 10}});
+    mesi[2].testi[9].assign("   1   2   3   4   5   6   7   8   9  10  11");
+    bench.putAnnuale(mesi);
     open("A");
     gesto(3, 10);
     ASSERT_THAT(marked(), testing::ElementsAre("3,10"));
+    ASSERT_NE(form.pannello()["scad"].testo, "");
     next("A", "20060420");
     EXPECT_THAT(marked(), IsEmpty());
     expectNoTotals();
