@@ -45,14 +45,14 @@ void plcal::griglia_Gesto(const Gesto& gesto) {
 }
 
 void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    const Griglia::LockWindowUpdate lock(griglia);
+    const Griglia::LockWindowUpdate lock(griglia());
     if (effetto.giorno) {
-        const bool moved = effetto.tipo == TipoPlanner::Annuale && gesto.mezzo == Mezzo::frecce;
+        const bool moved = !tipo().perCollaboratore && gesto.mezzo == Mezzo::frecce;
         moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia.setCurrent(gesto.riga, onName ? colonnaDelNome() : gesto.colonna);
+    griglia().setCurrent(gesto.riga,
+                         onName ? tipo().colonnaGiorno(m_controlli, griglia().Col()) : gesto.colonna);
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
@@ -70,29 +70,29 @@ void plcal::flxa_RowColChange(int riga, int colonna) {
 }
 
 void plcal::SelChange(Scelta scelta) {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
     if (scelta == Scelta::totaliGiorno) {
-        flxa_SelChange(griglia.Row(), griglia.Col());
+        flxa_SelChange(griglia().Row(), griglia().Col());
         return;
     }
     m_pannello.nascondiTotali();
-    if (scelta == Scelta::collaboratore && !trimRight(griglia.TextMatrix(griglia.Row(), 0)).empty()) {
-        selectStaff(griglia);
+    if (scelta == Scelta::collaboratore && !trimRight(griglia().TextMatrix(griglia().Row(), 0)).empty()) {
+        selectStaff();
     }
     markShownCell();
 }
 
-void plcal::selectStaff(Griglia& griglia) {
-    const int indice = griglia.Row() - griglia.FixedRows();
+void plcal::selectStaff() {
+    const int riga = griglia().Row();
+    const int indice = riga - griglia().FixedRows();
     setStaff(indice);
-    m_marks.highlight(griglia, griglia.Row());
-    m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
+    m_marks.highlight(griglia(), riga);
+    m_pannello.lblcollab = "Impegni di " + std::string(griglia().TextMatrix(riga, 0));
     m_pannello.lblcollabVisibile = true;
     showTotals(indice);
 }
 
 void plcal::setStaff(int indice) {
-    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+    if (!tipo().unGiorno) {
         m_sessione.IndiceCollab = roundTo16Bit(indice);
     }
     const auto& staff = m_sessione.archivi.Collaboratori;
@@ -124,45 +124,29 @@ void plcal::flxa_SelChange(int riga, int colonna) {
 }
 
 void plcal::markShownCell() {
-    if (!m_marks.EvidenziazioneAttiva()) {
-        return;
-    }
-    Griglia& griglia = *m_controlli.grigliaVisibile();
     const int riga = m_marks.RigaEvidenziata();
-    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        m_marks.highlight(griglia, riga); // gives the cell marked before the row's colour
-        m_marks.markCell(griglia, riga, colonnaGiornoMostrato(m_controlli));
-    } else if (griglia.Row() == riga) {
-        m_marks.highlight(griglia, riga);
-        m_marks.markCell(griglia, riga, griglia.Col());
+    if (m_marks.EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
+        m_marks.highlight(griglia(), riga); // gives the cell marked before the row's colour
+        m_marks.markCell(griglia(), riga, tipo().colonnaGiorno(m_controlli, griglia().Col()));
     }
-}
-
-int plcal::colonnaDelNome() const {
-    return m_controlli.tipoVisibile == TipoPlanner::Mensile ? colonnaGiornoMostrato(m_controlli)
-                                                            : m_controlli.flxg.Col();
 }
 
 void plcal::describeCurrentCell() {
-    const Griglia& griglia = *m_controlli.grigliaVisibile();
-    m_stato = fraseCella(m_controlli, m_sessione, *m_controlli.tipoVisibile, griglia.Row(), griglia.Col());
+    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().Row(), griglia().Col());
 }
 
 int plcal::rigaCursore() const {
-    const Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int wanted = m_marks.EvidenziazioneAttiva()    ? m_marks.RigaEvidenziata()
-                       : m_sessione.IndiceRichiesto >= 0 ? griglia.FixedRows() + m_sessione.IndiceRichiesto
-                                                         : griglia.FixedRows();
-    return std::clamp(wanted, griglia.FixedRows(), griglia.Rows() - 1);
+    const int first = griglia().FixedRows();
+    const int wanted = !tipo().perCollaboratore          ? m_controlli.calendario.Month()
+                       : m_marks.EvidenziazioneAttiva()  ? m_marks.RigaEvidenziata()
+                       : m_sessione.IndiceRichiesto >= 0 ? first + m_sessione.IndiceRichiesto
+                                                         : first;
+    return std::clamp(wanted, first, griglia().Rows() - 1);
 }
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
-    if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
-        m_controlli.flxg.setCurrent(rigaCursore(), colonnaGiornaliera);
-    } else if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        m_controlli.Flxm.setCurrent(rigaCursore(), colonnaGiornoMostrato(m_controlli));
-    } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
-        m_controlli.flxa.setCurrent(m_controlli.calendario.Month(), colonnaGiornoMostrato(m_controlli));
+    if (m_controlli.tipoVisibile) {
+        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli, colonnaGiornaliera));
     }
 }
 
@@ -170,10 +154,9 @@ void plcal::restoreMarks() {
     if (!m_marks.EvidenziazioneAttiva()) {
         return;
     }
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int riga = std::min(m_marks.RigaEvidenziata(), griglia.Rows() - 1);
+    const int riga = std::min(m_marks.RigaEvidenziata(), griglia().Rows() - 1);
     m_marks.forget();
-    m_marks.highlight(griglia, riga);
+    m_marks.highlight(griglia(), riga);
     markShownCell();
 }
 
