@@ -64,7 +64,7 @@ FillWork::FillWork(const ArchiveFolder& folder)
     : m_quiet(std::make_unique<Quiet>()),
       m_engine({m_session, m_controls, *m_quiet, m_files, *m_quiet, *m_quiet, *m_quiet}) {
     m_session.PathArchivi = folder.path();
-    m_session.DataSessione = shownDay();
+    m_controls.calendario.setValue(shownDay());
     if (!m_engine.LeggiCollab()) {
         throw std::runtime_error("cannot read the staff in " + folder.path());
     }

@@ -15,7 +15,6 @@ void makeSample(const std::string& folder, int staff, int records) {
 
 SamplePlanner::SamplePlanner(const std::string& folder) {
     m_sessione.PathArchivi = folder;
-    m_sessione.tipoplanner = "M";
 }
 
 std::unique_ptr<clsplg> SamplePlanner::newEngine() {

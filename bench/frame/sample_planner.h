@@ -32,8 +32,8 @@ private:
     QtEventPump m_eventi;
     modpl m_sessione;
     ControlliPlcal m_controlli;
-    PlannerWindows m_finestre{m_sessione, m_controlli, m_messaggi, m_orologio,
-                              [this] { return newEngine(); }};
+    Contenuti m_contenuti{{m_sessione, m_controlli, m_files, m_messaggi, m_orologio}};
+    PlannerWindows m_finestre{m_sessione, m_controlli, m_contenuti, m_messaggi};
 };
 
 } // namespace planner

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "engine/clsplg.h"
 #include "host/ftavtrmpl.h"
 #include "host/mtavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
@@ -11,8 +12,6 @@
 #include "ui/ports/qt_event_pump.h"
 #include "ui/ports/qt_message_boxes.h"
 #include "ui/ports/qt_periodic_timer.h"
-
-#include <QTimer>
 
 #include <span>
 
@@ -30,16 +29,13 @@ std::string joinArguments(std::span<char*> arguments) {
 }
 
 int runPolling(mtavtrmpl& collegamento, FileSystem& files) {
-    Seguito seguito = Seguito::Continua;
-    std::function<void()> tick = [] {};
-    QtPeriodicTimer Timer1([&tick] { tick(); });
+    QtPeriodicTimer Timer1;
     Ftavtrmpl form(collegamento, files, Timer1);
-    tick = [&] {
-        seguito = form.Timer1_Timer();
-        if (seguito == Seguito::Termina) {
+    Timer1.onTick([&form] {
+        if (form.Timer1_Timer() == Seguito::Termina) {
             QCoreApplication::quit();
         }
-    };
+    });
     return form.Form_Load() == Seguito::Continua ? QCoreApplication::exec() : 0;
 }
 
@@ -63,15 +59,14 @@ int main(int argc, char* argv[]) {
 
     modpl sessione;
     ControlliPlcal controlli;
-    std::function<std::unique_ptr<clsplg>()> newEngine;
-    PlannerWindows finestre(sessione, controlli, messaggi, orologio, [&newEngine] { return newEngine(); });
-    newEngine = [&] {
-        return std::make_unique<clsplg>(
-            Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});
-    };
+    Contenuti contenuti({sessione, controlli, files, messaggi, orologio});
+    PlannerWindows finestre(sessione, controlli, contenuti, messaggi);
 
     const RigaComando riga = parseCommandLine(line);
-    mtavtrmpl collegamento(riga, {files, messaggi, eventi, ipc}, [&newEngine] { return newEngine(); });
+    mtavtrmpl collegamento(riga, {files, messaggi, eventi, ipc}, [&] {
+        return std::make_unique<clsplg>(
+            Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});
+    });
     if (riga.polling()) {
         return runPolling(collegamento, files);
     }

@@ -8,13 +8,12 @@
 
 namespace planner {
 
-PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi,
-                               const Clock& orologio, plcal::FabbricaMotore fabbrica)
+PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti,
+                               MessageBoxes& messaggi)
     : vista(sessione, controlli), finestraGrafici(messaggi),
       collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
-      finestra(sessione, controlli,
-               {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici, orologio},
-               std::move(fabbrica)) {
+      finestra(sessione, controlli, contenuti,
+               {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici}) {
     fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);

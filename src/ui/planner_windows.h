@@ -13,8 +13,7 @@ namespace planner {
 
 /// All windows of the planner, wired to each other over one session.
 struct PlannerWindows {
-    PlannerWindows(modpl& sessione, ControlliPlcal& controlli, MessageBoxes& messaggi, const Clock& orologio,
-                   plcal::FabbricaMotore fabbrica);
+    PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, MessageBoxes& messaggi);
 
     PlcalWindow vista;
     PlfimpDialog finestraImpegno;

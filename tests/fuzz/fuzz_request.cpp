@@ -63,8 +63,7 @@ private:
         const std::string_view valret = record.valret.view();
         require(parseDate(valret.substr(0, 8)).has_value(), "the answer names a day");
         require(valret.substr(8, 2) == record.collab.view(), "the answer repeats the staff code");
-        require(std::any_of(AzioniRisposta.begin(), AzioniRisposta.end(),
-                            [&](const AzioneRisposta& azione) { return azione.lettera == record.azione(); }),
+        require(std::string_view("EFACDIPST ").find(record.azione()) != std::string_view::npos,
                 "the answer ends with an action letter");
     }
 

@@ -13,7 +13,6 @@ PlannerBench::PlannerBench() {
 
 void PlannerBench::init(std::string_view tipo, std::string_view giorno, std::string_view startdate,
                         std::string_view enddate, std::string_view collab) {
-    sessione.tipoplanner = tipo;
     sessione.PathArchivi = Cartella;
     motore.Init_planner(std::string(tipo) + std::string(giorno), std::string(startdate), std::string(enddate),
                         std::string(collab));

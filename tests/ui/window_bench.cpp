@@ -17,7 +17,6 @@ void WindowBench::open(std::string_view tipo, std::string_view giorno, std::stri
 
 void WindowBench::openPeriod(std::string_view tipo, std::string_view giorno, std::string_view inizio,
                              std::string_view fine, std::string_view windowcaption) {
-    base.sessione.tipoplanner = tipo;
     base.sessione.PathArchivi = PlannerBench::Cartella;
     base.sessione.ModoFinestra = windowcaption.substr(0, 1);
     base.sessione.FlagFinestra = windowcaption.substr(windowcaption.size() - 1);

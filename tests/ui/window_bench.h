@@ -13,8 +13,7 @@ namespace planner::test {
 /// The real planner window over archives in memory: what `main` wires, without host and transit file.
 struct WindowBench {
     PlannerBench base;
-    PlannerWindows finestre{base.sessione, base.controlli, base.messaggi, base.orologio,
-                            [this] { return newEngine(); }};
+    PlannerWindows finestre{base.sessione, base.controlli, base.motore, base.messaggi};
     PlcalWindow& vista = finestre.vista;
     plcal& finestra = finestre.finestra;
 

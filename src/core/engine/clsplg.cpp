@@ -41,24 +41,24 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
                       const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                       std::string& valret, std::string& Windowcaption, std::string& planrichiesto) {
     openSession(blanksForNuls(Windowcaption), PathArchivi);
-    m.sessione.tipoplanner = blanksForNuls(tipoplanner);
     m.sessione.tipocall = blanksForNuls(tipocall);
     m.sessione.planrichiesto = blanksForNuls(planrichiesto);
-    Init_planner(m.sessione.tipoplanner + blanksForNuls(std::string(slice(valret, 0, 8))),
-                 blanksForNuls(startdate), blanksForNuls(enddate), blanksForNuls(collab));
+    setUp(blanksForNuls(tipoplanner),
+          {blanksForNuls(std::string(slice(valret, 0, 8))), blanksForNuls(startdate), blanksForNuls(enddate)},
+          blanksForNuls(collab));
     m.controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
     m.controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
-    m.finestra.show();
-    m.finestra.bringToFront();
+    m_finestra.show();
+    m_finestra.bringToFront();
     while (!m.sessione.FinePlanner) {
-        m.eventi.waitAndProcess();
+        m_eventi.waitAndProcess();
     }
     collab = m.sessione.collab;
     valret = m.sessione.valret;
     if (m.sessione.risposta('E') || m.sessione.risposta('F')) {
-        m.finestra.hide();
+        m_finestra.hide();
     } else {
-        m.finestra.unload();
+        m_finestra.unload();
     }
 }
 
@@ -75,126 +75,51 @@ void clsplg::openSession(const std::string& Windowcaption, const std::string& Pa
 }
 
 void clsplg::WUscita() {
-    m.finestra.unload();
+    m_finestra.unload();
 }
 
 void clsplg::Init_planner(const std::string& chiave, const std::string& startdate, const std::string& enddate,
                           const std::string& collab) {
-    m.finestra.load();
-    m.controlli.tipoVisibile = tipoPlanner(slice(chiave, 0, 1));
-    const DateRichiesta dates = readRequestDates(
-        m.controlli.tipoVisibile, {slice(chiave, 1, 8), startdate, enddate}, m.orologio.today(), m.messaggi);
-    m.sessione.DataSessione = dates.mostrata;
-    m.sessione.periodo.setInizio(dates.inizio);
-    m.sessione.periodo.setFine(dates.fine);
+    setUp(slice(chiave, 0, 1), {slice(chiave, 1, 8), startdate, enddate}, collab);
+}
+
+void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const std::string& collab) {
+    m_finestra.load();
+    m.controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
+    const DateRichiesta dates =
+        readRequestDates(m.controlli.tipoVisibile, date, m.orologio.today(), m.messaggi);
+    m.controlli.calendario.setValue(dates.mostrata);
+    m.sessione.periodo = dates.periodo;
     setToolbarForKind();
     LeggiCollab();
     m.sessione.IndiceRichiesto =
         trim(collab).empty() ? std::int16_t{-1} : m.sessione.indiceCodici.trova(collab);
-    runCommand(m.messaggi, [&] { prepareKind(collab); });
+    runCommand(m.messaggi, [&] { fillForKind(tipoplanner, collab); });
 }
 
-void clsplg::prepareKind(const std::string& collab) {
+void clsplg::fillForKind(std::string_view tipoplanner, const std::string& collab) {
     if (!m.controlli.tipoVisibile) {
-        m.messaggi.critical("Richiesta non valida: il tipo di planner \"" +
-                            utf8FromCp1252(m.sessione.tipoplanner) + "\" non è M, G o A.");
-        m.controlli.calendario.setValue(m.sessione.DataSessione);
+        m.messaggi.critical("Richiesta non valida: il tipo di planner \"" + utf8FromCp1252(tipoplanner) +
+                            "\" non è M, G o A.");
         m.controlli.Caption = ControlliPlcal::CaptionIniziale;
         m.controlli.lbldescr.clear();
         return;
     }
-    switch (*m.controlli.tipoVisibile) {
-    case TipoPlanner::Mensile:
-        prepareMonthly();
-        break;
-    case TipoPlanner::Giornaliero:
-        prepareDaily();
-        break;
-    case TipoPlanner::Annuale:
-        prepareYearly();
-        break;
-    }
-    Let_planner(collab);
+    prepara(collab);
     m.sessione.CalendarioAttivo = true;
 }
 
-void clsplg::prepareMonthly() {
-    LeggiDati();
-    m.controlli.Caption = "Planner Mensile";
-    m.controlli.calendario.setValue(m.sessione.DataSessione);
-    m.controlli.Flxm.setCols(ColonneGiorni + 1);
-    PulisciGrid1();
-    Dayofweek();
-    showgrid();
-    PopolaGrid1();
-}
-
-void clsplg::prepareDaily() {
-    LeggiDati();
-    m.controlli.Caption = "Planner Giornaliero";
-    m.controlli.calendario.setValue(m.sessione.DataSessione);
-    m.controlli.flxg.setCols(ColonneQuarti + 1);
-    PulisciGrid2();
-    showgrid2();
-    PopolaGrid2();
-}
-
-void clsplg::prepareYearly() {
-    LeggiDatiAnnuali();
-    m.controlli.Caption = "Planner Annuale";
-    m.controlli.calendario.setValue(m.sessione.DataSessione);
-    m.controlli.flxa.setCols(ColonneGiorni + 1);
-    PulisciGrid3();
-    showgrid3();
-    PopolaGrid3();
-}
-
 void clsplg::setToolbarForKind() {
-    const auto tipo = m.controlli.tipoVisibile;
-    const bool dettagliato = tipo != TipoPlanner::Mensile || m.sessione.ModoFinestra != "N";
+    const RegoleTipo* tipo = regoleVisibili(m.controlli);
+    const bool dettagliato = tipo == nullptr || tipo->dettagliato(m.sessione.ModoFinestra);
     StatoToolbar& toolbar = m.controlli.Toolbar1;
     toolbar.reset(dettagliato);
     m.sessione.LivelloDettaglio = dettagliato ? 4 : 1;
-    if (tipo == TipoPlanner::Annuale || !tipo) {
+    if (tipo == nullptr || !tipo->perCollaboratore) {
         for (const Pulsante pulsante : {Pulsante::dettno, Pulsante::dettsi, Pulsante::coll}) {
             toolbar.setEnabled(pulsante, false);
         }
     }
-}
-
-void clsplg::Let_planner(const std::string& collab) {
-    if (!m.controlli.tipoVisibile) {
-        return;
-    }
-    switch (*m.controlli.tipoVisibile) {
-    case TipoPlanner::Mensile:
-        m.controlli.lbldescr = monthlyTitle();
-        break;
-    case TipoPlanner::Giornaliero:
-        m.controlli.lbldescr = dailyTitle();
-        break;
-    case TipoPlanner::Annuale:
-        m.controlli.lbldescr = yearlyTitle(collab);
-        break;
-    }
-}
-
-std::string clsplg::monthlyTitle() const {
-    const Calendario& calendario = m.controlli.calendario;
-    return "Mese di " + std::string(nomeMese(calendario.Month())) + " " + std::to_string(calendario.Year());
-}
-
-std::string clsplg::dailyTitle() const {
-    const auto day = [](Data data) {
-        return std::to_string(dayOf(data)) + " " + std::string(nomeMese(monthOf(data))) + " " +
-               std::to_string(yearOf(data));
-    };
-    return "Dal " + day(m.sessione.periodo.inizio()) + " al " + day(m.sessione.periodo.fine());
-}
-
-std::string clsplg::yearlyTitle(const std::string& collab) const {
-    const std::string year = "Anno " + m.sessione.periodo.AnnoInizio;
-    return m.sessione.ModoFinestra == "N" ? year : year + " Impegni di: " + EstraiCollaboratore(collab);
 }
 
 } // namespace planner

@@ -2,17 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/controls.h"
+#include "engine/contenuti.h"
 #include "engine/motore.h"
-#include "engine/staff_list.h"
-#include "ports/clock.h"
 #include "ports/event_pump.h"
-#include "ports/file_system.h"
-#include "ports/message_boxes.h"
 #include "ports/planner_window.h"
-#include "session/modpl.h"
 
 namespace planner {
+
+struct DateInArrivo;
 
 /// What the engine works with; `main` wires it.
 struct Ambiente {
@@ -25,11 +22,12 @@ struct Ambiente {
     const Clock& orologio;
 };
 
-/// The planner engine: serves a request, reads the archives, and lays out, fills and clears the grids. All
-/// state is in the session and in the window's controls, so that any number of engines may share them.
-class clsplg : public Motore {
+/// The planner engine: over what fills the window's contents, all that lives as long as a request.
+class clsplg : public Contenuti, public Motore {
 public:
-    explicit clsplg(const Ambiente& ambiente) : m(ambiente) {}
+    explicit clsplg(const Ambiente& a)
+        : Contenuti({a.sessione, a.controlli, a.files, a.messaggi, a.orologio}), m_finestra(a.finestra),
+          m_eventi(a.eventi) {}
 
     void WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
                   const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
@@ -43,53 +41,14 @@ public:
     void Init_planner(const std::string& chiave, const std::string& startdate, const std::string& enddate,
                       const std::string& collab);
 
-    /// Writes the title label for the period that the calendar shows.
-    void Let_planner(const std::string& collab = {});
-
-    /// Readers: a failure is shown in a message box (LeggiCollab: returned as false) and the tables keep what
-    /// they have.
-    void LeggiDati();
-    void LeggiDatiAnnuali();
-    bool LeggiCollab();
-    void LeggiDatiPerGrafici();
-
-    /// Fills the selection list: one row per staff member, in the order of the archive, none checked, none
-    /// selected, not sorted.
-    void PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const;
-
-    /// Weekday of the first day of the shown month, into the session.
-    void Dayofweek();
-
-    /// The grids of the three kinds: layout, fill, clear. A fill that had to leave records out says so once.
-    void showgrid();
-    void showgrid2();
-    void showgrid3();
-    void PopolaGrid1();
-    void PopolaGrid2();
-    void PopolaGrid3();
-    void PulisciGrid1();
-    void PulisciGrid2();
-    void PulisciGrid3();
-
-    /// Look-ups in the staff table; see engine/session/staff.h.
-    std::int16_t IndCollaboratore(std::string_view codice) const;
-    std::string EstraiCollaboratore(std::string_view codice) const;
-
 private:
     void openSession(const std::string& Windowcaption, const std::string& PathArchivi);
-    void prepareMonthly();
-    void prepareDaily();
-    void prepareYearly();
-    void prepareKind(const std::string& collab);
+    void setUp(std::string_view tipoplanner, const DateInArrivo& date, const std::string& collab);
     void setToolbarForKind();
-    void setGridRows();
-    void announce(const EsitoRiempimento& esito);
-    std::string archivePath(std::string_view file) const;
-    std::string monthlyTitle() const;
-    std::string dailyTitle() const;
-    std::string yearlyTitle(const std::string& collab) const;
+    void fillForKind(std::string_view tipoplanner, const std::string& collab);
 
-    Ambiente m;
+    PlannerWindow& m_finestra;
+    EventPump& m_eventi;
 };
 
 } // namespace planner

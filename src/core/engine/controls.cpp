@@ -2,50 +2,24 @@
 // SPDX-License-Identifier: MIT
 #include "engine/controls.h"
 
-#include "grids/today.h"
-
-#include <utility>
+#include "engine/kinds/kind.h"
 
 namespace planner {
 
-std::optional<TipoPlanner> tipoPlanner(std::string_view lettera) {
-    for (const TipoPlanner tipo : {TipoPlanner::Mensile, TipoPlanner::Giornaliero, TipoPlanner::Annuale}) {
-        if (lettera.size() == 1 && lettera.front() == static_cast<char>(tipo)) {
-            return tipo;
-        }
-    }
-    return std::nullopt;
-}
-
 const Griglia& ControlliPlcal::griglia(TipoPlanner tipo) const {
-    return tipo == TipoPlanner::Mensile ? Flxm : tipo == TipoPlanner::Giornaliero ? flxg : flxa;
+    return this->*regole(tipo).griglia;
 }
 
 Griglia& ControlliPlcal::griglia(TipoPlanner tipo) {
-    return const_cast<Griglia&>(std::as_const(*this).griglia(tipo));
+    return this->*regole(tipo).griglia;
 }
 
 std::string_view ControlliPlcal::nomeGrigliaVisibile() const {
-    if (!tipoVisibile) {
-        return {};
-    }
-    return *tipoVisibile == TipoPlanner::Mensile       ? "Flxm"
-           : *tipoVisibile == TipoPlanner::Giornaliero ? "flxg"
-                                                       : "flxa";
+    return tipoVisibile ? regole(*tipoVisibile).nomeGriglia : std::string_view{};
 }
 
-void segnaOggi(ControlliPlcal& controlli, Data oggi) {
-    if (!controlli.tipoVisibile) {
-        return;
-    }
-    switch (*controlli.tipoVisibile) {
-    case TipoPlanner::Mensile:
-        return markTodayMonthly(controlli.Flxm, controlli.calendario, oggi);
-    case TipoPlanner::Giornaliero:
-        return markTodayDaily(controlli.flxg, controlli.calendario, oggi);
-    case TipoPlanner::Annuale:
-        return markTodayYearly(controlli.flxa, controlli.calendario, oggi);
-    }
+std::string ControlliPlcal::tipoplanner() const {
+    return tipoVisibile ? std::string(1, static_cast<char>(*tipoVisibile)) : std::string();
 }
 
 } // namespace planner

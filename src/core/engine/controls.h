@@ -33,6 +33,10 @@ struct ControlliPlcal {
     Griglia flxa{RigheAnnuale, ColonneGiorni + 1, 1, Colore::bianco};
     std::optional<TipoPlanner> tipoVisibile; // whose grid is the visible one
 
+    /// The letter of that kind; empty when no grid is visible.
+    std::string tipoplanner() const;
+    /// The shown day of the session.
+    Data DataSessione() const { return calendario.Value(); }
     /// The grid of a kind.
     Griglia& griglia(TipoPlanner tipo);
     const Griglia& griglia(TipoPlanner tipo) const;
@@ -41,8 +45,5 @@ struct ControlliPlcal {
     const Griglia* grigliaVisibile() const { return tipoVisibile ? &griglia(*tipoVisibile) : nullptr; }
     std::string_view nomeGrigliaVisibile() const;
 };
-
-/// Marks today in the visible grid, laid out for the date of the calendar, and unmarks every other day.
-void segnaOggi(ControlliPlcal& controlli, Data oggi);
 
 } // namespace planner

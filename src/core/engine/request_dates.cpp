@@ -4,8 +4,8 @@
 
 #include "archive/cp1252.h"
 #include "archive/fixed_text.h"
+#include "session/period_moves.h"
 
-#include <string>
 #include <vector>
 
 namespace planner {
@@ -35,20 +35,6 @@ void say(const Guai& guai, MessageBoxes& messaggi) {
     }
 }
 
-Data firstOfYear(Data data) {
-    return {data.year(), std::chrono::January, std::chrono::day{1}};
-}
-
-Data lastOfYear(Data data) {
-    return {data.year(), std::chrono::December, std::chrono::day{31}};
-}
-
-/// The same day of another year; 29 February becomes 28 where the year lacks it.
-Data inYear(Data data, std::chrono::year year) {
-    const Data there{year, data.month(), data.day()};
-    return there.ok() ? there : Data{year, data.month(), std::chrono::day{28}};
-}
-
 } // namespace
 
 DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
@@ -64,13 +50,11 @@ DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArri
     if (tipo) {
         say(guai, messaggi);
     }
-    const Data prima = start ? *start : end ? firstOfYear(*end) : oggi;
-    Data mostrata = day ? *day : prima;
-    const Data inizio = start || end ? prima : firstOfYear(mostrata);
-    if (tipo == TipoPlanner::Annuale) {
-        mostrata = inYear(mostrata, inizio.year());
-    }
-    return {mostrata, inizio, end.value_or(lastOfYear(inizio))};
+    const Data prima = start ? *start : end ? wholeYear(*end).inizio : oggi;
+    const Data mostrata = day ? *day : prima;
+    const Data inizio = start || end ? prima : wholeYear(mostrata).inizio;
+    return {tipo ? regole(*tipo).giornoDaMostrare(mostrata, inizio) : mostrata,
+            {inizio, end ? *end : wholeYear(inizio).fine}};
 }
 
 } // namespace planner

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/controls.h"
+#include "engine/kinds/kind.h"
 #include "ports/message_boxes.h"
-#include "session/modpl.h"
 
 #include <optional>
 #include <string_view>
@@ -20,9 +19,8 @@ struct DateInArrivo {
 
 /// The dates of a request, read and completed.
 struct DateRichiesta {
-    Data mostrata; // the incoming day, else the start, else today
-    Data inizio;   // else 1 January of the end date's year
-    Data fine;     // else 31 December of the start date's year
+    Data mostrata;           // the incoming day, else the start, else today
+    PeriodoSessione periodo; // from 1 January of the end's year, to 31 December of the start's, where missing
 };
 
 /// Reads the dates of a request; a text of blanks and zeros is no date. Impossible dates count as none, and

@@ -43,25 +43,4 @@ inline constexpr std::array TransitRequestFields{
 };
 static_assert(sizeof(TransitRequest) == 121 && fieldsCover(TransitRequestFields, sizeof(TransitRequest)));
 
-/// The action letters that an answer can end with.
-struct AzioneRisposta {
-    char lettera;
-    std::string_view significato; // Italian, UTF-8
-    bool chiudeProgramma;
-    bool conservaFinestra;
-};
-
-inline constexpr std::array AzioniRisposta{
-    AzioneRisposta{'E', "chiusura del planner", true, true},
-    AzioneRisposta{'F', "filtri, la finestra resta pronta", false, true},
-    AzioneRisposta{'A', "apertura dell'agenda", false, false},
-    AzioneRisposta{'C', "collaboratore scelto", false, false},
-    AzioneRisposta{'D', "consultazione del giorno", false, false},
-    AzioneRisposta{'I', "inserimento di un impegno", false, false},
-    AzioneRisposta{'P', "anno precedente", false, false},
-    AzioneRisposta{'S', "anno successivo", false, false},
-    AzioneRisposta{'T', "inserimento di una pratica", false, false},
-    AzioneRisposta{' ', "nessuna azione", false, false},
-};
-
 } // namespace planner

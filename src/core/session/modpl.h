@@ -13,15 +13,18 @@
 
 namespace planner {
 
-/// First and last day of the period that the host asked for, as texts of digits.
+/// First and last day of a period, and their parts as texts of digits.
 struct PeriodoSessione {
-    std::string GiornoInizio, MeseInizio, AnnoInizio;
-    std::string GiornoFine, MeseFine, AnnoFine;
+    Data inizio{}, fine{};
 
-    void setInizio(Data data);
-    void setFine(Data data);
-    Data inizio() const { return dateFromTexts(GiornoInizio, MeseInizio, AnnoInizio); }
-    Data fine() const { return dateFromTexts(GiornoFine, MeseFine, AnnoFine); }
+    bool contiene(Data data) const { return inizio <= data && data <= fine; }
+
+    std::string GiornoInizio() const { return twoDigits(dayOf(inizio)); }
+    std::string MeseInizio() const { return twoDigits(monthOf(inizio)); }
+    std::string AnnoInizio() const { return std::to_string(yearOf(inizio)); }
+    std::string GiornoFine() const { return twoDigits(dayOf(fine)); }
+    std::string MeseFine() const { return twoDigits(monthOf(fine)); }
+    std::string AnnoFine() const { return std::to_string(yearOf(fine)); }
 };
 
 /// Whether the last reading of each archive went well. Where it did not, what there was is shown.
@@ -32,7 +35,6 @@ struct LettureArchivi {
 /// The state of the planner session, shared by the engine and all windows. `main` makes the one object;
 /// each request refills it. Texts are Windows-1252.
 struct modpl {
-    std::string tipoplanner;   // "M", "G" or "A"
     std::string tipocall;      // "A" disables the agenda
     std::string planrichiesto; // "S" disables the charts
     std::string PathArchivi;   // without a trailing "\"
@@ -45,8 +47,7 @@ struct modpl {
     std::string FlagFinestra;   // "B": reduced window
 
     TabellaGiorniMese GiorniMese = giorniMese(2001);
-    PeriodoSessione periodo;
-    Data DataSessione{std::chrono::year{2000}, std::chrono::January, std::chrono::day{1}}; // the day to show
+    PeriodoSessione periodo;               // that the host asked for
     std::int16_t PrimoGiornoSettimana = 1; // of the shown month; 1 = Sunday
 
     Archivi archivi;
@@ -61,6 +62,8 @@ struct modpl {
 
     /// True when the last character of the answer is `azione`.
     bool risposta(char azione) const { return !valret.empty() && valret.back() == azione; }
+    /// The path of an archive file.
+    std::string percorso(std::string_view file) const { return PathArchivi + std::string(file); }
     /// True in the window variant without deadlines.
     bool varianteRidotta() const { return FlagFinestra == "B"; }
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/grid_view.h"
 
+#include "engine/kinds/kind.h"
 #include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/grid_corner.h"
 #include "ui/plcal/grid_header.h"
@@ -197,10 +198,9 @@ void GridView::setUpBehaviour() {
     light.setColor(QPalette::Base, qtColor(Colore::intestazione));
     light.setColor(QPalette::Text, qtColor(Colore::nero));
     setPalette(light);
-    setHorizontalScrollBarPolicy(m_tipo == TipoPlanner::Giornaliero ? Qt::ScrollBarAlwaysOn
-                                                                    : Qt::ScrollBarAsNeeded);
-    setVerticalScrollBarPolicy(m_tipo == TipoPlanner::Annuale ? Qt::ScrollBarAsNeeded
-                                                              : Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(regole(m_tipo).unGiorno ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(regole(m_tipo).perCollaboratore ? Qt::ScrollBarAlwaysOn
+                                                               : Qt::ScrollBarAsNeeded);
 }
 
 void GridView::setScala(const Scala& scala) {
@@ -209,16 +209,16 @@ void GridView::setScala(const Scala& scala) {
 }
 
 float GridView::columnScale() const {
-    if (m_tipo == TipoPlanner::Giornaliero) {
+    if (regole(m_tipo).unGiorno) {
         return m_scala.ScalaX;
     }
     // A month is as wide as the window: what rounding and the scroll bar leave over is shared out too.
-    const int scrollBar = m_tipo == TipoPlanner::Mensile ? verticalScrollBar()->sizeHint().width() : 0;
+    const int scrollBar = regole(m_tipo).perCollaboratore ? verticalScrollBar()->sizeHint().width() : 0;
     return fittingScale(width() - 2 * frameWidth() - scrollBar, totalWidth(m_model->griglia()));
 }
 
 float GridView::rowScale() const {
-    if (m_tipo != TipoPlanner::Annuale) {
+    if (regole(m_tipo).perCollaboratore) {
         return m_scala.ScalaY;
     }
     // The twelve months fill the grid as long as they stay near their designed height.

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/plcal_window.h"
 
-#include "forms/plcal/period_moves.h"
+#include "engine/kinds/kind.h"
 #include "forms/plcal/sentences.h"
+#include "session/period_moves.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/screen_scale.h"
 #include "ui/kit/text.h"
@@ -182,24 +183,18 @@ void PlcalWindow::aggiorna() {
     updateGrid();
     m_Toolbar1->update(m_controlli.Toolbar1, visibleGrid());
     updateCalendar();
+    const RegoleTipo* tipo = regoleVisibili(m_controlli);
     for (QShortcut* keys : m_periodKeys) {
         // In the yearly planner they answer the host: a held key is not to reach the next request.
-        keys->setAutoRepeat(m_controlli.tipoVisibile != TipoPlanner::Annuale);
+        keys->setAutoRepeat(tipo == nullptr || tipo->perCollaboratore);
     }
 }
 
 void PlcalWindow::updateCalendar() {
     const Calendario& calendario = m_controlli.calendario;
-    const auto year = std::chrono::year{calendario.Year()};
-    Data first{year, std::chrono::January, std::chrono::day{1}};
-    Data last{year, std::chrono::December, std::chrono::day{31}};
-    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        first = firstOfMonth(m_sessione.periodo.inizio());
-        last = lastOfMonth(m_sessione.periodo.fine());
-    } else if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
-        first = m_sessione.periodo.inizio();
-        last = m_sessione.periodo.fine();
-    }
+    const RegoleTipo* tipo = regoleVisibili(m_controlli);
+    const auto [first, last] = tipo != nullptr ? tipo->limiti(m_sessione.periodo, calendario.Value())
+                                               : wholeYear(calendario.Value());
     m_calendario->update(calendario, first, last);
 }
 

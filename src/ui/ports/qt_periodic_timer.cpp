@@ -10,8 +10,11 @@ constexpr int IntervalMs = 500;
 
 } // namespace
 
-QtPeriodicTimer::QtPeriodicTimer(std::function<void()> tick) {
+QtPeriodicTimer::QtPeriodicTimer() {
     m_timer.setInterval(IntervalMs);
+}
+
+void QtPeriodicTimer::onTick(std::function<void()> tick) {
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, std::move(tick));
 }
 

@@ -13,7 +13,9 @@ namespace planner {
 /// The timer of the polling mode.
 class QtPeriodicTimer : public PeriodicTimer {
 public:
-    explicit QtPeriodicTimer(std::function<void()> tick);
+    QtPeriodicTimer();
+    /// What each tick does, from now on; called once.
+    void onTick(std::function<void()> tick);
     void setEnabled(bool enabled) override;
 
 private:

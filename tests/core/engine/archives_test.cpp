@@ -18,7 +18,7 @@ class ArchivesTest : public testing::Test {
 protected:
     ArchivesTest() {
         bench.sessione.PathArchivi = PlannerBench::Cartella;
-        bench.sessione.DataSessione = *makeDate(2006, 10, 20);
+        bench.controlli.calendario.setValue(*makeDate(2006, 10, 20));
     }
 
     Archivi& archivi() { return bench.sessione.archivi; }

@@ -76,33 +76,33 @@ TEST_F(RequestDatesTest, OnlyTheYearlyPlannerMovesTheDayIntoTheStartsYear) {
 
 TEST_F(RequestDatesTest, ThePeriodIsTheRequests) {
     const DateRichiesta dates = read("00000000", "20060315", "20070614");
-    EXPECT_EQ(formatDate(dates.inizio), "20060315");
-    EXPECT_EQ(formatDate(dates.fine), "20070614");
+    EXPECT_EQ(formatDate(dates.periodo.inizio), "20060315");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20070614");
 }
 
 TEST_F(RequestDatesTest, AMissingEndIsTheLastDayOfTheStartsYear) {
-    EXPECT_EQ(formatDate(read("00000000", "20060315", "00000000").fine), "20061231");
-    EXPECT_EQ(formatDate(read("20081111", "20060315", "        ").fine), "20061231");
+    EXPECT_EQ(formatDate(read("00000000", "20060315", "00000000").periodo.fine), "20061231");
+    EXPECT_EQ(formatDate(read("20081111", "20060315", "        ").periodo.fine), "20061231");
 }
 
 TEST_F(RequestDatesTest, AMissingStartIsTheFirstDayOfTheEndsYear) {
-    EXPECT_EQ(formatDate(read("00000000", "00000000", "20070614").inizio), "20070101");
+    EXPECT_EQ(formatDate(read("00000000", "00000000", "20070614").periodo.inizio), "20070101");
 }
 
 TEST_F(RequestDatesTest, WithoutStartAndEndThePeriodIsTheShownDaysYear) {
     DateRichiesta dates = read("20060610", "00000000", "00000000");
-    EXPECT_EQ(formatDate(dates.inizio), "20060101");
-    EXPECT_EQ(formatDate(dates.fine), "20061231");
+    EXPECT_EQ(formatDate(dates.periodo.inizio), "20060101");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20061231");
     dates = read("00000000", "00000000", "00000000");
-    EXPECT_EQ(formatDate(dates.inizio), "20100101");
-    EXPECT_EQ(formatDate(dates.fine), "20101231");
+    EXPECT_EQ(formatDate(dates.periodo.inizio), "20100101");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20101231");
 }
 
 TEST_F(RequestDatesTest, ImpossibleDatesAreSaidTogetherAndCountAsMissing) {
     const DateRichiesta dates = read("20060231", "20061301", "abcdefgh");
     EXPECT_EQ(formatDate(dates.mostrata), "20100720");
-    EXPECT_EQ(formatDate(dates.inizio), "20100101");
-    EXPECT_EQ(formatDate(dates.fine), "20101231");
+    EXPECT_EQ(formatDate(dates.periodo.inizio), "20100101");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20101231");
     EXPECT_THAT(texts(),
                 ElementsAre("Richiesta non valida: il giorno da mostrare \"20060231\" non è una data; "
                             "la data iniziale \"20061301\" non è una data; "
@@ -127,13 +127,13 @@ TEST_F(RequestDatesTest, BytesOfTheRequestAreShownAsTheirCharacters) {
 
 TEST_F(RequestDatesTest, AnEndBeforeTheStartIsSaidAndCountsAsMissing) {
     const DateRichiesta dates = read("00000000", "20060315", "20060314");
-    EXPECT_EQ(formatDate(dates.inizio), "20060315");
-    EXPECT_EQ(formatDate(dates.fine), "20061231");
+    EXPECT_EQ(formatDate(dates.periodo.inizio), "20060315");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20061231");
     EXPECT_EQ(texts().size(), 1u);
 }
 
 TEST_F(RequestDatesTest, APeriodOfOneDayIsAPeriod) {
-    EXPECT_EQ(formatDate(read("00000000", "20060315", "20060315").fine), "20060315");
+    EXPECT_EQ(formatDate(read("00000000", "20060315", "20060315").periodo.fine), "20060315");
     EXPECT_THAT(texts(), IsEmpty());
 }
 

@@ -129,8 +129,8 @@ TEST_F(TroublesTest, ImpossibleDatesAreSaidOnceAndCountAsMissing) {
     bench.init("M", "20060231", "20060332", "xxxxxxxx");
     EXPECT_THAT(texts(), SizeIs(1));
     EXPECT_EQ(bench.controlli.calendario.Value(), PlannerBench::Oggi);
-    EXPECT_EQ(formatDate(bench.sessione.periodo.inizio()), "20060101");
-    EXPECT_EQ(formatDate(bench.sessione.periodo.fine()), "20061231");
+    EXPECT_EQ(formatDate(bench.sessione.periodo.inizio), "20060101");
+    EXPECT_EQ(formatDate(bench.sessione.periodo.fine), "20061231");
     EXPECT_EQ(bench.controlli.lbldescr, "Mese di Marzo 2006");
 }
 

@@ -161,7 +161,7 @@ TEST_F(MensileFillTest, TheFirstAndLastDayOfAMonthThatStartsOnSunday) {
 
 TEST_F(MensileFillTest, ARefillOfAnotherMonthNeedsItsHeader) {
     fill({riga("RB", "20060315", {{1, "1"}}), riga("RB", "20061001", {{1, "1"}})});
-    bench.sessione.DataSessione = *makeDate(2006, 10, 15);
+    bench.controlli.calendario.setValue(*makeDate(2006, 10, 15));
     bench.motore.PulisciGrid1();
     bench.motore.LeggiDati();
     bench.motore.showgrid();

@@ -53,15 +53,5 @@ TEST(TransitRequestTest, TheActionIsTheEleventhCharacterOfTheAnswer) {
     EXPECT_EQ(TransitRequest{}.azione(), ' ');
 }
 
-TEST(TransitRequestTest, ActionLettersHaveTheirEffects) {
-    const std::string unload = "ACDIPST ";
-    EXPECT_EQ(AzioniRisposta.size(), 2 + unload.size());
-    for (const AzioneRisposta& action : AzioniRisposta) {
-        EXPECT_EQ(action.chiudeProgramma, action.lettera == 'E') << action.lettera;
-        EXPECT_EQ(action.conservaFinestra, action.lettera == 'E' || action.lettera == 'F') << action.lettera;
-        EXPECT_TRUE(action.conservaFinestra || unload.find(action.lettera) != std::string::npos);
-    }
-}
-
 } // namespace
 } // namespace planner::test

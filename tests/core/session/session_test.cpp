@@ -131,15 +131,16 @@ TEST_F(SessionTest, ThePeriodIsCutFromTheRequestsDates) {
     call.enddate = "20070615";
     serve();
     const PeriodoSessione& p = sessione.periodo;
-    EXPECT_THAT((std::vector{p.GiornoInizio, p.MeseInizio, p.AnnoInizio}), ElementsAre("05", "03", "2006"));
-    EXPECT_THAT((std::vector{p.GiornoFine, p.MeseFine, p.AnnoFine}), ElementsAre("15", "06", "2007"));
+    EXPECT_THAT((std::vector{p.GiornoInizio(), p.MeseInizio(), p.AnnoInizio()}),
+                ElementsAre("05", "03", "2006"));
+    EXPECT_THAT((std::vector{p.GiornoFine(), p.MeseFine(), p.AnnoFine()}), ElementsAre("15", "06", "2007"));
 }
 
 TEST_F(SessionTest, TheSessionKeepsTheTextsOfTheRequest) {
     call.tipocall = "A";
     call.planrichiesto = "S";
     serve();
-    EXPECT_EQ(sessione.tipoplanner, "M");
+    EXPECT_EQ(bench.controlli.tipoplanner(), "M");
     EXPECT_EQ(sessione.tipocall, "A");
     EXPECT_EQ(sessione.planrichiesto, "S");
 }
@@ -179,7 +180,7 @@ TEST_F(SessionTest, WithoutIncomingDayAndStartTheFirstDayOfTheEndsYearIsShown) {
         call.valret = "";
         serve();
         EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20080101") << tipo;
-        EXPECT_EQ(sessione.periodo.AnnoInizio, "2008") << tipo;
+        EXPECT_EQ(sessione.periodo.AnnoInizio(), "2008") << tipo;
     }
 }
 

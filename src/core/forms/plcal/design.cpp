@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/design.h"
 
+#include "engine/kinds/kind.h"
+
 #include <algorithm>
 
 namespace planner {
@@ -32,7 +34,7 @@ constexpr int SmallestGridHeight = 2700;
 } // namespace
 
 bool totaleVisibile(const EtichettaTotale& etichetta, std::optional<TipoPlanner> tipo, bool varianteRidotta) {
-    const bool rightPanel = tipo && etichetta.annuale == (*tipo == TipoPlanner::Annuale);
+    const bool rightPanel = tipo && etichetta.annuale != regole(*tipo).perCollaboratore;
     return rightPanel && !(varianteRidotta && etichetta.scadenze());
 }
 

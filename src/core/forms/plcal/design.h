@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/controls.h"
 #include "forms/plcal/geometry.h"
+#include "forms/plcal/kinds/period_buttons.h"
 #include "session/totals.h"
 
 #include <array>
@@ -61,37 +61,6 @@ std::vector<ControlloProgetto> controlliPlcal();
 /// The smallest window, in twips, in which the controls scaled by `scala` stand beside each other, with
 /// header and a detailed row of the grid in sight.
 Dimensioni dimensioniMinime(const Scala& scala);
-
-/// A small button over a grid's corner that moves the period.
-struct PulsantePeriodo {
-    std::string_view gruppo; // "bselm", "bselg" or "bselA"
-    int indice;              // of the control array
-    TipoPlanner tipo;        // whose grid it stands on
-    int riga;                // header row
-    bool successivo;
-    std::string_view suggerimento; // tool tip
-    std::string_view immagine;
-    std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
-};
-
-inline constexpr std::array PulsantiPeriodo{
-    PulsantePeriodo{"bselm", 0, TipoPlanner::Mensile, 0, false, "Mese precedente", "precedente",
-                    "Alt+Left; Ctrl+PgUp"},
-    PulsantePeriodo{"bselm", 1, TipoPlanner::Mensile, 0, true, "Mese successivo", "successivo",
-                    "Alt+Right; Ctrl+PgDown"},
-    PulsantePeriodo{"bselm", 2, TipoPlanner::Mensile, 1, false, "Anno precedente", "anno_precedente",
-                    "Ctrl+Alt+Left; Ctrl+Shift+PgUp"},
-    PulsantePeriodo{"bselm", 3, TipoPlanner::Mensile, 1, true, "Anno successivo", "anno_successivo",
-                    "Ctrl+Alt+Right; Ctrl+Shift+PgDown"},
-    PulsantePeriodo{"bselg", 1, TipoPlanner::Giornaliero, 0, false, "Giorno precedente", "precedente",
-                    "Alt+Left"},
-    PulsantePeriodo{"bselg", 2, TipoPlanner::Giornaliero, 0, true, "Giorno successivo", "successivo",
-                    "Alt+Right"},
-    PulsantePeriodo{"bselA", 1, TipoPlanner::Annuale, 0, false, "Anno precedente", "anno_precedente",
-                    "Alt+Left; Ctrl+Alt+Left; Ctrl+Shift+PgUp"},
-    PulsantePeriodo{"bselA", 2, TipoPlanner::Annuale, 0, true, "Anno successivo", "anno_successivo",
-                    "Alt+Right; Ctrl+Alt+Right; Ctrl+Shift+PgDown"},
-};
 
 /// The first column in sight when the daily grid is shown: eight o'clock.
 inline constexpr int PrimaColonnaGiornaliera = 33;

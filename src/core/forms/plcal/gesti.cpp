@@ -3,7 +3,7 @@
 #include "forms/plcal/gesti.h"
 
 #include "archive/fixed_text.h"
-#include "archive/numeric_value.h"
+#include "engine/kinds/kind.h"
 
 #include <algorithm>
 
@@ -14,27 +14,6 @@ namespace {
 bool isDataCell(const Griglia& griglia, int riga, int colonna) {
     return riga >= griglia.FixedRows() && riga < griglia.Rows() && colonna >= Griglia::FixedCols() &&
            colonna < griglia.Cols();
-}
-
-/// The column's day of the month: its place after the header's blank cells.
-std::optional<Data> monthlyDay(const ControlliPlcal& controlli, int colonna) {
-    constexpr int lastBlank = 6; // in column 7 at the latest the month has begun
-    const Griglia& Flxm = controlli.Flxm;
-    int blanks = 0;
-    while (blanks < lastBlank && trim(Flxm.TextMatrix(1, blanks + 1)).empty()) {
-        ++blanks;
-    }
-    const int day = colonna - blanks;
-    if (trim(Flxm.TextMatrix(1, colonna)).empty() || day < 1) {
-        return std::nullopt;
-    }
-    return makeDate(controlli.calendario.Year(), controlli.calendario.Month(), day);
-}
-
-std::optional<Data> yearlyDay(const ControlliPlcal& controlli, int riga, int colonna) {
-    const std::string_view text = trim(controlli.flxa.TextMatrix(riga, colonna));
-    return text.empty() ? std::nullopt
-                        : makeDate(controlli.calendario.Year(), riga, static_cast<int>(numericValue(text)));
 }
 
 } // namespace
@@ -63,26 +42,9 @@ std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colo
 }
 
 std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, int riga, int colonna) {
-    if (!isDataCell(controlli.griglia(tipo), riga, colonna)) {
-        return std::nullopt;
-    }
-    switch (tipo) {
-    case TipoPlanner::Mensile:
-        return monthlyDay(controlli, colonna);
-    case TipoPlanner::Giornaliero:
-        return controlli.calendario.Value();
-    case TipoPlanner::Annuale:
-        return yearlyDay(controlli, riga, colonna);
-    }
-    return std::nullopt;
-}
-
-int colonnaGiornoMostrato(const ControlliPlcal& controlli) {
-    const Calendario& calendario = controlli.calendario;
-    const int first = controlli.tipoVisibile == TipoPlanner::Mensile
-                          ? columnOfFirstDay(controlli.Flxm)
-                          : colonnaIniziale(primoGiornoSettimana(calendario.Year(), calendario.Month()));
-    return first + calendario.Day() - 1;
+    return isDataCell(controlli.griglia(tipo), riga, colonna)
+               ? regole(tipo).giornoCella(controlli, riga, colonna)
+               : std::nullopt;
 }
 
 } // namespace planner

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/controls.h"
+#include "forms/plcal/kinds/gesture_effects.h"
 
 #include <array>
 #include <cstdint>
@@ -40,40 +40,6 @@ constexpr const DescrizioneMezzo& descrizione(Mezzo mezzo) {
     return Mezzi.at(static_cast<std::size_t>(mezzo));
 }
 
-/// What a place of a grid is to the user. Header and corner are none that a gesture could mean.
-enum class Luogo : std::uint8_t { giorno, senzaGiorno, nome, rigaInPiu };
-
-/// Where the cursor goes.
-enum class MossaCursore : std::uint8_t { casella, rigaDelNome };
-
-/// What becomes of the selected staff member and the totals shown.
-enum class Scelta : std::uint8_t { collaboratore, nasconde, totaliGiorno };
-
-/// What a gesture on a place moves, whatever its means.
-struct EffettoGesto {
-    TipoPlanner tipo;
-    Luogo luogo;
-    bool giorno; // the shown day becomes the cell's, if it stands for one
-    MossaCursore cursore;
-    Scelta scelta;
-};
-
-/// A place that is not listed moves nothing.
-inline constexpr std::array EffettiGesti{
-    EffettoGesto{TipoPlanner::Mensile, Luogo::giorno, true, MossaCursore::casella, Scelta::collaboratore},
-    EffettoGesto{TipoPlanner::Mensile, Luogo::senzaGiorno, false, MossaCursore::casella, Scelta::nasconde},
-    EffettoGesto{TipoPlanner::Mensile, Luogo::nome, false, MossaCursore::rigaDelNome, Scelta::collaboratore},
-    EffettoGesto{TipoPlanner::Mensile, Luogo::rigaInPiu, true, MossaCursore::casella, Scelta::nasconde},
-    EffettoGesto{TipoPlanner::Giornaliero, Luogo::giorno, false, MossaCursore::casella,
-                 Scelta::collaboratore},
-    EffettoGesto{TipoPlanner::Giornaliero, Luogo::nome, false, MossaCursore::rigaDelNome,
-                 Scelta::collaboratore},
-    EffettoGesto{TipoPlanner::Giornaliero, Luogo::rigaInPiu, false, MossaCursore::casella, Scelta::nasconde},
-    EffettoGesto{TipoPlanner::Annuale, Luogo::giorno, true, MossaCursore::casella, Scelta::totaliGiorno},
-    EffettoGesto{TipoPlanner::Annuale, Luogo::senzaGiorno, false, MossaCursore::casella,
-                 Scelta::totaliGiorno},
-};
-
 /// What a gesture on the place does in the kind; null when it does nothing.
 const EffettoGesto* effettoGesto(TipoPlanner tipo, Luogo luogo);
 
@@ -84,9 +50,5 @@ std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colo
 /// The day that a cell of the kind's grid stands for; nothing for a cell that stands for none. Any row and
 /// column may be asked for.
 std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, int riga, int colonna);
-
-/// The column that stands for the shown day in the monthly grid, or in the month's row of the yearly one.
-/// Throws SubscriptError when a monthly header has no first day.
-int colonnaGiornoMostrato(const ControlliPlcal& controlli);
 
 } // namespace planner

@@ -3,6 +3,7 @@
 #include "forms/plcal/notices.h"
 
 #include "archive/numeric_value.h"
+#include "engine/kinds/kind.h"
 
 namespace planner {
 
@@ -30,7 +31,7 @@ std::string avvisoDati(const ControlliPlcal& controlli, const modpl& sessione) {
     }
     const LettureArchivi& letture = sessione.letture;
     const std::string staff = letture.collaboratori ? "" : notUpToDate("wcollab");
-    if (*controlli.tipoVisibile != TipoPlanner::Annuale) {
+    if (regole(*controlli.tipoVisibile).perCollaboratore) {
         return (letture.righe ? "" : notUpToDate("wrighipl")) + staff;
     }
     return (letture.annuale ? anotherYear(controlli, sessione) : notUpToDate("wplanner")) + staff;

@@ -7,9 +7,6 @@
 
 namespace planner {
 
-plcal::plcal(modpl& sessione, ControlliPlcal& controlli, const Porte& porte, FabbricaMotore fabbrica)
-    : m_sessione(sessione), m_controlli(controlli), m_porte(porte), m_fabbrica(std::move(fabbrica)) {}
-
 void plcal::load() {
     if (!m_loaded) {
         Form_Load();
@@ -59,15 +56,15 @@ void plcal::Form_Load() {
 void plcal::Form_Activate() {
     m_porte.vista.LockWindowUpdate(true);
     m_porte.vista.disponiPulsantiPeriodo();
-    if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
+    if (m_controlli.tipoVisibile && tipo().unGiorno) {
         m_porte.vista.scorriA(PrimaColonnaGiornaliera);
     }
-    segnaOggi(m_controlli, m_porte.orologio.today());
+    m_contenuti.segnaOggi();
     m_porte.vista.LockWindowUpdate(false);
 }
 
 void plcal::giornoCambiato() {
-    segnaOggi(m_controlli, m_porte.orologio.today());
+    m_contenuti.segnaOggi();
 }
 
 std::string plcal::stato() const {
@@ -87,14 +84,6 @@ void plcal::Form_Unload() {
         m_sessione.valret = composedReply("E");
     }
     m_sessione.FinePlanner = true;
-    m_motore.reset();
-}
-
-clsplg& plcal::motore() {
-    if (!m_motore) {
-        m_motore = m_fabbrica();
-    }
-    return *m_motore;
 }
 
 } // namespace planner

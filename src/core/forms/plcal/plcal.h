@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/clsplg.h"
+#include "engine/contenuti.h"
 #include "forms/plcal/gesti.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/vista_plcal.h"
@@ -12,8 +12,6 @@
 #include "ports/clock.h"
 #include "ports/planner_window.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
 
 namespace planner {
@@ -22,18 +20,16 @@ namespace planner {
 /// `VistaPlcal`. A run-time error in an event is said in a message box, and the planner goes on.
 class plcal : public PlannerWindow {
 public:
-    using FabbricaMotore = std::function<std::unique_ptr<clsplg>()>;
-
     struct Porte {
         VistaPlcal& vista;
         MessageBoxes& messaggi;
         FinestraImpegno& finestraImpegno;
         plfcollab& collaboratori;
         FinestraGrafici& finestraGrafici;
-        const Clock& orologio;
     };
 
-    plcal(modpl& sessione, ControlliPlcal& controlli, const Porte& porte, FabbricaMotore fabbrica);
+    plcal(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, const Porte& porte)
+        : m_sessione(sessione), m_controlli(controlli), m_contenuti(contenuti), m_porte(porte) {}
 
     // The window as the engine sees it.
     bool isLoaded() const override { return m_loaded; }
@@ -85,7 +81,9 @@ public:
     const Scala& scala() const { return m_scala; }
 
 private:
-    clsplg& motore();
+    const RegoleTipo& tipo() const { return regole(*m_controlli.tipoVisibile); }
+    Griglia& griglia() { return *m_controlli.grigliaVisibile(); }
+    const Griglia& griglia() const { return *m_controlli.grigliaVisibile(); }
     template <typename Command>
     void esegui(Command command);
 
@@ -95,20 +93,19 @@ private:
     void flxa_RowColChange(int riga, int colonna);
     void SelChange(Scelta scelta);
     void flxa_SelChange(int riga, int colonna);
-    void selectStaff(Griglia& griglia);
+    void selectStaff();
     void setStaff(int indice);
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();
-    int colonnaDelNome() const;
     int rigaCursore() const;
     void posizionaCursore(int colonnaGiornaliera);
 
     // plcal_period.cpp
-    void showMonth(Data giorno);
-    void showDay(Data giorno);
+    std::optional<Data> mossa(const PulsantePeriodo& pulsante) const;
+    void premi(std::string_view gruppo, int indice);
+    void refill(Data giorno);
     void showPickedDay(Data giorno);
-    bool puoMostrare(Data giorno) const;
 
     // plcal_commands.cpp
     void reply(std::string_view azione);
@@ -122,9 +119,8 @@ private:
 
     modpl& m_sessione;
     ControlliPlcal& m_controlli;
+    Contenuti& m_contenuti;
     Porte m_porte;
-    FabbricaMotore m_fabbrica;
-    std::unique_ptr<clsplg> m_motore; // made on first use, released at unload
     bool m_loaded = false;
     Scala m_scala;
     PannelloDettagli m_pannello;

@@ -70,18 +70,21 @@ void plcal::consult() {
 }
 
 bool plcal::canConsult() const {
-    if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
-        return giornoSegnato(m_sessione.archivi, m_controlli.flxa.Row(), m_controlli.flxa.Col());
-    }
-    const bool monthly = m_controlli.tipoVisibile == TipoPlanner::Mensile;
-    const int indice = monthly ? m_sessione.IndiceCollab : m_controlli.flxg.Row() - PrimaRigaGiornaliera;
-    if (!m_controlli.tipoVisibile || indice < 0) {
+    if (!m_controlli.tipoVisibile) {
         return false;
     }
+    if (!tipo().perCollaboratore) {
+        return giornoSegnato(m_sessione.archivi, griglia().Row(), griglia().Col());
+    }
+    const int indice =
+        tipo().unGiorno ? griglia().Row() - griglia().FixedRows() : int{m_sessione.IndiceCollab};
     const TabellaTotali& totals = m_sessione.TotaliImpegni;
+    if (indice < 0) {
+        return false;
+    }
     return totals.contiene(indice)
                ? totals.at(indice, Totale::scadenze) >= 1 || totals.at(indice, Totale::pratiche) >= 1
-               : rowShows(*m_controlli.grigliaVisibile(), indice, ScadenzeOPratiche);
+               : rowShows(griglia(), indice, ScadenzeOPratiche);
 }
 
 void plcal::insimp() {
@@ -97,12 +100,12 @@ void plcal::insimp() {
 }
 
 void plcal::showStaffList() {
-    motore().PopolaListaCollab(m_porte.collaboratori.List_Prenotazione());
+    m_contenuti.PopolaListaCollab(m_porte.collaboratori.List_Prenotazione());
     m_porte.collaboratori.show();
 }
 
 void plcal::showChart() {
-    motore().LeggiDatiPerGrafici();
+    m_contenuti.LeggiDatiPerGrafici();
     plfgraf form(m_sessione.archivi, m_controlli.calendario, avvisoGrafici(m_sessione));
     if (visualizzaGrafico(form, m_controlli.tipoVisibile, m_sessione.IndiceCollab, m_porte.messaggi)) {
         m_porte.finestraGrafici.mostra(form);
@@ -116,24 +119,15 @@ void plcal::setDettagliato(bool dettagliato) {
 
 void plcal::refreshGrid() {
     m_sessione.LivelloDettaglio = m_controlli.Toolbar1.dettagliato() ? 4 : 1;
-    Griglia* griglia = m_controlli.grigliaVisibile();
-    if (griglia == nullptr || m_controlli.tipoVisibile == TipoPlanner::Annuale) {
+    if (!m_controlli.tipoVisibile || !tipo().perCollaboratore) {
         return;
     }
     esegui([&] {
-        const Griglia::LockWindowUpdate lock(*griglia);
-        const int row = griglia->Row();
-        const int column = griglia->Col();
-        if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-            motore().PulisciGrid1();
-            griglia->setRows(righeMensile(m_sessione.archivi.NumCollab));
-            motore().PopolaGrid1();
-        } else {
-            motore().PulisciGrid2();
-            griglia->setRows(righeGiornaliera(m_sessione.archivi.NumCollab));
-            motore().PopolaGrid2();
-        }
-        griglia->setCurrent(std::min(row, griglia->Rows() - 1), column);
+        const Griglia::LockWindowUpdate lock(griglia());
+        const int row = griglia().Row();
+        const int column = griglia().Col();
+        m_contenuti.ricompila();
+        griglia().setCurrent(std::min(row, griglia().Rows() - 1), column);
         restoreMarks();
     });
 }

@@ -31,14 +31,14 @@ void plcal::griglia_Gesto(const Gesto& gesto) {
 }
 
 void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    const Griglia::LockWindowUpdate lock(griglia);
+    const Griglia::LockWindowUpdate lock(griglia());
     if (effetto.giorno) {
-        const bool moved = effetto.tipo == TipoPlanner::Annuale && gesto.mezzo == Mezzo::frecce;
+        const bool moved = !tipo().perCollaboratore && gesto.mezzo == Mezzo::frecce;
         moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia.setCurrent(gesto.riga, onName ? colonnaDelNome() : gesto.colonna);
+    griglia().setCurrent(gesto.riga,
+                         onName ? tipo().colonnaGiorno(m_controlli, griglia().Col()) : gesto.colonna);
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
@@ -56,29 +56,29 @@ void plcal::flxa_RowColChange(int riga, int colonna) {
 }
 
 void plcal::SelChange(Scelta scelta) {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
     if (scelta == Scelta::totaliGiorno) {
-        flxa_SelChange(griglia.Row(), griglia.Col());
+        flxa_SelChange(griglia().Row(), griglia().Col());
         return;
     }
     m_pannello.nascondiTotali();
-    if (scelta == Scelta::collaboratore && !trimRight(griglia.TextMatrix(griglia.Row(), 0)).empty()) {
-        selectStaff(griglia);
+    if (scelta == Scelta::collaboratore && !trimRight(griglia().TextMatrix(griglia().Row(), 0)).empty()) {
+        selectStaff();
     }
     markShownCell();
 }
 
-void plcal::selectStaff(Griglia& griglia) {
-    const int indice = griglia.Row() - griglia.FixedRows();
+void plcal::selectStaff() {
+    const int riga = griglia().Row();
+    const int indice = riga - griglia().FixedRows();
     setStaff(indice);
-    griglia.evidenzia(griglia.Row());
-    m_pannello.lblcollab = "Impegni di " + std::string(griglia.TextMatrix(griglia.Row(), 0));
+    griglia().evidenzia(riga);
+    m_pannello.lblcollab = "Impegni di " + std::string(griglia().TextMatrix(riga, 0));
     m_pannello.lblcollabVisibile = true;
     m_pannello.mostraTotali(m_sessione.TotaliImpegni, indice, m_sessione.varianteRidotta());
 }
 
 void plcal::setStaff(int indice) {
-    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
+    if (!tipo().unGiorno) {
         m_sessione.IndiceCollab = roundTo16Bit(indice);
     }
     const auto& staff = m_sessione.archivi.Collaboratori;
@@ -97,50 +97,34 @@ void plcal::flxa_SelChange(int riga, int colonna) {
 }
 
 void plcal::markShownCell() {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int riga = griglia.RigaEvidenziata();
-    if (!griglia.EvidenziazioneAttiva()) {
-        return;
+    const int riga = griglia().RigaEvidenziata();
+    if (griglia().EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
+        griglia().scegli(riga, tipo().colonnaGiorno(m_controlli, griglia().Col()));
     }
-    if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        griglia.scegli(riga, colonnaGiornoMostrato(m_controlli));
-    } else if (griglia.Row() == riga) {
-        griglia.scegli(riga, griglia.Col());
-    }
-}
-
-int plcal::colonnaDelNome() const {
-    return m_controlli.tipoVisibile == TipoPlanner::Mensile ? colonnaGiornoMostrato(m_controlli)
-                                                            : m_controlli.flxg.Col();
 }
 
 void plcal::describeCurrentCell() {
-    const Griglia& griglia = *m_controlli.grigliaVisibile();
-    m_stato = fraseCella(m_controlli, m_sessione, *m_controlli.tipoVisibile, griglia.Row(), griglia.Col());
+    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().Row(), griglia().Col());
 }
 
 int plcal::rigaCursore() const {
-    const Griglia& griglia = *m_controlli.grigliaVisibile();
-    const int wanted = griglia.EvidenziazioneAttiva()    ? griglia.RigaEvidenziata()
-                       : m_sessione.IndiceRichiesto >= 0 ? griglia.FixedRows() + m_sessione.IndiceRichiesto
-                                                         : griglia.FixedRows();
-    return std::clamp(wanted, griglia.FixedRows(), griglia.Rows() - 1);
+    const int first = griglia().FixedRows();
+    const int wanted = !tipo().perCollaboratore            ? m_controlli.calendario.Month()
+                       : griglia().EvidenziazioneAttiva()  ? griglia().RigaEvidenziata()
+                       : m_sessione.IndiceRichiesto >= 0   ? first + m_sessione.IndiceRichiesto
+                                                           : first;
+    return std::clamp(wanted, first, griglia().Rows() - 1);
 }
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
-    if (m_controlli.tipoVisibile == TipoPlanner::Giornaliero) {
-        m_controlli.flxg.setCurrent(rigaCursore(), colonnaGiornaliera);
-    } else if (m_controlli.tipoVisibile == TipoPlanner::Mensile) {
-        m_controlli.Flxm.setCurrent(rigaCursore(), colonnaGiornoMostrato(m_controlli));
-    } else if (m_controlli.tipoVisibile == TipoPlanner::Annuale) {
-        m_controlli.flxa.setCurrent(m_controlli.calendario.Month(), colonnaGiornoMostrato(m_controlli));
+    if (m_controlli.tipoVisibile) {
+        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli, colonnaGiornaliera));
     }
 }
 
 void plcal::restoreMarks() {
-    Griglia& griglia = *m_controlli.grigliaVisibile();
-    if (griglia.EvidenziazioneAttiva()) {
-        griglia.evidenzia(std::min(griglia.RigaEvidenziata(), griglia.Rows() - 1));
+    if (griglia().EvidenziazioneAttiva()) {
+        griglia().evidenzia(std::min(griglia().RigaEvidenziata(), griglia().Rows() - 1));
         markShownCell();
     }
 }

@@ -3,7 +3,7 @@
 #include "forms/plcal/sentences.h"
 
 #include "archive/cp1252.h"
-#include "forms/plcal/gesti.h"
+#include "engine/kinds/kind.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/yearly_day.h"
 
@@ -52,9 +52,9 @@ std::string nameAndDay(const Griglia& griglia, int riga, Data day) {
     return name.empty() ? dataEstesa(day) : name + ", " + dataEstesa(day);
 }
 
-std::string monthlySentence(const ControlliPlcal& controlli, int riga, int colonna) {
+std::string monthlySentence(const ControlliPlcal& controlli, const modpl&, int riga, int colonna) {
     const Griglia& Flxm = controlli.Flxm;
-    const auto day = giornoCella(controlli, TipoPlanner::Mensile, riga, colonna);
+    const auto day = mensile().giornoCella(controlli, riga, colonna);
     return day ? withDetails(nameAndDay(Flxm, riga, *day), kindsPresent(Flxm.cella(riga, colonna)))
                : utf8FromCp1252(Flxm.TextMatrix(riga, 0));
 }
@@ -71,7 +71,7 @@ std::string appointmentsAt(const Griglia& flxg, int riga, int colonna) {
     return std::to_string(count) + " impegni" + (kinds.empty() ? "" : " (" + kinds + ")");
 }
 
-std::string dailySentence(const ControlliPlcal& controlli, int riga, int colonna) {
+std::string dailySentence(const ControlliPlcal& controlli, const modpl&, int riga, int colonna) {
     const int quarter = colonna - 1;
     const std::string time = std::to_string(quarter / 4) + ":" + twoDigits(quarter % 4 * 15);
     return withDetails(nameAndDay(controlli.flxg, riga, controlli.calendario.Value()) + ", ore " + time,
@@ -79,7 +79,7 @@ std::string dailySentence(const ControlliPlcal& controlli, int riga, int colonna
 }
 
 std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna) {
-    const auto day = giornoCella(controlli, TipoPlanner::Annuale, riga, colonna);
+    const auto day = annuale().giornoCella(controlli, riga, colonna);
     if (!day) {
         return {};
     }
@@ -93,6 +93,14 @@ std::string yearlySentence(const ControlliPlcal& controlli, const modpl& session
     }
     return withDetails(dataEstesa(*day), join(totals));
 }
+
+struct FraseTipo {
+    TipoPlanner tipo;
+    std::string (*frase)(const ControlliPlcal&, const modpl&, int riga, int colonna);
+};
+constexpr std::array FrasiTipi{FraseTipo{TipoPlanner::Mensile, monthlySentence},
+                               FraseTipo{TipoPlanner::Giornaliero, dailySentence},
+                               FraseTipo{TipoPlanner::Annuale, yearlySentence}};
 
 /// True when the visible grid is the kind's and holds the row among its data.
 bool isShownRow(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
@@ -114,15 +122,9 @@ std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, T
         colonna >= controlli.griglia(tipo).Cols()) {
         return {};
     }
-    switch (tipo) {
-    case TipoPlanner::Mensile:
-        return monthlySentence(controlli, riga, colonna);
-    case TipoPlanner::Giornaliero:
-        return dailySentence(controlli, riga, colonna);
-    case TipoPlanner::Annuale:
-        return yearlySentence(controlli, sessione, riga, colonna);
-    }
-    return {};
+    return std::find_if(FrasiTipi.begin(), FrasiTipi.end(),
+                        [&](const FraseTipo& each) { return each.tipo == tipo; })
+        ->frase(controlli, sessione, riga, colonna);
 }
 
 std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {

@@ -128,18 +128,6 @@ TEST_F(PlcalLifecycleTest, HidingKeepsTheWindowLoadedAndAnswersNothing) {
     EXPECT_EQ(sessione.valret, "");
 }
 
-TEST_F(PlcalLifecycleTest, TheEngineIsMadeOnFirstUseAndReleasedAtUnload) {
-    open("M");
-    EXPECT_EQ(enginesMade, 0);
-    form.refreshGrid();
-    form.refreshGrid();
-    EXPECT_EQ(enginesMade, 1);
-    form.unload();
-    form.load();
-    form.refreshGrid();
-    EXPECT_EQ(enginesMade, 2);
-}
-
 TEST_F(PlcalLifecycleTest, TheExitButtonClosesTheWindow) {
     open("M");
     form.Toolbar1_ButtonClick("exit");

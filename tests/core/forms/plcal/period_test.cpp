@@ -13,7 +13,6 @@ class PeriodTest : public PlcalFixture {
 protected:
     void openPeriod(std::string_view tipo, std::string_view giorno, const char* first, const char* last) {
         sessione.PathArchivi = PlannerBench::Cartella;
-        sessione.tipoplanner = tipo;
         makeEngine()->Init_planner(std::string(tipo) + std::string(giorno), first, last, "  ");
     }
     std::string shown() { return formatDate(controlli.calendario.Value()); }
@@ -33,7 +32,7 @@ TEST_F(PeriodTest, NextMonthMovesCalendarHeaderTitleAndEntries) {
     EXPECT_EQ(controlli.Flxm.TextMatrix(1, 6), "1") << "1 April 2006 is a Saturday";
     EXPECT_EQ(controlli.Flxm.TextMatrix(1, 36), "");
     EXPECT_NE(controlli.Flxm.cella(3, 17).immagine, 0);
-    EXPECT_EQ(formatDate(sessione.DataSessione), "20060415");
+    EXPECT_EQ(formatDate(controlli.DataSessione()), "20060415");
 }
 
 TEST_F(PeriodTest, TheArchiveIsReadAgainWithEachMonth) {

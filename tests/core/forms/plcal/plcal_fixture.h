@@ -22,7 +22,6 @@ protected:
     /// Sets the window up for a request, as the engine does before it shows it.
     void open(std::string_view tipo, std::string_view giorno = "20060315") {
         sessione.PathArchivi = PlannerBench::Cartella;
-        sessione.tipoplanner = tipo;
         makeEngine()->Init_planner(std::string(tipo) + std::string(giorno), "20060101", "20061231", "  ");
         bench.journal.clear();
     }
@@ -36,7 +35,6 @@ protected:
     modpl& sessione = bench.sessione;
     ControlliPlcal& controlli = bench.controlli;
     FakeVista vista{bench.journal};
-    int enginesMade = 0;
     FakeFinestraImpegno finestraImpegno;
     FakeVistaPlfcollab vistaCollab{bench.journal};
     PlainCollation alfabeto;
@@ -44,11 +42,8 @@ protected:
     FakeFinestraGrafici finestraGrafici;
     plcal form{sessione,
                controlli,
-               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici, bench.orologio},
-               [this] {
-                   ++enginesMade;
-                   return makeEngine();
-               }};
+               bench.motore,
+               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici}};
 };
 
 } // namespace planner::test

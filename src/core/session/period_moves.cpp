@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/period_moves.h"
+#include "session/period_moves.h"
 
 namespace planner {
 
@@ -26,13 +26,6 @@ std::optional<int> bounded(int from, int to, int first, int last) {
     return getsOn && (target == to || from < first || from > last) ? std::optional(target) : std::nullopt;
 }
 
-std::optional<Data> moveByMonths(Data mostrata, int months, const PeriodoSessione& periodo) {
-    const int from = monthNumber(mostrata);
-    const auto target =
-        bounded(from, from + months, monthNumber(periodo.inizio()), monthNumber(periodo.fine()));
-    return target ? std::optional(withMonth(mostrata, *target)) : std::nullopt;
-}
-
 int dayNumber(Data data) {
     return static_cast<int>(std::chrono::sys_days(data).time_since_epoch().count());
 }
@@ -40,35 +33,30 @@ int dayNumber(Data data) {
 } // namespace
 
 std::optional<Data> moveMonth(Data mostrata, int mesi, const PeriodoSessione& periodo) {
-    return moveByMonths(mostrata, mesi, periodo);
+    const int from = monthNumber(mostrata);
+    const auto target = bounded(from, from + mesi, monthNumber(periodo.inizio), monthNumber(periodo.fine));
+    return target ? std::optional(withMonth(mostrata, *target)) : std::nullopt;
 }
 
 std::optional<Data> moveYear(Data mostrata, int anni, const PeriodoSessione& periodo) {
-    const bool spansYears = periodo.AnnoFine != periodo.AnnoInizio;
-    return spansYears ? moveByMonths(mostrata, anni * 12, periodo) : std::nullopt;
+    const bool spansYears = periodo.fine.year() != periodo.inizio.year();
+    return spansYears ? moveMonth(mostrata, anni * 12, periodo) : std::nullopt;
 }
 
 std::optional<Data> moveDay(Data mostrata, int giorni, const PeriodoSessione& periodo) {
     const int from = dayNumber(mostrata);
-    const auto target = bounded(from, from + giorni, dayNumber(periodo.inizio()), dayNumber(periodo.fine()));
+    const auto target = bounded(from, from + giorni, dayNumber(periodo.inizio), dayNumber(periodo.fine));
     return target ? std::optional<Data>(std::chrono::sys_days(std::chrono::days(*target))) : std::nullopt;
 }
 
-Data firstOfMonth(Data data) {
-    return {data.year(), data.month(), std::chrono::day{1}};
+PeriodoSessione wholeMonths(const PeriodoSessione& periodo) {
+    const auto& [inizio, fine] = periodo;
+    return {{inizio.year(), inizio.month(), std::chrono::day{1}},
+            fine.year() / fine.month() / std::chrono::last};
 }
 
-Data lastOfMonth(Data data) {
-    return Data{data.year() / data.month() / std::chrono::last};
-}
-
-bool monthInPeriod(Data data, const PeriodoSessione& periodo) {
-    return monthNumber(data) >= monthNumber(periodo.inizio()) &&
-           monthNumber(data) <= monthNumber(periodo.fine());
-}
-
-bool dayInPeriod(Data data, const PeriodoSessione& periodo) {
-    return periodo.inizio() <= data && data <= periodo.fine();
+PeriodoSessione wholeYear(Data data) {
+    return {data.year() / std::chrono::January / 1, data.year() / std::chrono::December / 31};
 }
 
 } // namespace planner

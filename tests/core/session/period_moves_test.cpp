@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/period_moves.h"
+#include "session/period_moves.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -14,10 +14,7 @@ Data day(std::string_view yyyymmdd) {
 }
 
 PeriodoSessione period(std::string_view first, std::string_view last) {
-    PeriodoSessione periodo;
-    periodo.setInizio(day(first));
-    periodo.setFine(day(last));
-    return periodo;
+    return {day(first), day(last)};
 }
 
 std::string moved(std::optional<Data> data) {
@@ -85,10 +82,7 @@ protected:
     PeriodoSessione randomPeriod() {
         Data a = randomDay(1999, 3);
         Data b = randomDay(1999, 3);
-        PeriodoSessione periodo;
-        periodo.setInizio(std::min(a, b));
-        periodo.setFine(std::max(a, b));
-        return periodo;
+        return {std::min(a, b), std::max(a, b)};
     }
     std::mt19937 random{20060315};
 };
@@ -97,16 +91,16 @@ TEST_F(RandomPeriods, EveryMonthInsideIsReachedAndNoneOutside) {
     for (int round = 0; round < 500; ++round) {
         const PeriodoSessione periodo = randomPeriod();
         std::set<std::string> reached;
-        Data shown = periodo.fine();
+        Data shown = periodo.fine;
         reached.insert(formatDate(shown).substr(0, 6));
         while (const auto next = moveMonth(shown, -1, periodo)) {
             shown = *next;
             ASSERT_TRUE(shown.ok());
-            ASSERT_TRUE(monthInPeriod(shown, periodo)) << formatDate(shown);
+            ASSERT_TRUE(wholeMonths(periodo).contiene(shown)) << formatDate(shown);
             reached.insert(formatDate(shown).substr(0, 6));
         }
-        const int months = (yearOf(periodo.fine()) - yearOf(periodo.inizio())) * 12 +
-                           monthOf(periodo.fine()) - monthOf(periodo.inizio()) + 1;
+        const int months = (yearOf(periodo.fine) - yearOf(periodo.inizio)) * 12 + monthOf(periodo.fine) -
+                           monthOf(periodo.inizio) + 1;
         EXPECT_EQ(static_cast<int>(reached.size()), months);
     }
 }
@@ -115,31 +109,30 @@ TEST_F(RandomPeriods, EveryDayInsideIsReachedAndNoneOutside) {
     for (int round = 0; round < 100; ++round) {
         const PeriodoSessione periodo = randomPeriod();
         int days = 1;
-        Data shown = periodo.inizio();
+        Data shown = periodo.inizio;
         while (const auto next = moveDay(shown, 1, periodo)) {
             ASSERT_EQ(std::chrono::sys_days(*next), std::chrono::sys_days(shown) + std::chrono::days(1));
             shown = *next;
-            ASSERT_TRUE(dayInPeriod(shown, periodo));
+            ASSERT_TRUE(periodo.contiene(shown));
             ++days;
         }
-        EXPECT_EQ(shown, periodo.fine());
+        EXPECT_EQ(shown, periodo.fine);
         EXPECT_EQ(days,
-                  (std::chrono::sys_days(periodo.fine()) - std::chrono::sys_days(periodo.inizio())).count() +
-                      1);
+                  (std::chrono::sys_days(periodo.fine) - std::chrono::sys_days(periodo.inizio)).count() + 1);
     }
 }
 
 TEST_F(RandomPeriods, AnyMixOfMovesKeepsTheDateValidAndInside) {
     for (int round = 0; round < 500; ++round) {
         const PeriodoSessione periodo = randomPeriod();
-        Data shown = periodo.inizio();
+        Data shown = periodo.inizio;
         for (int move = 0; move < 50; ++move) {
             const int step = random() % 2 == 0 ? 1 : -1;
             const auto next =
                 random() % 3 == 0 ? moveYear(shown, step, periodo) : moveMonth(shown, step, periodo);
             shown = next.value_or(shown);
             ASSERT_TRUE(shown.ok());
-            ASSERT_TRUE(monthInPeriod(shown, periodo));
+            ASSERT_TRUE(wholeMonths(periodo).contiene(shown));
         }
     }
 }

@@ -20,12 +20,9 @@ std::optional<Data> moveYear(Data mostrata, int anni, const PeriodoSessione& per
 /// One day back or forward; bounds are days.
 std::optional<Data> moveDay(Data mostrata, int giorni, const PeriodoSessione& periodo);
 
-/// True when the month of the day, respectively the day, belongs to the period.
-bool monthInPeriod(Data data, const PeriodoSessione& periodo);
-bool dayInPeriod(Data data, const PeriodoSessione& periodo);
-
-/// The first and the last day of the day's month.
-Data firstOfMonth(Data data);
-Data lastOfMonth(Data data);
+/// The period from its first month's first day to its last month's last.
+PeriodoSessione wholeMonths(const PeriodoSessione& periodo);
+/// From 1 January to 31 December of the day's year.
+PeriodoSessione wholeYear(Data data);
 
 } // namespace planner

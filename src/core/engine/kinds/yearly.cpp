@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "archive/numeric_value.h"
+#include "engine/contenuti.h"
+#include "grids/today.h"
+#include "session/period_moves.h"
+
+namespace planner {
+
+namespace {
+
+class Annuale final : public RegoleTipo {
+public:
+    constexpr Annuale()
+        : RegoleTipo({TipoPlanner::Annuale, "flxa", "Planner Annuale", &ControlliPlcal::flxa,
+                      /*perCollaboratore=*/false,
+                      /*unGiorno=*/false, &Contenuti::leggiAnnoMostrato, &Contenuti::PulisciGrid3,
+                      &Contenuti::showgrid3, &Contenuti::PopolaGrid3}) {}
+
+    /// The same day of the period's year; 29 February becomes 28 where the year lacks it.
+    Data giornoDaMostrare(Data giorno, Data inizio) const override {
+        const Data there{inizio.year(), giorno.month(), giorno.day()};
+        return there.ok() ? there : Data{inizio.year(), giorno.month(), std::chrono::day{28}};
+    }
+    std::string titolo(const modpl& sessione, const Calendario&, const std::string& collab) const override {
+        const std::string year = "Anno " + sessione.periodo.AnnoInizio();
+        return sessione.ModoFinestra == "N"
+                   ? year
+                   : year + " Impegni di: " +
+                         EstraiCollaboratore(sessione.archivi.Collaboratori, sessione.indiceCodici, collab);
+    }
+
+    void segnaOggi(ControlliPlcal& controlli, Data oggi) const override {
+        markTodayYearly(controlli.flxa, controlli.calendario, oggi);
+    }
+
+    PeriodoSessione limiti(const PeriodoSessione&, Data mostrata) const override {
+        return wholeYear(mostrata);
+    }
+    /// The host moves to the other year, wherever it lies: the shown day stays.
+    std::optional<Data> mossa(int, int, Data mostrata, const PeriodoSessione&) const override {
+        return mostrata;
+    }
+    bool mostraAnche(Data giorno, Data mostrata) const override { return giorno.year() == mostrata.year(); }
+
+    std::optional<Data> giornoCella(const ControlliPlcal& controlli, int riga, int colonna) const override {
+        const std::string_view text = trim(controlli.flxa.TextMatrix(riga, colonna));
+        return text.empty()
+                   ? std::nullopt
+                   : makeDate(controlli.calendario.Year(), riga, static_cast<int>(numericValue(text)));
+    }
+    int colonnaGiorno(const ControlliPlcal& controlli, int) const override {
+        const Calendario& calendario = controlli.calendario;
+        return colonnaIniziale(primoGiornoSettimana(calendario.Year(), calendario.Month())) +
+               calendario.Day() - 1;
+    }
+};
+
+constexpr Annuale Regole;
+
+} // namespace
+
+const RegoleTipo& annuale() {
+    return Regole;
+}
+
+} // namespace planner
