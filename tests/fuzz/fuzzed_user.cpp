@@ -45,7 +45,7 @@ void FuzzedUser::act(FuzzInput& input) {
 }
 
 void FuzzedUser::leave() {
-    form.Form_KeyDown(plcal::TastoEscape);
+    form.Form_KeyDown(TastoEscape);
     require(sessione.FinePlanner, "Escape ends the session");
     requireSoundState();
 }

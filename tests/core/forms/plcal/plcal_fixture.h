@@ -44,7 +44,8 @@ protected:
     FakeFinestraGrafici finestraGrafici;
     plcal form{sessione,
                controlli,
-               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici, bench.orologio},
+               {vista, bench.messaggi, std::ref(finestraImpegno), collaboratori, std::ref(finestraGrafici),
+                bench.orologio},
                [this] {
                    ++enginesMade;
                    return makeEngine();
