@@ -3,6 +3,8 @@
 #include "ui/planner_windows.h"
 
 #include "ui/kit/screen_scale.h"
+#include "ui/plfgraf/chart_dialog.h"
+#include "ui/plfimp/plfimp_dialog.h"
 
 #include <QScreen>
 
@@ -10,10 +12,11 @@ namespace planner {
 
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti,
                                MessageBoxes& messaggi)
-    : vista(sessione, controlli), finestraGrafici(messaggi),
+    : vista(sessione, controlli),
       collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
       finestra(sessione, controlli, contenuti,
-               {vista, messaggi, finestraImpegno, collaboratori, finestraGrafici}) {
+               {vista, messaggi, chiediImpegno, collaboratori,
+                [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); }}) {
     fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);

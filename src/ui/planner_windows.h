@@ -5,8 +5,6 @@
 #include "forms/plcal/plcal.h"
 #include "ui/plcal/plcal_window.h"
 #include "ui/plfcollab/plfcollab_window.h"
-#include "ui/plfgraf/plfgraf_dialog.h"
-#include "ui/plfimp/plfimp_dialog.h"
 #include "ui/ports/qt_collation.h"
 
 namespace planner {
@@ -16,8 +14,6 @@ struct PlannerWindows {
     PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, MessageBoxes& messaggi);
 
     PlcalWindow vista;
-    PlfimpDialog finestraImpegno;
-    PlfgrafDialog finestraGrafici;
     QtCollation alfabeto;
     PlfcollabWindow vistaCollab;
     plfcollab collaboratori;

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/chart_properties.h"
 
-#include "archive/cp1252.h"
 #include "core/forms/plfgraf/chart_samples.h"
 #include "forms/plfgraf/chart_texts.h"
 #include "fuzz/fuzz_input.h"
+#include "sample_archive/cp1252_from_utf8.h"
 
 #include <algorithm>
 #include <cmath>

@@ -7,6 +7,7 @@
 #include "forms/plfgraf/chart_texts.h"
 #include "fuzz/fuzz_input.h"
 #include "ports/runtime_errors.h"
+#include "sample_archive/cp1252_from_utf8.h"
 #include "session/calendar_rules.h"
 
 #include <cmath>

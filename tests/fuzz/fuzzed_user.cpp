@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/fuzzed_user.h"
 
-#include "archive/cp1252.h"
 #include "forms/plcal/design.h"
 #include "fuzz/chart_properties.h"
+#include "sample_archive/cp1252_from_utf8.h"
 
 namespace planner::test {
 
@@ -45,7 +45,7 @@ void FuzzedUser::act(FuzzInput& input) {
 }
 
 void FuzzedUser::leave() {
-    form.Form_KeyDown(plcal::TastoEscape);
+    form.Form_KeyDown(TastoEscape);
     require(sessione.FinePlanner, "Escape ends the session");
     requireSoundState();
 }

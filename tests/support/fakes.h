@@ -6,7 +6,6 @@
 #include "forms/plcal/design.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/vista_plfcollab.h"
-#include "forms/plfgraf/finestra_grafici.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "forms/plfimp/plfimp.h"
 #include "ports/clock.h"
@@ -172,9 +171,8 @@ private:
 };
 
 /// The appointment-type dialog: `user` presses its buttons, and without one closes it otherwise.
-class FakeFinestraImpegno : public FinestraImpegno {
-public:
-    void chiedi(plfimp& form) override {
+struct FakeFinestraImpegno {
+    void operator()(plfimp& form) {
         ++asked;
         if (user) {
             user(form);
@@ -186,9 +184,8 @@ public:
 };
 
 /// The chart window: keeps the charts that it was to show.
-class FakeFinestraGrafici : public FinestraGrafici {
-public:
-    void mostra(plfgraf& form) override { shown.push_back(*form.visibile()); }
+struct FakeFinestraGrafici {
+    void operator()(plfgraf& form) { shown.push_back(*form.visibile()); }
 
     std::vector<Grafico> shown;
 };

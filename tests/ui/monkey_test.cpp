@@ -132,7 +132,7 @@ TEST_P(MonkeyTest, FiveThousandRandomEventsEndWithAValidAnswer) {
             bench.open(GetParam());
         }
     }
-    bench.finestra.Form_KeyDown(plcal::TastoEscape);
+    bench.finestra.Form_KeyDown(TastoEscape);
     EXPECT_TRUE(validAnswer(bench.reply())) << bench.reply();
     EXPECT_EQ(bench.reply().back(), 'E');
 }

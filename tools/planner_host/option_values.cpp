@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "planner_host/option_values.h"
 
-#include "archive/cp1252.h"
 #include "planner_host/errors.h"
+#include "sample_archive/cp1252_from_utf8.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sample_archive/staff_list.h"
 
-#include "archive/cp1252.h"
+#include "sample_archive/cp1252_from_utf8.h"
 
 #include <array>
 #include <set>

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,9 +14,5 @@ extern const std::array<char16_t, 256> Cp1252Characters;
 
 /// Windows-1252 bytes as UTF-8.
 std::string utf8FromCp1252(std::string_view bytes);
-
-/// UTF-8 as Windows-1252 bytes; nothing when the text is not UTF-8 or holds a character that the code page
-/// lacks.
-std::optional<std::string> cp1252FromUtf8(std::string_view text);
 
 } // namespace planner

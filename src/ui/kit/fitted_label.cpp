@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/fitted_label.h"
 
-#include "ui/kit/text.h"
+#include "ui/kit/controls.h"
 
-#include <QHelpEvent>
 #include <QPainter>
-#include <QToolTip>
 
 namespace planner {
 
@@ -21,12 +19,8 @@ QSize FittedLabel::minimumSizeHint() const {
 }
 
 bool FittedLabel::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return PlainLabel::event(event);
-    }
-    const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), fitted().cut ? plainToolTip(text()) : QString(), this);
-    return true;
+    return showToolTip(*event, *this, [this](QPoint) { return fitted().cut ? text() : QString(); }) ||
+           PlainLabel::event(event);
 }
 
 void FittedLabel::changeEvent(QEvent* event) {

@@ -3,7 +3,7 @@
 #include "ui/kit/guarded_application.h"
 
 #include "ports/guard.h"
-#include "ui/kit/text.h"
+#include "ui/kit/controls.h"
 
 #include <QKeyEvent>
 
@@ -14,7 +14,7 @@ namespace {
 constexpr quint64 SamePress = 5; // ms between a release and a press that no finger makes
 
 bool isAnswer(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return event.key() == Qt::Key_Escape || isEnter(event);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "ui/kit/tool_commands.h"
 
 #include "ui/kit/appearance.h"
-#include "ui/kit/text.h"
+#include "ui/kit/controls.h"
 
 #include <QAction>
 #include <QLayout>
@@ -30,11 +30,6 @@ void setMargin(QToolBar& bar, int margin) {
     bar.layout()->setContentsMargins(margin, margin, margin, margin);
 }
 
-QString tipText(const QString& caption, const QKeySequence& keys) {
-    return keys.isEmpty() ? caption
-                          : QStringLiteral("%1 (%2)").arg(caption, keys.toString(QKeySequence::NativeText));
-}
-
 } // namespace
 
 void setUpToolBar(QToolBar& bar) {
@@ -58,7 +53,7 @@ QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
     QAction* action = bar.addAction(qtIcon(command.picture), caption);
     action->setObjectName(command.name);
     action->setIconText(buttonText(caption));
-    action->setToolTip(tipText(caption, QKeySequence(fromUtf8(command.keys))));
+    action->setToolTip(captionWithKeys(caption, {QKeySequence(fromUtf8(command.keys))}));
     bar.widgetForAction(action)->setAccessibleName(caption);
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     return action;

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/detail_panel.h"
 
+#include "forms/plcal/panel.h"
+#include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
-#include "ui/kit/text.h"
 
 #include <QFrame>
 
@@ -12,11 +13,6 @@ namespace planner {
 namespace {
 
 constexpr QRgb BoxEdgeColor = qRgb(136, 136, 136);
-
-void place(QWidget& label, const Rettangolo& twips, const Scala& scala) {
-    const Rettangolo place = pixels(twips, scala);
-    label.setGeometry(place.Left, place.Top, place.Width, place.Height);
-}
 
 /// A field that stands out from the window in light and in dark.
 QFrame* makeBox(QWidget* parent) {
@@ -51,8 +47,10 @@ void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta,
         const bool visible = totaleVisibile(*coppia.etichetta, tipo, varianteRidotta);
         coppia.didascalia->setVisible(visible);
         coppia.riquadro->setVisible(visible);
-        place(*coppia.didascalia, posizioneDidascalia(*coppia.etichetta, varianteRidotta), scala);
-        place(*coppia.riquadro, posizioneNumero(*coppia.etichetta, varianteRidotta), scala);
+        const Rettangolo caption = posizioneDidascalia(*coppia.etichetta, varianteRidotta);
+        const Rettangolo number = posizioneNumero(*coppia.etichetta, varianteRidotta);
+        coppia.didascalia->setGeometry(qtRect(pixels(caption, scala)));
+        coppia.riquadro->setGeometry(qtRect(pixels(number, scala)));
         coppia.numero->setGeometry(coppia.riquadro->rect());
     }
 }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plcal/panel.h"
-
 #include <QObject>
 
+#include <optional>
 #include <vector>
 
 class QFrame;
@@ -13,6 +12,11 @@ class QLabel;
 class QWidget;
 
 namespace planner {
+
+enum class TipoPlanner : char;
+struct EtichettaTotale;
+struct PannelloDettagli;
+struct Scala;
 
 /// The labels of the totals: a static caption and a number for each.
 class DetailPanel : public QObject {

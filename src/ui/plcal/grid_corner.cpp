@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/grid_corner.h"
 
-#include "ui/kit/text.h"
+#include "engine/kinds/kind.h"
+#include "forms/plcal/design.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/controls.h"
+#include "ui/plcal/cell_painter.h"
 
-#include <QHelpEvent>
-#include <QKeySequence>
 #include <QPainter>
+#include <QShortcut>
 #include <QToolButton>
-#include <QToolTip>
 
 #include <algorithm>
 #include <numeric>
@@ -24,9 +26,8 @@ QPalette lightButtonPalette() {
     return palette;
 }
 
-QString shortcutText(const PulsantePeriodo& described) {
-    return QKeySequence::listToString(QKeySequence::listFromString(fromUtf8(described.scorciatoia)),
-                                      QKeySequence::NativeText);
+QList<QKeySequence> keysOf(const PulsantePeriodo& described) {
+    return QKeySequence::listFromString(fromUtf8(described.scorciatoia));
 }
 
 } // namespace
@@ -45,13 +46,23 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
     button->setObjectName(fromUtf8(described.gruppo) + QString::number(described.indice));
     button->setIcon(qtIcon(described.immagine));
     button->setPalette(lightButtonPalette());
-    button->setToolTip(fromUtf8(described.suggerimento) + QStringLiteral(" (") + shortcutText(described) +
-                       QLatin1Char(')'));
-    button->setAccessibleName(fromUtf8(described.suggerimento));
+    const QString caption = fromUtf8(described.suggerimento);
+    button->setToolTip(captionWithKeys(caption, keysOf(described)));
+    button->setAccessibleName(caption);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this,
             [this, &described] { Q_EMIT periodButtonClicked(described); });
+    addKeys(described, *button);
     m_buttons.emplace_back(&described, button);
+}
+
+void GridCorner::addKeys(const PulsantePeriodo& described, QToolButton& button) {
+    for (const QKeySequence& keys : keysOf(described)) {
+        auto* shortcut = new QShortcut(keys, this);
+        // In the yearly planner they answer the host: a held key is not to reach the next request.
+        shortcut->setAutoRepeat(regole(described.tipo).perCollaboratore);
+        connect(shortcut, &QShortcut::activated, &button, &QToolButton::click);
+    }
 }
 
 void GridCorner::setRowHeights(const std::vector<int>& heights) {
@@ -61,9 +72,11 @@ void GridCorner::setRowHeights(const std::vector<int>& heights) {
 
 void GridCorner::placeButtons(float scalaX) {
     for (const auto& [described, button] : m_buttons) {
-        const Rettangolo place = pulsantePeriodo(cellOf(described->riga), described->successivo, scalaX);
-        button->setGeometry(place.Left, place.Top, place.Width, place.Height);
-        button->setIconSize(QSize(place.Width, place.Height) - QSize(4, 4));
+        const QRect cell = cellOf(described->riga);
+        const Rettangolo place =
+            pulsantePeriodo({cell.x(), cell.y(), cell.width(), cell.height()}, described->successivo, scalaX);
+        button->setGeometry(qtRect(place));
+        button->setIconSize(button->size() - QSize(4, 4));
     }
 }
 
@@ -78,18 +91,13 @@ void GridCorner::updateButtons(const std::function<bool(const PulsantePeriodo&)>
     }
 }
 
-Rettangolo GridCorner::cellOf(int row) const {
+QRect GridCorner::cellOf(int row) const {
     const auto index = static_cast<std::size_t>(row);
     if (index >= m_heights.size()) {
         return {}; // the header is not laid out yet
     }
     const int top = std::accumulate(m_heights.begin(), m_heights.begin() + row, 0);
     return {0, top, width(), m_heights[index]};
-}
-
-QRect GridCorner::placeOf(int row) const {
-    const Rettangolo cell = cellOf(row);
-    return {cell.Left, cell.Top, cell.Width, cell.Height};
 }
 
 int GridCorner::roomForButtons(int row) const {
@@ -105,8 +113,8 @@ int GridCorner::roomForButtons(int row) const {
 
 QString GridCorner::toolTipAt(const QPoint& position) const {
     for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
-        if (placeOf(row).contains(position) &&
-            m_painter.cut(placeOf(row), m_griglia, row, 0, roomForButtons(row))) {
+        if (cellOf(row).contains(position) &&
+            m_painter.cut(cellOf(row), m_griglia, row, 0, roomForButtons(row))) {
             return fromCp1252(m_griglia.TextMatrix(row, 0));
         }
     }
@@ -114,18 +122,14 @@ QString GridCorner::toolTipAt(const QPoint& position) const {
 }
 
 bool GridCorner::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return QWidget::event(event);
-    }
-    const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), this);
-    return true;
+    return showToolTip(*event, *this, [this](QPoint position) { return toolTipAt(position); }) ||
+           QWidget::event(event);
 }
 
 void GridCorner::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
-        m_painter.paint(painter, placeOf(row), m_griglia, row, 0, roomForButtons(row));
+        m_painter.paint(painter, cellOf(row), m_griglia, row, 0, roomForButtons(row));
     }
 }
 

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plcal/design.h"
-#include "ui/plcal/cell_painter.h"
-
 #include <QWidget>
 
 #include <functional>
@@ -14,7 +11,13 @@ class QToolButton;
 
 namespace planner {
 
-/// A grid's top left fixed cells, with the period buttons on them.
+class CellPainter;
+class Griglia;
+enum class TipoPlanner : char;
+struct PulsantePeriodo;
+
+/// A grid's top left fixed cells, with the period buttons on them. Their keys work in the whole window while
+/// the corner is in sight.
 class GridCorner : public QWidget {
     Q_OBJECT
 public:
@@ -36,8 +39,8 @@ protected:
 
 private:
     void addButton(const PulsantePeriodo& described);
-    Rettangolo cellOf(int row) const;
-    QRect placeOf(int row) const;
+    void addKeys(const PulsantePeriodo& described, QToolButton& button);
+    QRect cellOf(int row) const;
     int roomForButtons(int row) const;
     QString toolTipAt(const QPoint& position) const;
 

@@ -2,34 +2,39 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/controls.h"
 #include "forms/plcal/design.h"
-#include "forms/plcal/geometry.h"
 #include "forms/plcal/gesti.h"
-#include "ui/plcal/cell_painter.h"
-#include "ui/plcal/grid_model.h"
 
 #include <QTableView>
 
+#include <functional>
+
 namespace planner {
 
+class CellPainter;
 class GridCorner;
 class GridHeader;
+class GridModel;
 
 /// One of the planner's grids on the screen: header rows and names stay in sight, the rest scrolls.
 class GridView : public QTableView {
     Q_OBJECT
 public:
-    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, GridModel::Frase frase,
-             QWidget* parent);
+    /// `frase` gives a sentence on a cell.
+    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
+             std::function<std::string(int riga, int colonna)> frase, QWidget* parent);
+
+    const Griglia& griglia() const;
 
     /// The factors that turn the grid's twips into pixels.
     void setScala(const Scala& scala);
     void placeButtons();
     /// Makes a grid column, counted from 1, the first one in sight.
     void scrollToColumn(int colonna);
-    /// Makes the grid's current cell the view's, without scrolling and without an event.
+    /// The current cell is the grid's; what the toolkit takes for it follows, without scrolling and without
+    /// an event.
     void showCurrentCell();
+    void scrollToCurrentCell();
     /// Disables the period buttons that would do nothing.
     void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
     /// Shows or hides the corner too.
@@ -62,6 +67,7 @@ protected:
 private:
     void setUpBehaviour();
     void connectEvents();
+    QModelIndex currentCell() const;
     void announce(const QModelIndex& index, Mezzo mezzo);
     static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
     void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);

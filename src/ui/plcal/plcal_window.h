@@ -3,14 +3,13 @@
 #pragma once
 
 #include "engine/controls.h"
-#include "forms/plcal/plcal.h"
 #include "forms/plcal/vista_plcal.h"
 #include "ui/plcal/cell_painter.h"
 
 #include <QTimer>
 #include <QWidget>
 
-class QShortcut;
+#include <array>
 
 namespace planner {
 
@@ -19,6 +18,8 @@ class DetailPanel;
 class FittedLabel;
 class GridView;
 class ShownCalendar;
+struct modpl;
+class plcal;
 
 /// The planner window's widgets. It decides nothing: events go to `plcal`, contents come from its data and
 /// from the controls'.
@@ -45,6 +46,10 @@ public:
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
 
+Q_SIGNALS:
+    /// Everything is shown anew: once for each event.
+    void refreshed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
@@ -53,17 +58,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    GridView* makeGrid(TipoPlanner tipo);
+    GridView* makeGrid(TipoPlanner tipo, std::string_view name, std::string_view spoken);
     void awaitMidnight();
-    void nameControls();
     void connectEvents();
     void connectGrid(GridView& grid);
-    void addPeriodShortcuts();
-    void pressPeriodKeys(const QKeySequence& keys);
     void showMenu(const QPoint& globalPosition);
     void updateCalendar();
     void updateGrid();
-    void place(QWidget& widget, const Rettangolo& twips) const;
     void setSmallestSize();
     void fillRemainingSpace();
     GridView* visibleGrid() const;
@@ -80,10 +81,7 @@ private:
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
     DetailPanel* m_panel;
-    GridView* m_Flxm;
-    GridView* m_flxg;
-    GridView* m_flxa;
-    std::vector<QShortcut*> m_periodKeys;
+    std::array<GridView*, 3> m_grids;
     QTimer m_mezzanotte;
     bool m_pressedHere = false;    // the mouse, since the window was shown for this request
     bool m_untouched = true;       // the user has done nothing since then

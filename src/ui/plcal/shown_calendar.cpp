@@ -43,10 +43,15 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
         days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
     }
     colourDays();
-    connect(this, &QCalendarWidget::clicked, this, &ShownCalendar::pick);
+    connect(this, &QCalendarWidget::clicked, this, [this](QDate day) {
+        if (day != m_selected) { // else it is announced already
+            pick(day);
+        }
+    });
     connect(this, &QCalendarWidget::selectionChanged, this, [this] {
         if (!m_byCode) {
-            pick(selectedDate());
+            m_selected = selectedDate();
+            pick(m_selected);
         }
     });
 }
@@ -115,6 +120,9 @@ void ShownCalendar::resizeEvent(QResizeEvent* event) {
 }
 
 bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_selected = QDate();
+    }
     return event->type() == QEvent::Wheel || QCalendarWidget::eventFilter(watched, event);
 }
 

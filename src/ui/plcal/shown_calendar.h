@@ -31,6 +31,7 @@ private:
     void pick(QDate day);
 
     bool m_byCode = false;
+    QDate m_selected; // the day that the user has selected since the mouse was pressed last
 };
 
 } // namespace planner

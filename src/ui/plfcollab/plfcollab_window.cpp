@@ -2,19 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plfcollab/plfcollab_window.h"
 
+#include "forms/plfcollab/plfcollab.h"
 #include "ui/kit/appearance.h"
+#include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/screen_scale.h"
-#include "ui/kit/text.h"
 #include "ui/kit/tool_commands.h"
 #include "ui/plfcollab/staff_list_view.h"
-#include "ui/plfcollab/staff_toolbar.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QToolBar>
 #include <QToolButton>
 
 namespace planner {
@@ -27,7 +29,7 @@ constexpr int ArrowSide = 20; // beside letters of the designed size
 } // namespace
 
 PlfcollabWindow::PlfcollabWindow()
-    : m_toolbar(new StaffToolbar(this)), m_list(new StaffListView(this)), m_count(new FittedLabel(this)) {
+    : m_toolbar(makeToolbar()), m_list(new StaffListView(this)), m_count(new FittedLabel(this)) {
     setObjectName(QStringLiteral("plfcollab"));
     setWindowTitle(QStringLiteral("Selezione Collaboratori"));
     m_list->setObjectName(QStringLiteral("List_Prenotazione"));
@@ -52,6 +54,33 @@ void PlfcollabWindow::layOut() {
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(m_toolbar);
     outer->addLayout(inner, 1);
+}
+
+/// The toolbar `Toolbar_pren`: one action per command, with separators between.
+QToolBar* PlfcollabWindow::makeToolbar() {
+    auto* bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("Toolbar_pren"));
+    bar->setAccessibleName(QStringLiteral("Comandi"));
+    setUpToolBar(*bar);
+    int next = static_cast<int>(ComandiCollab.front().posizione);
+    for (const DescrizioneComandoCollab& described : ComandiCollab) {
+        if (static_cast<int>(described.posizione) > next) {
+            bar->addSeparator();
+        }
+        addCommand(*bar, described);
+        next = static_cast<int>(described.posizione) + 1;
+    }
+    return bar;
+}
+
+void PlfcollabWindow::addCommand(QToolBar& bar, const DescrizioneComandoCollab& described) {
+    const int indice = static_cast<int>(described.posizione);
+    QAction* action = addToolCommand(bar, {QStringLiteral("Toolbar_pren_") + QString::number(indice),
+                                           described.didascalia, described.immagine, described.scorciatoia});
+    if (described.posizione != ComandoCollab::conferma) { // Enter is for the button that has the focus, first
+        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    }
+    connect(action, &QAction::triggered, this, [this, indice] { m_form->Toolbar_pren_ButtonClick(indice); });
 }
 
 QWidget* PlfcollabWindow::makeArrows() {
@@ -80,8 +109,6 @@ QWidget* PlfcollabWindow::makeArrows() {
 }
 
 void PlfcollabWindow::connectEvents() {
-    connect(m_toolbar, &StaffToolbar::ButtonClick, this,
-            [this](int indice) { m_form->Toolbar_pren_ButtonClick(indice); });
     connect(m_list, &StaffListView::rowSelected, this,
             [this](std::optional<int> riga) { m_form->List_Prenotazione_ItemClick(riga); });
     connect(m_list, &StaffListView::checkRequested, this,
@@ -177,27 +204,17 @@ void PlfcollabWindow::closeEvent(QCloseEvent* event) {
 
 void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
     // No shortcuts: those are deaf until the window system has made the window the active one.
-    switch (event->key()) {
-    case Qt::Key_Escape:
-        m_form->unload();
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        pressEnter();
-        break;
-    case Qt::Key_F3:
-        m_form->cercaAncora();
-        break;
-    default:
-        QWidget::keyPressEvent(event);
+    if (clickFocusedButton(*this, *event)) {
+        return;
     }
-}
-
-void PlfcollabWindow::pressEnter() {
-    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget())) {
-        button->click();
-    } else {
+    if (event->key() == Qt::Key_Escape) {
+        m_form->unload();
+    } else if (isEnter(*event)) {
         m_form->Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));
+    } else if (event->key() == Qt::Key_F3) {
+        m_form->cercaAncora();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

@@ -2,18 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plfcollab/plfcollab.h"
+#include "forms/plfcollab/vista_plfcollab.h"
 
 #include <QPointer>
 #include <QWidget>
 
 class QInputDialog;
 class QLabel;
+class QToolBar;
 
 namespace planner {
 
 class StaffListView;
-class StaffToolbar;
+class plfcollab;
+struct DescrizioneComandoCollab;
 
 /// The staff window's widgets: a window of its own beside the planner's. It decides nothing: events go to
 /// `plfcollab`, contents come from its list.
@@ -41,14 +43,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QToolBar* makeToolbar();
+    void addCommand(QToolBar& bar, const DescrizioneComandoCollab& described);
     QWidget* makeArrows();
     void layOut();
     void connectEvents();
     void fitToScreen();
-    void pressEnter();
 
     plfcollab* m_form = nullptr;
-    StaffToolbar* m_toolbar;
+    QToolBar* m_toolbar;
     StaffListView* m_list;
     QWidget* m_arrows = nullptr;
     QLabel* m_count;

@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plfcollab/staff_list_view.h"
 
-#include "ui/kit/text.h"
+#include "ui/kit/controls.h"
 #include "ui/plfcollab/staff_list_delegate.h"
 #include "ui/plfcollab/staff_list_model.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -157,16 +155,12 @@ void StaffListView::focusInEvent(QFocusEvent* event) {
 }
 
 bool StaffListView::viewportEvent(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return QTreeView::viewportEvent(event);
-    }
-    // Only a text that its column cuts off needs one.
-    const auto* help = static_cast<QHelpEvent*>(event);
-    const QModelIndex index = indexAt(help->pos());
-    const bool cut = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
-    QToolTip::showText(help->globalPos(), cut ? plainToolTip(index.data().toString()) : QString(),
-                       viewport());
-    return true;
+    const auto cutText = [this](QPoint position) {
+        const QModelIndex index = indexAt(position);
+        const bool cut = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
+        return cut ? index.data().toString() : QString();
+    };
+    return showToolTip(*event, *viewport(), cutText) || QTreeView::viewportEvent(event);
 }
 
 void StaffListView::bringIntoView(int riga) {

@@ -3,24 +3,25 @@
 #include "ui/plfgraf/chart_dialog.h"
 
 #include "forms/plfgraf/chart_texts.h"
+#include "forms/plfgraf/plfgraf.h"
+#include "ports/message_boxes.h"
 #include "ui/kit/appearance.h"
+#include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/screen_scale.h"
-#include "ui/kit/text.h"
 #include "ui/plfgraf/chart_kind_frame.h"
 #include "ui/plfgraf/chart_view.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScreen>
 
 namespace planner {
 
 namespace {
 
-constexpr int TastoEscape = 27;
 constexpr double ScreenShare = 0.9; // of the screen, in each direction, that the window takes at first
 constexpr int StripMargin = 3;      // above and below what stands in the strip below the chart, pixels
 constexpr int StripGap = 6;
@@ -31,15 +32,8 @@ constexpr int NarrowestStatus = 120;
 const QString Suggerimento = QStringLiteral("Frecce o mouse: leggere i valori.");
 
 QRect pixelRect(const Rettangolo& twips) {
-    return {twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel,
-            twips.Height / TwipsPerPixel};
-}
-
-QString chartName(const plfgraf& form) {
-    const Grafico* chart = form.visibile();
-    return chart == &form.MSChartm()   ? QStringLiteral("MSChartm")
-           : chart == &form.MSChartg() ? QStringLiteral("MSChartg")
-                                       : QStringLiteral("MSCharta");
+    return qtRect({twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel,
+                   twips.Height / TwipsPerPixel});
 }
 
 /// The font of what stands outside the chart: the strip below it has one height on every screen.
@@ -57,13 +51,6 @@ int widthOf(const QPushButton& button) {
     return button.sizeHint().width() + ButtonPadding;
 }
 
-const Rettangolo& chartPosition(const plfgraf& form) {
-    const Grafico* chart = form.visibile();
-    return chart == &form.MSChartm()   ? form.posizioneMSChartm()
-           : chart == &form.MSChartg() ? form.posizioneMSChartg()
-                                       : form.posizioneMSCharta();
-}
-
 } // namespace
 
 ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
@@ -76,7 +63,7 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     setFont(stripFont(m_fontFactor));
     const QString heading = fromUtf8(testoIntestazione(grafico()));
     setAccessibleDescription(heading);
-    m_chart->setObjectName(chartName(form));
+    m_chart->setObjectName(fromUtf8(grafico().nome));
     m_chart->setAccessibleName(QStringLiteral("Grafico"));
     m_chart->setAccessibleDescription(heading);
     m_stato->setObjectName(QStringLiteral("stato"));
@@ -108,30 +95,21 @@ ChartKindFrame* ChartDialog::makeFrame() {
     frame->setFont(qtFont({"MS Sans Serif", carattere(Carattere::normale).punti, false}, m_fontFactor));
     auto* layout = new QHBoxLayout(frame);
     for (int index = 0; index < static_cast<int>(OpzioniTipoGrafico.size()); ++index) {
-        auto* option =
-            new QRadioButton(fromUtf8(OpzioniTipoGrafico.at(static_cast<std::size_t>(index))), frame);
-        option->setObjectName(QStringLiteral("OptTipoGrafico_") + QString::number(index));
-        option->setChecked(index == m_form.OptTipoGrafico());
-        connect(option, &QRadioButton::toggled, this, [this, index](bool checked) {
-            if (checked) {
-                m_form.OptTipoGrafico_Click(index);
-                m_chart->refresh();
-            }
-        });
-        layout->addWidget(option);
+        const std::string_view caption = OpzioniTipoGrafico.at(static_cast<std::size_t>(index));
+        addOption(*layout,
+                  {QStringLiteral("OptTipoGrafico_"), index, caption, index == m_form.OptTipoGrafico()},
+                  [this](int chosen) {
+                      m_form.OptTipoGrafico_Click(chosen);
+                      m_chart->refresh();
+                  });
     }
     return frame;
 }
 
 void ChartDialog::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape) {
-        if (plfgraf::Form_KeyDown(TastoEscape)) {
-            close();
-        }
-    } else if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()); enter && button != nullptr) {
-        button->click();
-    } else {
+    if (plfgraf::Form_KeyDown(virtualKey(*event))) {
+        close();
+    } else if (!clickFocusedButton(*this, *event)) {
         QWidget::keyPressEvent(event); // a dialog would look for a default button
     }
 }
@@ -144,7 +122,7 @@ void ChartDialog::resizeEvent(QResizeEvent*) {
 }
 
 void ChartDialog::placeControls() {
-    m_chart->setGeometry(pixelRect(chartPosition(m_form)));
+    m_chart->setGeometry(pixelRect(m_form.posizioneGrafici()));
     m_frame->setGeometry(pixelRect(m_form.posizioneFrameTipo_Grafico()));
     m_frame->raise();
     m_chart->setReserved(m_frame->geometry().translated(-m_chart->pos()));
@@ -177,6 +155,10 @@ void ChartDialog::showValue(const QModelIndex& index) {
         const QString heading = fromUtf8(testoIntestazione(grafico()));
         say(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
     }
+}
+
+void mostraGrafico(plfgraf& form, MessageBoxes& messaggi) {
+    ChartDialog(form, messaggi, QApplication::activeWindow()).exec();
 }
 
 } // namespace planner

@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plfgraf/plfgraf.h"
-#include "ports/message_boxes.h"
-
 #include <QDialog>
 
+#include <cstdint>
 #include <vector>
 
 class QPushButton;
@@ -16,6 +14,9 @@ namespace planner {
 class ChartKindFrame;
 class ChartView;
 class FittedLabel;
+class MessageBoxes;
+class plfgraf;
+enum class ComandoGrafico : std::uint8_t;
 struct Drawing;
 struct Grafico;
 
@@ -58,5 +59,8 @@ private:
     FittedLabel* m_stato;
     std::vector<QPushButton*> m_buttons; // from left to right
 };
+
+/// Shows the visible chart of `form` over the active window; returns when the window is closed.
+void mostraGrafico(plfgraf& form, MessageBoxes& messaggi);
 
 } // namespace planner

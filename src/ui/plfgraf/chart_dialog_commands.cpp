@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plfgraf/chart_texts.h"
+#include "forms/plfgraf/plfgraf.h"
+#include "ports/message_boxes.h"
+#include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
-#include "ui/kit/text.h"
 #include "ui/plfgraf/chart_dialog.h"
 #include "ui/plfgraf/chart_export.h"
 #include "ui/plfgraf/chart_view.h"
@@ -54,8 +56,7 @@ QPushButton* ChartDialog::makeButton(QAction* command) {
     auto* button = new QPushButton(command->text(), this);
     button->setObjectName(QStringLiteral("pulsante_") + command->objectName());
     button->setAutoDefault(false);
-    const QString tip = command->text() + QStringLiteral(" (") +
-                        command->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')');
+    const QString tip = captionWithKeys(command->text(), {command->shortcut()});
     button->setToolTip(plainToolTip(tip));
     button->setAccessibleDescription(tip); // else a screen reader would read the tool tip's markup
     connect(button, &QPushButton::clicked, command, &QAction::trigger);

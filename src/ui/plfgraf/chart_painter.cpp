@@ -4,10 +4,10 @@
 
 #include "ui/kit/appearance.h"
 #include "ui/kit/text.h"
+#include "ui/plfgraf/chart_shapes.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <numbers>
@@ -27,14 +27,6 @@ QColor colourOf(Rgb value) {
     return {value.red, value.green, value.blue};
 }
 
-QRectF rectOf(const ChartArea& area) {
-    return {area.x, area.y, area.width, area.height};
-}
-
-QPointF pointOf(ChartPoint point) {
-    return {point.x, point.y};
-}
-
 QFont fontFor(const DescrizioneCarattere& described, double factor) {
     QFont font = qtFont(described, factor);
     font.setPixelSize(std::max(qRound(font.pointSizeF() * PixelsPerPoint), 1));
@@ -48,38 +40,6 @@ QString fitted(const QString& text, const QFont& font, double width) {
     return metrics.horizontalAdvance(text) <= width + tolerance
                ? text
                : metrics.elidedText(text, Qt::ElideRight, width);
-}
-
-QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice) {
-    const QPointF centre = pointOf(layout.pieCentre);
-    const QRectF circle(centre.x() - layout.pieRadius, centre.y() - layout.pieRadius, 2 * layout.pieRadius,
-                        2 * layout.pieRadius);
-    QPainterPath path;
-    if (slice.span >= 360) {
-        path.addEllipse(circle);
-        return path;
-    }
-    path.moveTo(centre);
-    path.arcTo(circle, 90 - slice.start, -slice.span); // the toolkit counts from three o'clock, to the left
-    path.closeSubpath();
-    return path;
-}
-
-/// What goes round a value; nothing where it has neither bar nor slice.
-QPainterPath outline(const ChartLayout& layout, std::size_t number) {
-    QPainterPath path;
-    if (number < layout.bars.size()) {
-        constexpr double lowest = 6; // of no hours: a mark that stands on the axis
-        QRectF bar = rectOf(layout.bars[number].area);
-        bar.setTop(std::min(bar.top(), bar.bottom() - lowest));
-        path.addRect(bar);
-    }
-    for (const ChartSlice& slice : layout.slices) {
-        if (slice.number == number) {
-            return slicePath(layout, slice);
-        }
-    }
-    return path;
 }
 
 } // namespace
@@ -232,23 +192,6 @@ void ChartPainter::paintText(QPainter& painter, const PlacedText& placed, bool o
     painter.setPen(Qt::black);
     painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine, text);
     painter.restore();
-}
-
-void ChartPainter::pointOut(QPainter& painter, const ChartLayout& layout, std::size_t number) {
-    constexpr double narrow = 16;
-    const QPainterPath path = outline(layout, number);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!layout.bars.empty()) { // the hours along the axis stay whole
-        painter.setClipRect(
-            QRectF(QPointF(layout.plot.x + 1, 0), QPointF(layout.size.width, layout.size.height)));
-    }
-    // A dark line between light ones stands out from every colour.
-    const int lightWidth = path.boundingRect().width() < narrow ? 4 : 6; // a narrow bar keeps its own colour
-    painter.setBrush(Qt::NoBrush);
-    for (const auto& [colour, width] : {std::pair{Qt::white, lightWidth}, std::pair{Qt::black, 2}}) {
-        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawPath(path);
-    }
 }
 
 } // namespace planner

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plfimp/plfimp_dialog.h"
 
-#include "ui/kit/text.h"
+#include "forms/plfimp/plfimp.h"
+#include "ui/kit/controls.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QGroupBox>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace planner {
@@ -20,48 +20,41 @@ QGroupBox* makeOptions(QDialog& dialog, plfimp& form) {
     frame->setObjectName(QStringLiteral("Frame_vis"));
     auto* layout = new QVBoxLayout(frame);
     for (int index = 0; index < static_cast<int>(ScelteImpegno.size()); ++index) {
-        const SceltaImpegno& choice = ScelteImpegno.at(static_cast<std::size_t>(index));
-        auto* option = new QRadioButton(fromUtf8(choice.didascalia), frame);
-        option->setObjectName(QStringLiteral("Option1_") + QString::number(index));
-        option->setChecked(index == form.Option1());
-        QObject::connect(option, &QRadioButton::toggled, &dialog, [&form, index](bool checked) {
-            if (checked) {
-                form.Option1_Click(index);
-            }
-        });
-        layout->addWidget(option);
+        const std::string_view caption = ScelteImpegno.at(static_cast<std::size_t>(index)).didascalia;
+        addOption(*layout, {QStringLiteral("Option1_"), index, caption, index == form.Option1()},
+                  [&form](int chosen) { form.Option1_Click(chosen); });
     }
     return frame;
 }
 
-QPushButton* makeButton(QDialog& dialog, const QString& name, const QString& caption) {
+/// A button of the dialog; `press` runs when it is pressed.
+template <typename Press>
+QPushButton* makeButton(QDialog& dialog, const QString& name, const QString& caption, Press press) {
     auto* button = new QPushButton(caption, &dialog);
     button->setObjectName(name);
+    QObject::connect(button, &QPushButton::clicked, &dialog, press);
     return button;
 }
 
 } // namespace
 
-void PlfimpDialog::chiedi(plfimp& form) {
+void chiediImpegno(plfimp& form) {
     QDialog dialog(QApplication::activeWindow());
     dialog.setObjectName(QStringLiteral("plfimp"));
     dialog.setWindowTitle(QStringLiteral("Inserimento Impegni"));
     auto* layout = new QVBoxLayout(&dialog);
     layout->addWidget(makeOptions(dialog, form));
     auto* buttons = new QHBoxLayout;
-    QPushButton* conferma = makeButton(dialog, QStringLiteral("conferma"), QStringLiteral("Conferma"));
-    QPushButton* annulla = makeButton(dialog, QStringLiteral("annulla"), QStringLiteral("Annulla"));
-    conferma->setDefault(true);
-    QObject::connect(conferma, &QPushButton::clicked, &dialog, [&] {
+    QPushButton* conferma = makeButton(dialog, QStringLiteral("conferma"), QStringLiteral("Conferma"), [&] {
         form.conferma_Click();
         dialog.accept();
     });
-    QObject::connect(annulla, &QPushButton::clicked, &dialog, [&] {
+    conferma->setDefault(true);
+    buttons->addWidget(conferma);
+    buttons->addWidget(makeButton(dialog, QStringLiteral("annulla"), QStringLiteral("Annulla"), [&] {
         form.annulla_Click();
         dialog.reject();
-    });
-    buttons->addWidget(conferma);
-    buttons->addWidget(annulla);
+    }));
     layout->addLayout(buttons);
     dialog.setMinimumWidth(dialog.sizeHint().width() * 3 / 2);
     dialog.exec();

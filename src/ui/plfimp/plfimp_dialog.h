@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/plfimp/plfimp.h"
-
 namespace planner {
 
-/// The appointment-type question as a modal dialog over the active window. Enter confirms, Escape cancels.
-class PlfimpDialog : public FinestraImpegno {
-public:
-    void chiedi(plfimp& form) override;
-};
+class plfimp;
+
+/// Asks the appointment type in a modal dialog over the active window, with the answer in `form`. Enter
+/// confirms, Escape cancels.
+void chiediImpegno(plfimp& form);
 
 } // namespace planner

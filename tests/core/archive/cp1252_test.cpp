@@ -14,12 +14,10 @@ std::string byteText(int byte) {
     return {static_cast<char>(byte)};
 }
 
-TEST(Cp1252Test, All256BytesComeBackFromUtf8) {
+TEST(Cp1252Test, EachByteIsACharacterOfItsOwn) {
     std::set<std::string> seen;
     for (int byte = 0; byte < 256; ++byte) {
-        const std::string utf8 = utf8FromCp1252(byteText(byte));
-        EXPECT_EQ(cp1252FromUtf8(utf8), byteText(byte)) << byte;
-        seen.insert(utf8);
+        seen.insert(utf8FromCp1252(byteText(byte)));
     }
     EXPECT_EQ(seen.size(), 256u);
 }
@@ -58,28 +56,7 @@ TEST(Cp1252Test, TheFiveUndefinedBytesAreTheControlCharactersOfTheSameNumber) {
 
 TEST(Cp1252Test, ItalianTextIsReadable) {
     EXPECT_EQ(utf8FromCp1252("Libert\xE0 \x80 5"), "Libert\u00E0 \u20AC 5");
-    EXPECT_EQ(cp1252FromUtf8("perch\u00E9"), "perch\xE9");
     EXPECT_EQ(utf8FromCp1252(""), "");
-    EXPECT_EQ(cp1252FromUtf8(""), "");
-}
-
-TEST(Cp1252Test, CharactersThatTheCodePageLacksAreRefused) {
-    EXPECT_FALSE(cp1252FromUtf8("\u0080")); // byte 0x80 is another character
-    EXPECT_FALSE(cp1252FromUtf8("a\u0416"));
-    EXPECT_FALSE(cp1252FromUtf8("\U0001F600"));
-}
-
-TEST(Cp1252Test, TextThatIsNotUtf8IsRefused) {
-    for (const std::string_view text :
-         {"\x80", "\xC3", "\xC3(", "\xE2\x82", "\xE2\x28\xA1", "a\xFF", "\xC3\xC3", "\xF0\x9F\x98\x80"}) {
-        EXPECT_FALSE(cp1252FromUtf8(text));
-    }
-}
-
-TEST(Cp1252Test, OverlongFormsAreRefused) {
-    EXPECT_FALSE(cp1252FromUtf8("\xC1\x81"));
-    EXPECT_FALSE(cp1252FromUtf8("\xC0\x80"));
-    EXPECT_FALSE(cp1252FromUtf8("\xE0\x81\x81"));
 }
 
 } // namespace

@@ -7,14 +7,16 @@
 #include "forms/plcal/panel.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
-#include "forms/plfgraf/finestra_grafici.h"
-#include "forms/plfimp/plfimp.h"
+#include "forms/tasti.h"
 #include "ports/clock.h"
 #include "ports/planner_window.h"
 
 #include <optional>
 
 namespace planner {
+
+class plfgraf;
+class plfimp;
 
 /// The planner window's logic: its life from load to unload, and what its events do. The widgets are behind
 /// `VistaPlcal`. A run-time error in an event is said in a message box, and the planner goes on.
@@ -23,9 +25,9 @@ public:
     struct Porte {
         VistaPlcal& vista;
         MessageBoxes& messaggi;
-        FinestraImpegno& finestraImpegno;
+        std::function<void(plfimp&)> finestraImpegno; // asks, modal; the answer is in the form
         plfcollab& collaboratori;
-        FinestraGrafici& finestraGrafici;
+        std::function<void(plfgraf&)> finestraGrafici; // shows the visible chart, modal
     };
 
     plcal(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, const Porte& porte)
@@ -41,7 +43,6 @@ public:
 
     // Its life.
     /// Key codes are those of the Windows virtual keys.
-    static constexpr int TastoEscape = 27;
     void Form_Load();
     void Form_Activate();
     /// Escape closes the window; true when the key did something.

@@ -5,6 +5,7 @@
 #include "forms/plcal/yearly_day.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "forms/plfgraf/visualizza_grafico.h"
+#include "forms/plfimp/plfimp.h"
 
 #include <algorithm>
 
@@ -93,7 +94,7 @@ void plcal::insimp() {
         return;
     }
     plfimp form;
-    m_porte.finestraImpegno.chiedi(form);
+    m_porte.finestraImpegno(form);
     if (!form.risposta().empty()) {
         reply(form.risposta());
     }
@@ -108,7 +109,7 @@ void plcal::showChart() {
     m_contenuti.LeggiDatiPerGrafici();
     plfgraf form(m_sessione.archivi, m_controlli.calendario, avvisoGrafici(m_sessione));
     if (visualizzaGrafico(form, m_controlli.tipoVisibile, m_sessione.IndiceCollab, m_porte.messaggi)) {
-        m_porte.finestraGrafici.mostra(form);
+        m_porte.finestraGrafici(form);
     }
 }
 

@@ -24,9 +24,10 @@ void plcal::griglia_Gesto(const Gesto& gesto) {
         m_porte.vista.rinvia(
             [this, text = operazioneNonRiuscita(error)] { m_porte.messaggi.critical(text); });
     }
-    m_porte.vista.aggiorna();
     if (descrizione(gesto.mezzo).consulta && *luogo == Luogo::giorno) {
         Toolbar1_ButtonClick("consult");
+    } else {
+        m_porte.vista.aggiorna();
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "archive/cp1252.h"
 #include "forms/plfgraf/chart_layout_parts.h"
 #include "forms/plfgraf/chart_texts.h"
 
@@ -97,7 +98,7 @@ BarTexts measureBarTexts(const ChartLayoutTask& task, double slotWidth) {
     for (std::size_t number = 0; number < task.grafico.numValori(); ++number) {
         const std::string value =
             slotWidth < NarrowestSlot ? std::string(Zero) : testoOre(task.grafico.valore(number));
-        texts.labels.push_back(task.labelOf(number));
+        texts.labels.push_back(utf8FromCp1252(task.grafico.etichetta(number)));
         texts.values.push_back(value == Zero ? "" : value);
     }
     measureLabels(task, slotWidth, texts);

@@ -7,15 +7,12 @@
 #include "forms/plfgraf/chart_texts.h"
 
 #include <algorithm>
-#include <cmath>
-#include <numbers>
 
 namespace planner {
 
 namespace {
 
 constexpr double TitlePadding = 6;
-constexpr double FullTurn = 360;
 
 /// The title's box: in the middle of the chart, or of what `reserved` leaves beside itself, or below it.
 ChartArea titleBox(ChartSize size, ChartSize text, const ChartArea& reserved) {
@@ -62,65 +59,6 @@ double layoutHeading(const ChartLayoutTask& task, double top) {
     return area.bottom() + ChartGap;
 }
 
-/// A row of the legend being filled from left to right.
-struct LegendRow {
-    std::size_t firstEntry, firstText;
-    double width = 0;
-};
-
-void centreRow(ChartLayout& layout, const LegendRow& row) {
-    const double shift = (layout.size.width - row.width) / 2;
-    for (std::size_t i = row.firstEntry; i < layout.legend.size(); ++i) {
-        layout.legend[i].swatch.x += shift;
-    }
-    for (std::size_t i = row.firstText; i < layout.texts.size(); ++i) {
-        layout.texts[i].area.x += shift;
-    }
-}
-
-/// Lays the legend out in rows from y = 0 on; returns its height.
-double fillLegend(const ChartLayoutTask& task) {
-    ChartLayout& layout = task.layout;
-    const double line = task.lineHeight(ChartTextRole::legend);
-    const double swatch = line * 0.8;
-    const double available = std::max(layout.size.width - 2 * ChartGap, swatch);
-    LegendRow row{layout.legend.size(), layout.texts.size()};
-    double y = 0;
-    for (std::size_t s = 0; s < task.grafico.serie.size(); ++s) {
-        const std::string text = utf8FromCp1252(task.grafico.serie[s].etichetta);
-        const double textWidth = std::min(task.measure(ChartTextRole::legend, text).width,
-                                          std::max(available - swatch - ChartGap / 2, 0.0));
-        const double entryWidth = swatch + ChartGap / 2 + textWidth;
-        if (row.width > 0 && row.width + 2 * ChartGap + entryWidth > available) {
-            centreRow(layout, row);
-            row = {layout.legend.size(), layout.texts.size()};
-            y += line + ChartGap / 2;
-        }
-        const double x = row.width > 0 ? row.width + 2 * ChartGap : 0;
-        layout.legend.push_back({s, {x, y + (line - swatch) / 2, swatch, swatch}});
-        layout.texts.push_back(
-            {ChartTextRole::legend, text, {x + swatch + ChartGap / 2, y, textWidth, line}});
-        row.width = x + entryWidth;
-    }
-    centreRow(layout, row);
-    return y + line;
-}
-
-/// Places the legend along the lower edge; returns the height where the chart's body ends.
-double layoutLegend(const ChartLayoutTask& task) {
-    ChartLayout& layout = task.layout;
-    const std::size_t firstText = layout.texts.size();
-    const double height = fillLegend(task);
-    const double top = layout.size.height - ChartGap - height;
-    for (ChartLegendEntry& entry : layout.legend) {
-        entry.swatch.y += top;
-    }
-    for (std::size_t i = firstText; i < layout.texts.size(); ++i) {
-        layout.texts[i].area.y += top;
-    }
-    return top - ChartGap;
-}
-
 ChartArea inside(const ChartArea& area, double margin) {
     return {area.x + margin, area.y + margin, std::max(area.width - 2 * margin, 1.0),
             std::max(area.height - 2 * margin, 1.0)};
@@ -140,57 +78,12 @@ void layoutBody(ChartLayoutTask& task, double top) {
     }
 }
 
-double radians(double degrees) {
-    return degrees * std::numbers::pi / (FullTurn / 2);
-}
-
-std::optional<std::size_t> sliceAt(const ChartLayout& layout, ChartPoint point) {
-    const double dx = point.x - layout.pieCentre.x;
-    const double dy = point.y - layout.pieCentre.y;
-    if (std::hypot(dx, dy) > layout.pieRadius) {
-        return std::nullopt;
-    }
-    double angle = std::atan2(dx, -dy) * (FullTurn / 2) / std::numbers::pi;
-    angle = angle < 0 ? angle + FullTurn : angle;
-    for (const ChartSlice& slice : layout.slices) {
-        if (angle < slice.start + slice.span) {
-            return slice.number;
-        }
-    }
-    return std::nullopt;
-}
-
-/// The box around a slice: its corners, and the circle's outermost points that it holds.
-ChartArea boxAround(const ChartLayout& layout, const ChartSlice& slice) {
-    ChartPoint low = layout.pieCentre;
-    ChartPoint high = layout.pieCentre;
-    const auto include = [&](double degrees) {
-        const double x = layout.pieCentre.x + layout.pieRadius * std::sin(radians(degrees));
-        const double y = layout.pieCentre.y - layout.pieRadius * std::cos(radians(degrees));
-        low = {std::min(low.x, x), std::min(low.y, y)};
-        high = {std::max(high.x, x), std::max(high.y, y)};
-    };
-    include(slice.start);
-    include(slice.start + slice.span);
-    for (const double quarter : {90.0, 180.0, 270.0}) {
-        if (quarter > slice.start && quarter < slice.start + slice.span) {
-            include(quarter);
-        }
-    }
-    return {low.x, low.y, high.x - low.x, high.y - low.y};
-}
-
 } // namespace
 
 void ChartLayoutTask::addText(ChartTextRole role, const std::string& text, ChartPoint centre) const {
     const ChartSize size = measure(role, text);
     layout.texts.push_back(
         {role, text, {centre.x - size.width / 2, centre.y - size.height / 2, size.width, size.height}});
-}
-
-std::string ChartLayoutTask::labelOf(std::size_t number) const {
-    return utf8FromCp1252(grafico.serie.size() > 1 ? grafico.serie[grafico.serieDi(number)].etichetta
-                                                   : grafico.etichette[grafico.rigaDi(number)]);
 }
 
 std::size_t labelStep(double size, double spacing) {
@@ -221,30 +114,6 @@ ChartLayout layoutSheet(const Grafico& grafico, ChartSize size, const MeasureTex
     ChartLayoutTask task{grafico, measure, {}, layout};
     layoutBody(task, layoutHeading(task, layoutTitle(task, {})));
     return layout;
-}
-
-std::optional<std::size_t> valueAt(const ChartLayout& layout, ChartPoint point) {
-    if (layout.bars.empty()) {
-        return sliceAt(layout, point);
-    }
-    if (!layout.plot.contains(point)) {
-        return std::nullopt;
-    }
-    const double share = (point.x - layout.plot.x) / layout.plot.width;
-    const auto count = layout.bars.size();
-    return std::min(static_cast<std::size_t>(share * static_cast<double>(count)), count - 1);
-}
-
-ChartArea areaOf(const ChartLayout& layout, std::size_t number) {
-    if (number < layout.bars.size()) {
-        return layout.bars[number].slot;
-    }
-    for (const ChartSlice& slice : layout.slices) {
-        if (slice.number == number) {
-            return boxAround(layout, slice);
-        }
-    }
-    return {};
 }
 
 } // namespace planner

@@ -19,10 +19,10 @@ struct ChartLayoutTask {
     /// Adds a text centred on `centre`, as large as it is.
     void addText(ChartTextRole role, const std::string& text, ChartPoint centre) const;
     double lineHeight(ChartTextRole role) const { return measure(role, "0").height; }
-    /// The label of a value along the X axis or beside its slice, UTF-8: the one of its row, or of its series
-    /// where there are several.
-    std::string labelOf(std::size_t number) const;
 };
+
+/// Places the legend along the lower edge; returns the height where the chart's body ends.
+double layoutLegend(const ChartLayoutTask& task);
 
 /// Axes, grid lines, bars and their values.
 void layoutBars(const ChartLayoutTask& task);
@@ -50,6 +50,10 @@ void placeBarValues(const ChartLayoutTask& task, const BarTexts& texts);
 
 /// Slices, and their labels with lines to them.
 void layoutPie(const ChartLayoutTask& task);
+
+/// The point at a distance from the pie's middle, clockwise from its top.
+inline constexpr double FullTurn = 360;
+ChartPoint onCircle(const ChartLayout& layout, double degrees, double radius);
 
 /// Every how many labels one can stand, of labels `size` long at places `spacing` apart: 1, 2, 5, 10, 20, …
 std::size_t labelStep(double size, double spacing);

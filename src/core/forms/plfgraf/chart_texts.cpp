@@ -39,12 +39,6 @@ std::string visibleText(std::string_view bytes) {
     return utf8FromCp1252(text);
 }
 
-std::string_view etichettaValore(const Grafico& grafico, std::size_t numero) {
-    const std::size_t serie = grafico.serieDi(numero);
-    return grafico.serie.size() > 1 ? grafico.serie.at(serie).etichetta
-                                    : grafico.etichette.at(grafico.rigaDi(numero));
-}
-
 constexpr double MostHours = 1e9; // that minutes mean something beside
 constexpr long long MinutesPerHour = 60;
 
@@ -137,8 +131,8 @@ std::string tabellaValori(const Grafico& grafico) {
     table += visibleText(grafico.asseX) + "\tOre\tOre decimali\n";
     for (std::size_t numero = 0; numero < grafico.numValori(); ++numero) {
         const double ore = grafico.valore(numero);
-        table += visibleText(etichettaValore(grafico, numero)) + "\t" + testoOre(ore) + "\t" +
-                 testoDecimale(ore) + "\n";
+        table +=
+            visibleText(grafico.etichetta(numero)) + "\t" + testoOre(ore) + "\t" + testoDecimale(ore) + "\n";
     }
     return table;
 }

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace planner {
@@ -59,6 +60,7 @@ struct AsseOre {
 
 /// What a chart shows, as plain data. Texts are Windows-1252.
 struct Grafico {
+    std::string_view nome; // of the control
     bool Visible = false;
     TipoGrafico tipo = TipoGrafico::Istogramma;
     std::string TitleText;
@@ -80,6 +82,11 @@ struct Grafico {
         return etichette.empty() ? 0 : numero / etichette.size();
     }
     std::size_t rigaDi(std::size_t numero) const { return etichette.empty() ? 0 : numero % etichette.size(); }
+    /// The label of a value's row, or of its series where there are several. Throws std::out_of_range past
+    /// the last value.
+    const std::string& etichetta(std::size_t numero) const {
+        return serie.size() > 1 ? serie.at(serieDi(numero)).etichetta : etichette.at(rigaDi(numero));
+    }
     /// Hours. Throws std::out_of_range past the last value.
     double valore(std::size_t numero) const { return serie.at(serieDi(numero)).valori.at(rigaDi(numero)); }
 };

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "archive/cp1252.h"
 #include "forms/plfgraf/chart_layout_parts.h"
 #include "forms/plfgraf/chart_texts.h"
 
@@ -11,7 +12,6 @@ namespace planner {
 
 namespace {
 
-constexpr double FullTurn = 360;
 constexpr double LabelPadding = 4;
 constexpr double BendDistance = 10;  // of the label line's bend from the pie
 constexpr double LabelDistance = 20; // of the labels from the pie
@@ -68,11 +68,6 @@ void colourSlices(const ChartLayoutTask& task) {
     }
 }
 
-ChartPoint onCircle(const ChartLayout& layout, double degrees, double radius) {
-    const double angle = degrees * std::numbers::pi / (FullTurn / 2);
-    return {layout.pieCentre.x + radius * std::sin(angle), layout.pieCentre.y - radius * std::cos(angle)};
-}
-
 double middleOf(const ChartSlice& slice) {
     return slice.start + slice.span / 2;
 }
@@ -82,7 +77,8 @@ std::vector<SideLabel> makeLabels(const ChartLayoutTask& task) {
     const ChartLayout& layout = task.layout;
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::size_t number = layout.slices[i].number;
-        const std::string text = task.labelOf(number) + "  " + testoOre(task.grafico.valore(number));
+        const std::string text =
+            utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(task.grafico.valore(number));
         ChartSize size = task.measure(ChartTextRole::value, text);
         size = {size.width + 2 * LabelPadding, size.height + LabelPadding};
         labels.push_back({i, text, size, layout.slices[i].span, 0});
@@ -175,6 +171,11 @@ void placeSide(const ChartLayoutTask& task, const std::vector<SideLabel>& labels
 }
 
 } // namespace
+
+ChartPoint onCircle(const ChartLayout& layout, double degrees, double radius) {
+    const double angle = degrees * std::numbers::pi / (FullTurn / 2);
+    return {layout.pieCentre.x + radius * std::sin(angle), layout.pieCentre.y - radius * std::cos(angle)};
+}
 
 void layoutPie(const ChartLayoutTask& task) {
     placeSlices(task);

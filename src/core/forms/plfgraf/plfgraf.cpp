@@ -9,8 +9,6 @@ namespace planner {
 
 namespace {
 
-constexpr int TastoEsc = 27;
-
 // The room that the charts leave in the window, and where the frame stands on them; twips.
 constexpr int MargineVerticale = 700;
 constexpr int MargineOrizzontale = 500;
@@ -25,19 +23,20 @@ plfgraf::plfgraf(const Archivi& archivi, const Calendario& calendario, std::stri
 }
 
 const Grafico* plfgraf::visibile() const {
-    for (const Grafico* grafico : {&m_MSChartm, &m_MSChartg, &m_MSCharta}) {
-        if (grafico->Visible) {
-            return grafico;
-        }
-    }
-    return nullptr;
+    const auto found =
+        std::find_if(m_grafici.begin(), m_grafici.end(), [](const Grafico& each) { return each.Visible; });
+    return found == m_grafici.end() ? nullptr : &*found;
 }
 
-void plfgraf::mostra(Grafico& grafico) {
-    for (Grafico* each : {&m_MSChartm, &m_MSChartg, &m_MSCharta}) {
-        each->Visible = each == &grafico;
+Grafico& plfgraf::mostra(std::size_t quale) {
+    for (Grafico& each : m_grafici) {
+        each.Visible = &each == &m_grafici.at(quale);
     }
+    constexpr std::array<std::string_view, 3> names{"MSChartm", "MSChartg", "MSCharta"};
+    Grafico& grafico = m_grafici.at(quale);
+    grafico.nome = names.at(quale);
     grafico.avviso = m_avviso;
+    return grafico;
 }
 
 void plfgraf::ImpostaTipoGrafico(Grafico& grafico, bool istogramma) {
@@ -51,15 +50,11 @@ void plfgraf::OptTipoGrafico_Click(int index) {
         return;
     }
     m_OptTipoGrafico = index;
-    for (Grafico* grafico : {&m_MSChartm, &m_MSChartg, &m_MSCharta}) {
-        if (grafico->Visible) {
-            ImpostaTipoGrafico(*grafico, m_OptTipoGrafico == 0);
+    for (Grafico& grafico : m_grafici) {
+        if (grafico.Visible) {
+            ImpostaTipoGrafico(grafico, m_OptTipoGrafico == 0);
         }
     }
-}
-
-bool plfgraf::Form_KeyDown(int tasto) {
-    return tasto == TastoEsc;
 }
 
 void plfgraf::Form_Resize(Dimensioni interno) {

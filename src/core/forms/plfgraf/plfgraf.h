@@ -4,6 +4,7 @@
 
 #include "archive/tables.h"
 #include "forms/plfgraf/grafico.h"
+#include "forms/tasti.h"
 #include "forms/twips.h"
 #include "session/calendario.h"
 
@@ -42,9 +43,9 @@ public:
     /// know of the data, UTF-8; each chart carries it.
     plfgraf(const Archivi& archivi, const Calendario& calendario, std::string avviso = {});
 
-    const Grafico& MSChartm() const { return m_MSChartm; }
-    const Grafico& MSChartg() const { return m_MSChartg; }
-    const Grafico& MSCharta() const { return m_MSCharta; }
+    const Grafico& MSChartm() const { return m_grafici[0]; }
+    const Grafico& MSChartg() const { return m_grafici[1]; }
+    const Grafico& MSCharta() const { return m_grafici[2]; }
     /// The chart built last; null before any was.
     const Grafico* visibile() const;
 
@@ -70,7 +71,7 @@ public:
     int OptTipoGrafico() const { return m_OptTipoGrafico; }
 
     /// True when the key, as a virtual-key code, closes the window.
-    static bool Form_KeyDown(int tasto);
+    static bool Form_KeyDown(int tasto) { return tasto == TastoEscape; }
 
     /// Places charts and frame in a window of the given inner size, in twips; a height that leaves the charts
     /// none changes nothing.
@@ -79,22 +80,18 @@ public:
     void setDimensioniFrame(Dimensioni frame);
 
     /// In twips. The three charts lie on each other.
-    const Rettangolo& posizioneMSChartm() const { return m_posizioneGrafici; }
-    const Rettangolo& posizioneMSChartg() const { return m_posizioneGrafici; }
-    const Rettangolo& posizioneMSCharta() const { return m_posizioneGrafici; }
+    const Rettangolo& posizioneGrafici() const { return m_posizioneGrafici; }
     /// Over the upper right corner of the charts.
     const Rettangolo& posizioneFrameTipo_Grafico() const { return m_posizioneFrame; }
 
 private:
     static void ImpostaTipoGrafico(Grafico& grafico, bool istogramma);
-    void mostra(Grafico& grafico);
+    Grafico& mostra(std::size_t quale);
 
     const Archivi& m_archivi;
     const Calendario& m_calendario;
     std::string m_avviso;
-    Grafico m_MSChartm;
-    Grafico m_MSChartg;
-    Grafico m_MSCharta;
+    std::array<Grafico, 3> m_grafici;
     int m_OptTipoGrafico = 0;
     Rettangolo m_posizioneGrafici{250, 150, 0, 0};
     Rettangolo m_posizioneFrame{0, 0, 0, 0};

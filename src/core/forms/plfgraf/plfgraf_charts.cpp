@@ -135,9 +135,8 @@ void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massi
 // The order of the steps shows: a step that fails leaves on the chart what those before it have set.
 
 void plfgraf::VisualizzaGraficoMensile(std::int16_t collab) {
-    Grafico& grafico = m_MSChartm;
+    Grafico& grafico = mostra(0);
     grafico.areaIncorniciata = true;
-    mostra(grafico);
     ValoriGrafico valori = valoriMensili(m_archivi, m_calendario, collab);
     setUnaSerie(grafico, std::move(valori.valori));
     grafico.TitleText = "Planner Mensile";
@@ -150,8 +149,7 @@ void plfgraf::VisualizzaGraficoMensile(std::int16_t collab) {
 }
 
 void plfgraf::VisualizzaGraficoGiornaliero(std::int16_t collab) {
-    Grafico& grafico = m_MSChartg;
-    mostra(grafico);
+    Grafico& grafico = mostra(1);
     ValoriGrafico valori = valoriGiornalieri(m_archivi, m_calendario);
     setUnaSerie(grafico, std::move(valori.valori));
     grafico.TitleText = "Planner Giornaliero";
@@ -162,9 +160,8 @@ void plfgraf::VisualizzaGraficoGiornaliero(std::int16_t collab) {
 }
 
 void plfgraf::VisualizzaGraficoAnnuale() {
-    Grafico& grafico = m_MSCharta;
+    Grafico& grafico = mostra(2);
     grafico.areaIncorniciata = true;
-    mostra(grafico);
     const ValoriGrafico valori = valoriAnnuali(m_archivi, m_calendario);
     setDodiciSerie(grafico, valori.valori);
     // Without any record there is nothing that the title could be about.

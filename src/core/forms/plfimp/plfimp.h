@@ -20,7 +20,11 @@ inline constexpr std::array ScelteImpegno{SceltaImpegno{"Impegno", "I"}, SceltaI
 class plfimp {
 public:
     /// Selects option 0 or 1; any other index selects nothing new.
-    void Option1_Click(int index);
+    void Option1_Click(int index) {
+        if (index >= 0 && static_cast<std::size_t>(index) < ScelteImpegno.size()) {
+            m_option = index;
+        }
+    }
     int Option1() const { return m_option; }
 
     void conferma_Click() { m_risposta = ScelteImpegno.at(static_cast<std::size_t>(m_option)).risposta; }
@@ -32,14 +36,6 @@ public:
 private:
     int m_option = 0;
     std::string m_risposta;
-};
-
-/// The dialog on the screen.
-class FinestraImpegno {
-public:
-    virtual ~FinestraImpegno() = default;
-    /// Asks, modal; returns when the dialog is closed, with the answer in `form`.
-    virtual void chiedi(plfimp& form) = 0;
 };
 
 } // namespace planner

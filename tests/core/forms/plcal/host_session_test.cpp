@@ -28,7 +28,7 @@ protected:
         };
     }
     Action escape() {
-        return [this] { form.Form_KeyDown(plcal::TastoEscape); };
+        return [this] { form.Form_KeyDown(TastoEscape); };
     }
     /// The user chooses the filters: the answer is set, then the window closes.
     Action filters() {

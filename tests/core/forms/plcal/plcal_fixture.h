@@ -43,7 +43,7 @@ protected:
     plcal form{sessione,
                controlli,
                bench.motore,
-               {vista, bench.messaggi, finestraImpegno, collaboratori, finestraGrafici}};
+               {vista, bench.messaggi, std::ref(finestraImpegno), collaboratori, std::ref(finestraGrafici)}};
 };
 
 } // namespace planner::test

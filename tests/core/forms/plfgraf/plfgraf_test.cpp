@@ -107,9 +107,7 @@ TEST_F(ChartWindow, OnlyEscapeCloses) {
 TEST_F(ChartWindow, ChartsFillTheWindowButForTheirMargins) {
     form.Form_Resize({10'000, 8'000});
     const Rettangolo expected{250, 150, 9'500, 7'300};
-    EXPECT_EQ(form.posizioneMSChartm(), expected);
-    EXPECT_EQ(form.posizioneMSChartg(), expected);
-    EXPECT_EQ(form.posizioneMSCharta(), expected);
+    EXPECT_EQ(form.posizioneGrafici(), expected);
 }
 
 TEST_F(ChartWindow, TheFrameStandsInTheUpperRightCornerOfTheCharts) {
@@ -121,26 +119,26 @@ TEST_F(ChartWindow, TheFrameStandsInTheUpperRightCornerOfTheCharts) {
 TEST_F(ChartWindow, AWindowTooLowForChartsLeavesAllAsItWas) {
     form.setDimensioniFrame({1'600, 1'200});
     form.Form_Resize({10'000, 8'000});
-    const Rettangolo charts = form.posizioneMSCharta();
+    const Rettangolo charts = form.posizioneGrafici();
     const Rettangolo frame = form.posizioneFrameTipo_Grafico();
     for (const int height : {700, 699, 0, -1, INT_MIN}) {
         form.Form_Resize({5'000, height});
-        EXPECT_EQ(form.posizioneMSCharta(), charts) << height;
+        EXPECT_EQ(form.posizioneGrafici(), charts) << height;
         EXPECT_EQ(form.posizioneFrameTipo_Grafico(), frame) << height;
     }
     form.Form_Resize({5'000, 701});
-    EXPECT_EQ(form.posizioneMSCharta(), (Rettangolo{250, 150, 4'500, 1}));
+    EXPECT_EQ(form.posizioneGrafici(), (Rettangolo{250, 150, 4'500, 1}));
 }
 
 TEST_F(ChartWindow, AWindowTooNarrowForChartsGivesThemNoWidth) {
     form.Form_Resize({400, 8'000});
-    EXPECT_EQ(form.posizioneMSCharta().Width, 0);
+    EXPECT_EQ(form.posizioneGrafici().Width, 0);
     form.Form_Resize({INT_MIN, 8'000});
-    EXPECT_EQ(form.posizioneMSCharta().Width, 0);
+    EXPECT_EQ(form.posizioneGrafici().Width, 0);
 }
 
 TEST_F(ChartWindow, IsLaidOutBeforeItsFirstResize) {
-    EXPECT_EQ(form.posizioneMSChartm(),
+    EXPECT_EQ(form.posizioneGrafici(),
               (Rettangolo{250, 150, plfgraf::Progetto.width - 500, plfgraf::Progetto.height - 700}));
 }
 

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/twips.h"
+#include "ui/kit/text.h"
+
+#include <QHelpEvent>
+#include <QKeySequence>
+#include <QToolTip>
+#include <QWidget>
+
+#include <functional>
+
+class QBoxLayout;
+class QKeyEvent;
+
+namespace planner {
+
+/// A place in pixels as the toolkit has it.
+inline QRect qtRect(const Rettangolo& place) {
+    return {place.Left, place.Top, place.Width, place.Height};
+}
+
+/// What a tool tip says of a command: its caption and, if there are any, its keys in brackets.
+QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys);
+
+/// Answers an event that asks for a tool tip with the plain text that `textAt` gives for a position of the
+/// widget, empty for none. False for any other event.
+template <typename TextAt>
+bool showToolTip(const QEvent& event, QWidget& widget, TextAt textAt) {
+    if (event.type() != QEvent::ToolTip) {
+        return false;
+    }
+    const auto& help = static_cast<const QHelpEvent&>(event);
+    QToolTip::showText(help.globalPos(), plainToolTip(textAt(help.pos())), &widget);
+    return true;
+}
+
+/// The key as forms know it: a virtual-key code, 0 for all but Escape.
+int virtualKey(const QKeyEvent& event);
+bool isEnter(const QKeyEvent& event);
+/// Enter clicks the button that has the window's focus. False for any other key, and where none has it.
+bool clickFocusedButton(const QWidget& window, const QKeyEvent& event);
+
+/// One of a control array's option buttons.
+struct Opzione {
+    QString array;
+    int indice;
+    std::string_view didascalia;
+    bool scelta;
+};
+/// Adds the option to the layout of its frame; `choose` hears the index when the user selects it.
+void addOption(QBoxLayout& layout, const Opzione& opzione, std::function<void(int)> choose);
+
+} // namespace planner

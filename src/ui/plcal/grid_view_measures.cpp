@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "engine/kinds/kind.h"
+#include "ui/plcal/grid_corner.h"
+#include "ui/plcal/grid_header.h"
+#include "ui/plcal/grid_model.h"
+#include "ui/plcal/grid_view.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+#include <numeric>
+
+// How large the grid's parts are, and which of them is in sight.
+
+namespace planner {
+
+namespace {
+
+std::vector<int> columnWidths(const Griglia& griglia) {
+    std::vector<int> twips;
+    for (int col = 0; col < griglia.Cols(); ++col) {
+        twips.push_back(griglia.ColWidth(col));
+    }
+    return twips;
+}
+
+std::vector<int> rowHeights(const Griglia& griglia) {
+    std::vector<int> twips;
+    for (int row = 0; row < griglia.Rows(); ++row) {
+        twips.push_back(griglia.RowHeight(row));
+    }
+    return twips;
+}
+
+/// The factor that makes lengths just fit into `available` pixels.
+float fittingScale(int available, const std::vector<int>& twips) {
+    const int whole = std::accumulate(twips.begin(), twips.end(), 0);
+    return static_cast<float>(std::max(available, 1) * TwipsPerPixel) /
+           static_cast<float>(std::max(whole, 1));
+}
+
+} // namespace
+
+void GridView::setScala(const Scala& scala) {
+    m_scala = scala;
+    applyMeasures();
+}
+
+float GridView::columnScale() const {
+    if (regole(m_tipo).unGiorno) {
+        return m_scala.ScalaX;
+    }
+    // A month is as wide as the window: what rounding and the scroll bar leave over is shared out too.
+    const int scrollBar = regole(m_tipo).perCollaboratore ? verticalScrollBar()->sizeHint().width() : 0;
+    return fittingScale(width() - 2 * frameWidth() - scrollBar, columnWidths(griglia()));
+}
+
+float GridView::rowScale() const {
+    if (regole(m_tipo).perCollaboratore) {
+        return m_scala.ScalaY;
+    }
+    // The twelve months fill the grid as long as they stay near their designed height.
+    constexpr float smallest = 0.85F;
+    return std::max(fittingScale(height() - 2 * frameWidth(), rowHeights(griglia())),
+                    m_scala.ScalaY * smallest);
+}
+
+void GridView::applyMeasures() {
+    const std::vector<int> widths = pixelSizes(columnWidths(griglia()), columnScale());
+    for (int col = Griglia::FixedCols(); col < griglia().Cols(); ++col) {
+        m_columns->resizeSection(col - Griglia::FixedCols(), widths[static_cast<std::size_t>(col)]);
+    }
+    m_names->setThickness({widths.front()});
+    applyRowMeasures();
+    updateGeometries();
+}
+
+void GridView::applyRowMeasures() {
+    const float scale = rowScale();
+    std::vector<int> header;
+    for (int row = 0; row < griglia().FixedRows(); ++row) {
+        header.push_back(pixels(griglia().RowHeight(row), scale));
+    }
+    m_columns->setThickness(header);
+    m_corner->setRowHeights(header);
+    if (griglia().Rows() > griglia().FixedRows()) { // all data rows are of one height
+        const auto height =
+            static_cast<float>(griglia().RowHeight(griglia().FixedRows())) * scale / TwipsPerPixel;
+        m_names->setDefaultSectionSize(static_cast<int>(height)); // cut, so that what is to fit does fit
+    }
+}
+
+void GridView::updateGeometries() {
+    QTableView::updateGeometries();
+    const QPoint origin(frameWidth(), frameWidth());
+    m_corner->setGeometry(QRect(pos() + origin, QSize(m_names->width(), m_columns->height())));
+    m_corner->raise();
+    placeButtons();
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    applyMeasures();
+}
+
+void GridView::moveEvent(QMoveEvent* event) {
+    QTableView::moveEvent(event);
+    updateGeometries();
+}
+
+void GridView::setVisible(bool visible) {
+    QTableView::setVisible(visible);
+    m_corner->setVisible(visible);
+}
+
+void GridView::placeButtons() {
+    m_corner->placeButtons(m_scala.ScalaX);
+}
+
+int GridView::firstColumnInSight() const {
+    const int column = columnAt(0);
+    const bool cut = column >= 0 && columnViewportPosition(column) < 0;
+    return GridModel::gridCol(std::clamp(column + (cut ? 1 : 0), 0, m_model->columnCount() - 1));
+}
+
+void GridView::scrollToCurrentRow() {
+    verticalScrollBar()->setValue(0);
+    horizontalScrollBar()->setValue(0);
+    scrollToCurrentCell();
+}
+
+void GridView::scrollToCurrentCell() {
+    scrollTo(currentCell());
+}
+
+void GridView::scrollToColumn(int colonna) {
+    horizontalScrollBar()->setValue(m_columns->sectionPosition(colonna - Griglia::FixedCols()));
+}
+
+} // namespace planner

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/kit/appearance.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/fitted_label.h"
+#include "ui/kit/screen_scale.h"
+#include "ui/plcal/command_bar.h"
+#include "ui/plcal/grid_view.h"
+#include "ui/plcal/plcal_window.h"
+#include "ui/plcal/shown_calendar.h"
+
+#include <QScreen>
+
+#include <algorithm>
+
+// Where the controls stand.
+
+namespace planner {
+
+namespace {
+
+constexpr double TitleFontFactor = 1.5;
+
+} // namespace
+
+Dimensioni PlcalWindow::schermo() const {
+    return roomOn(*screen());
+}
+
+void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {
+    m_scala = scala;
+    const double factor = fontFactorFor(scala);
+    m_painter.setFontFactor(factor);
+    setFont(qtFont(Carattere::normale, factor));
+    m_lbldescr->setFont(qtFont(Carattere::grassetto, factor * TitleFontFactor));
+    m_lblcollab->setFont(qtFont(Carattere::grassetto, factor));
+    for (const ControlloProgetto& controllo : controlli) {
+        if (auto* widget = findChild<QWidget*>(fromUtf8(controllo.nome), Qt::FindDirectChildrenOnly)) {
+            widget->setGeometry(qtRect(pixels(controllo.posizione, {}))); // scaled already
+        }
+    }
+    setSmallestSize();
+    const QRect available = screen()->availableGeometry();
+    resize(available.size());
+    move(available.topLeft()); // of the frame: the title stays on the screen
+    fillRemainingSpace();
+    for (GridView* grid : m_grids) {
+        grid->setScala(scala);
+    }
+}
+
+void PlcalWindow::resizeEvent(QResizeEvent*) {
+    fillRemainingSpace();
+    GridView* grid = visibleGrid();
+    if (m_untouched && grid != nullptr) {
+        grid->scrollToCurrentCell(); // the window system's frame has taken some of the room
+    }
+}
+
+void PlcalWindow::setSmallestSize() {
+    const Dimensioni twips = dimensioniMinime(m_scala);
+    const int besideCommands = m_calendario->width() + 2 * m_grids.front()->x();
+    const QSize whole(std::max(twips.width / TwipsPerPixel, m_Toolbar1->sizeHint().width() + besideCommands),
+                      twips.height / TwipsPerPixel);
+    setMinimumSize(whole.boundedTo(screen()->availableSize()));
+}
+
+void PlcalWindow::fillRemainingSpace() {
+    // Positions were scaled once, at load; what is left of the window belongs to the grid. A window that is
+    // made smaller than it can show is cut at its edges, with nothing over anything else.
+    const QSize room = size().expandedTo(minimumSize());
+    const int margin = m_grids.front()->x();
+    m_stato->move(m_stato->x(), room.height() - m_stato->height());
+    m_stato->resize(room.width() - 2 * m_stato->x(), m_stato->height());
+    for (GridView* grid : m_grids) {
+        grid->resize(room.width() - 2 * margin, m_stato->y() - grid->y());
+    }
+    m_calendario->move(room.width() - m_calendario->width() - margin, m_calendario->y());
+    m_Toolbar1->resize(m_calendario->x() - margin, m_Toolbar1->height());
+}
+
+} // namespace planner
