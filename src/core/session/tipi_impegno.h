@@ -15,7 +15,7 @@ enum class TipoImpegno : std::uint8_t { noteRiservate, impegniVari, scadenze, pr
 
 /// Everything about a kind. The digit is its place in a picture key, and the corner of the picture in which
 /// its drawing stands: 1 top left, 2 top right, 3 bottom left, 4 bottom right.
-struct DescrizioneTipo {
+struct DescrizioneImpegno {
     char cifra;
     std::string_view nome;    // Italian, as sentences name it
     Totale totale;            // whose counters hold it
@@ -23,7 +23,7 @@ struct DescrizioneTipo {
 };
 
 /// By kind.
-inline constexpr std::array<DescrizioneTipo, 4> TipiImpegno{
+inline constexpr std::array<DescrizioneImpegno, 4> TipiImpegno{
     {{'1', "note riservate", Totale::noteRiservate, "note"},
      {'2', "impegni vari", Totale::impegniVari, "impegni"},
      {'3', "scadenze", Totale::scadenze, "scadenze"},
@@ -33,7 +33,7 @@ inline constexpr std::array<DescrizioneTipo, 4> TipiImpegno{
 inline constexpr std::array OrdineTipi{TipoImpegno::scadenze, TipoImpegno::pratiche, TipoImpegno::impegniVari,
                                        TipoImpegno::noteRiservate};
 
-constexpr const DescrizioneTipo& descrizione(TipoImpegno tipo) {
+constexpr const DescrizioneImpegno& descrizione(TipoImpegno tipo) {
     return TipiImpegno.at(static_cast<std::size_t>(tipo));
 }
 

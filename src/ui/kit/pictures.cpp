@@ -38,7 +38,7 @@ QPixmap transparent(QSize size, qreal devicePixelRatio) {
 } // namespace
 
 Pictures::Pictures() : m_presence(loadDrawing("presenza")) {
-    for (const DescrizioneTipo& tipo : TipiImpegno) {
+    for (const DescrizioneImpegno& tipo : TipiImpegno) {
         m_corners.push_back(loadDrawing(tipo.disegno));
     }
 }

@@ -23,7 +23,7 @@ struct VoceLegenda {
 
 std::vector<VoceLegenda> legend() {
     std::vector<VoceLegenda> entries;
-    for (const DescrizioneTipo& tipo : TipiImpegno) {
+    for (const DescrizioneImpegno& tipo : TipiImpegno) {
         const QString name = fromUtf8(tipo.nome);
         entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), name.left(1).toUpper() + name.mid(1)});
     }
