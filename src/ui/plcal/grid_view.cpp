@@ -14,6 +14,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+#include <array>
+
 namespace planner {
 
 namespace {
@@ -97,26 +100,18 @@ std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QK
     if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) {
         return std::nullopt; // the period's keys, where the period ends
     }
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return MoveLeft;
-    case Qt::Key_Right:
-        return MoveRight;
-    case Qt::Key_Up:
-        return MoveUp;
-    case Qt::Key_Down:
-        return MoveDown;
-    case Qt::Key_Home:
-        return MoveHome;
-    case Qt::Key_End:
-        return MoveEnd;
-    case Qt::Key_PageUp:
-        return MovePageUp;
-    case Qt::Key_PageDown:
-        return MovePageDown;
-    default:
-        return std::nullopt;
-    }
+    static constexpr std::array<std::pair<Qt::Key, CursorAction>, 8> moves{
+        {{Qt::Key_Left, MoveLeft},
+         {Qt::Key_Right, MoveRight},
+         {Qt::Key_Up, MoveUp},
+         {Qt::Key_Down, MoveDown},
+         {Qt::Key_Home, MoveHome},
+         {Qt::Key_End, MoveEnd},
+         {Qt::Key_PageUp, MovePageUp},
+         {Qt::Key_PageDown, MovePageDown}}};
+    const auto found = std::find_if(moves.begin(), moves.end(),
+                                    [&event](const auto& move) { return move.first == event.key(); });
+    return found == moves.end() ? std::nullopt : std::optional(found->second);
 }
 
 void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
