@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "grids/giornaliera.h"
+#include "painted.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/pictures.h"
+#include "ui/plcal/cell_delegate.h"
+#include "ui/plcal/cell_painter.h"
+#include "ui/plcal/grid_model.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include <gtest/gtest.h>
+
+namespace planner::test {
+
+namespace {
+
+constexpr QSize Size(44, 40);
+constexpr int FirstRow = 2; // below the fixed ones
+constexpr int Deadline = 10;
+
+const QRgb Plain = qtColor(Colore::gialloChiaro).rgb();
+const QRgb Line = qRgb(200, 200, 188);
+const QRgb StrongLine = qRgb(136, 136, 128);
+const QRgb Today = qRgb(0, 110, 60);
+const QRgb BarEdge = qRgb(70, 110, 180);
+
+/// One cell of a grid of days, painted at a device pixel ratio.
+class CellPixels : public testing::TestWithParam<int> {
+protected:
+    Painted paint(int row, int column) { return paint(griglia, row, column); }
+    Painted paint(const Griglia& grid, int row, int column) {
+        return {size, GetParam(), [&](QPainter& target) {
+                    painter.paint(target, {{0, 0}, size}, grid, row, column);
+                }};
+    }
+    Painted paintFocused(bool focused) {
+        return {Size, GetParam(), [&](QPainter& target) {
+                    const GridModel model(griglia, [](int, int) { return std::string(); });
+                    QObject owner;
+                    QStyleOptionViewItem option;
+                    option.rect = {{0, 0}, Size};
+                    option.state.setFlag(QStyle::State_HasFocus, focused);
+                    CellDelegate(model, painter, &owner).paint(&target, option, model.index(1, 2));
+                }};
+    }
+
+    /// Expects a line of the colour, two pixels wide, all around, and none of it inside.
+    static void expectFrame(const Painted& cell, QRgb colour) {
+        const double w = Size.width() - 1; // the grid's own lines stay in sight
+        const double h = Size.height() - 1;
+        EXPECT_TRUE(cell.all({2, 0, w - 4, 2}, is(colour))) << "above";
+        EXPECT_TRUE(cell.all({2, h - 2, w - 4, 2}, is(colour))) << "below";
+        EXPECT_TRUE(cell.all({0, 2, 2, h - 4}, is(colour))) << "left";
+        EXPECT_TRUE(cell.all({w - 2, 2, 2, h - 4}, is(colour))) << "right";
+        EXPECT_FALSE(cell.any({2, 2, w - 4, h - 4}, is(colour)));
+    }
+
+    /// Inside of the lines that each cell has.
+    static QRectF inside() { return {0, 0, Size.width() - 1.0, Size.height() - 1.0}; }
+
+    Griglia griglia{4, 15, FirstRow, Colore::gialloChiaro};
+    CellPainter painter{1};
+    QSize size = Size;
+};
+
+} // namespace
+
+TEST_P(CellPixels, AnEmptyCellIsItsGroundWithALineBelowAndAtTheRight) {
+    const Painted cell = paint(FirstRow, 3);
+    EXPECT_TRUE(cell.all(inside(), is(Plain)));
+    EXPECT_TRUE(cell.all({0, Size.height() - 1.0, Size.width() - 1.0, 1}, is(Line)));
+    EXPECT_TRUE(cell.all({Size.width() - 1.0, 0, 1, Size.height() - 1.0}, is(Line)));
+}
+
+TEST_P(CellPixels, TheLineAtTheEndOfAWeekAndBelowTheHeaderIsStronger) {
+    const double right = Size.width() - 0.5;
+    const double bottom = Size.height() - 0.5;
+    for (int column = 1; column < griglia.Cols(); ++column) {
+        EXPECT_EQ(paint(FirstRow, column).at({right, 5}), column % 7 == 0 ? StrongLine : Line) << column;
+    }
+    EXPECT_EQ(paint(FirstRow, 0).at({right, 5}), StrongLine) << "beside the names";
+    EXPECT_EQ(paint(0, 3).at({5, bottom}), StrongLine);
+    EXPECT_EQ(paint(1, 3).at({5, bottom}), StrongLine);
+    EXPECT_EQ(paint(FirstRow, 3).at({5, bottom}), Line);
+}
+
+TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
+    const Griglia quarters(2, ColonneQuarti + 1, 1, Colore::gialloChiaro);
+    for (int column = 1; column <= 8; ++column) {
+        EXPECT_EQ(paint(quarters, 1, column).at({Size.width() - 0.5, 5}), column % 4 == 0 ? StrongLine : Line)
+            << column;
+    }
+}
+
+TEST_P(CellPixels, EachColourOfACellIsItsGround) {
+    const auto expectGround = [&](Colore colore) {
+        EXPECT_EQ(griglia.aspetto(FirstRow, 3).fondo, colore);
+        EXPECT_TRUE(paint(FirstRow, 3).all(inside(), is(qtColor(colore).rgb()))) << static_cast<int>(colore);
+    };
+    griglia.setCaption(FirstRow, 3, Ruolo::giornoAnno, "");
+    expectGround(Colore::grigioChiaro);
+    griglia.segna(FirstRow, 3);
+    expectGround(Colore::navy);
+    griglia.evidenzia(FirstRow);
+    expectGround(Colore::giallo);
+    griglia.scegli(FirstRow, 3);
+    expectGround(Colore::ciano);
+    griglia = Griglia(4, 15, FirstRow, Colore::bianco);
+    expectGround(Colore::bianco);
+    EXPECT_TRUE(paint(0, 3).all(inside(), is(qtColor(Colore::intestazione).rgb()))) << "of a header";
+}
+
+TEST_P(CellPixels, ThePictureOfADayIsDrawnInItsMiddleAsFineAsTheScreenIs) {
+    for (const int number : {1, Deadline, 16}) {
+        griglia.setCellPicture(FirstRow, 3, number);
+        const Painted cell = paint(FirstRow, 3);
+        constexpr int side = Size.height() - 2;
+        constexpr int left = (Size.width() - 1 - side) / 2;
+        const Painted expected(Size, GetParam(), [&](QPainter& target) {
+            target.fillRect(QRect({0, 0}, Size), qtColor(Colore::gialloChiaro));
+            Pictures pictures;
+            target.drawPixmap(left, 0, pictures.picture(number, side, GetParam()));
+        });
+        const QRectF middle(left, 0, side, side);
+        EXPECT_GT(cell.amount(middle, isNot(Plain)), side * side / 30.0) << number;
+        EXPECT_EQ(cell.amount(middle, isNot(Plain)), expected.amount(middle, isNot(Plain))) << number;
+        EXPECT_FALSE(cell.any({0, 0, left, side}, isNot(Plain))) << number;
+    }
+}
+
+TEST_P(CellPixels, APictureBesideANameLeavesTheNameInSight) {
+    griglia.setCaption(FirstRow, 0, Ruolo::nomeGiornaliero, "Rossi");
+    griglia.setCellPicture(FirstRow, 0, Deadline);
+    size = {140, Size.height()};
+    const Painted cell = paint(FirstRow, 0);
+    const QRectF name(0, 0, 90, size.height() - 1.0);
+    const QRectF picture(90, 0, size.width() - 91.0, size.height() - 1.0);
+    EXPECT_TRUE(cell.any(name, isDark));
+    EXPECT_FALSE(cell.any(name, isRed));
+    EXPECT_TRUE(cell.any(picture, isRed)) << "the deadline";
+    EXPECT_EQ(cell.at({size.width() - 3.0, size.height() / 2.0}), qtColor(Colore::intestazione).rgb())
+        << "a margin";
+}
+
+TEST_P(CellPixels, TextHasTheColourOfItsCell) {
+    struct Letters {
+        Ruolo ruolo;
+        bool fineSettimana;
+        Colore colore;
+        bool (*predicate)(QRgb);
+    };
+    const std::vector<Letters> table{{Ruolo::lettera, false, Colore::nero, isDark},
+                                     {Ruolo::lettera, true, Colore::rosso, isRed},
+                                     {Ruolo::periodo, false, Colore::navy, isNavy}};
+    for (const Letters& letters : table) {
+        griglia.setCaption(FirstRow, 3, letters.ruolo, "M8", letters.fineSettimana);
+        EXPECT_EQ(griglia.CellForeColor(FirstRow, 3), letters.colore);
+        const Painted cell = paint(FirstRow, 3);
+        for (const Letters& other : table) {
+            EXPECT_EQ(cell.any(inside(), other.predicate), other.colore == letters.colore)
+                << static_cast<int>(letters.colore);
+        }
+    }
+    griglia.segna(FirstRow, 3);
+    EXPECT_TRUE(paint(FirstRow, 3).any(inside(), [](QRgb c) { return qRed(c) > 200 && qBlue(c) > 200; }));
+}
+
+TEST_P(CellPixels, TextStandsInTheMiddleOrAtTheLeft) {
+    griglia.setText(FirstRow, 3, "I");
+    const QRectF leftPart(0, 0, Size.width() / 3.0, Size.height() - 1.0);
+    const QRectF middle(Size.width() / 3.0, 0, Size.width() / 3.0, Size.height() - 1.0);
+    EXPECT_FALSE(paint(FirstRow, 3).any(leftPart, isDark));
+    EXPECT_TRUE(paint(FirstRow, 3).any(middle, isDark));
+    griglia.setCaption(FirstRow, 3, Ruolo::nomeGiornaliero, "I");
+    EXPECT_TRUE(paint(FirstRow, 3).any(leftPart, isDark));
+    EXPECT_FALSE(paint(FirstRow, 3).any(middle, isDark));
+}
+
+TEST_P(CellPixels, TodayHasAFrameInsideItsLines) {
+    griglia.setCellToday(FirstRow, 3, true);
+    expectFrame(paint(FirstRow, 3), Today);
+    EXPECT_FALSE(paint(FirstRow, 4).any(inside(), is(Today)));
+}
+
+TEST_P(CellPixels, TodaysFrameStandsOnHeadersToo) {
+    griglia.setText(1, 3, "1");
+    griglia.setCellToday(1, 3, true);
+    const Painted cell = paint(1, 3);
+    expectFrame(cell, Today);
+    EXPECT_TRUE(cell.any(inside(), isDark)) << "the day's number";
+}
+
+TEST_P(CellPixels, TheFocusHasAFrameAndTheOtherCellsHaveNone) {
+    expectFrame(paintFocused(true), qtColor(Colore::navy).rgb());
+    EXPECT_FALSE(paintFocused(false).any(inside(), is(qtColor(Colore::navy).rgb())));
+}
+
+TEST_P(CellPixels, TheFocusFrameCoversTodays) {
+    griglia.setCellToday(FirstRow + 1, 3, true);
+    expectFrame(paintFocused(true), qtColor(Colore::navy).rgb());
+    expectFrame(paintFocused(false), Today);
+}
+
+TEST_P(CellPixels, ABarHasItsFillItsEdgesAndItsPicture) {
+    Griglia quarters(2, ColonneQuarti + 1, 1, Colore::gialloChiaro);
+    quarters.setFasce(1, {{3, 5, Deadline}});
+    const QRgb fill = qtColor(Colore::azzurro).rgb();
+    const Painted first = paint(quarters, 1, 3);
+    const Painted middle = paint(quarters, 1, 4);
+    const Painted last = paint(quarters, 1, 5);
+    EXPECT_TRUE(first.all({0, 8, 1, 24}, is(BarEdge)));
+    EXPECT_TRUE(first.any({1, 4, 40, 32}, isRed)) << "the deadline";
+    EXPECT_TRUE(middle.all({0, 8, Size.width() - 1.0, 24}, is(fill)));
+    EXPECT_TRUE(last.all({Size.width() - 1.0, 8, 1, 24}, is(BarEdge)));
+    for (const Painted* cell : {&first, &middle, &last}) {
+        EXPECT_EQ(cell->amount({20, 0, 1, Size.height() - 1.0}, is(BarEdge)), 2) << "above and below";
+    }
+    EXPECT_FALSE(paint(quarters, 1, 6).any(inside(), isNot(Plain)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Ratio, CellPixels, testing::Values(1, 2), testing::PrintToStringParamName());
+
+} // namespace planner::test
