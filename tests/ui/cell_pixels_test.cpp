@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "grids/giornaliera.h"
+#include "painted.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/pictures.h"
 #include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/cell_painter.h"
 #include "ui/plcal/grid_model.h"
-#include "grids/giornaliera.h"
-#include "ui/kit/appearance.h"
-#include "ui/kit/pictures.h"
-#include "painted.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -96,11 +96,20 @@ TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
 }
 
 TEST_P(CellPixels, EachColourOfACellIsItsGround) {
-    for (const Colore colore : {Colore::giallo, Colore::ciano, Colore::grigioChiaro, Colore::navy,
-                                Colore::azzurro, Colore::bianco}) {
-        griglia.setCellBackColor(FirstRow, 3, colore);
+    const auto expectGround = [&](Colore colore) {
+        EXPECT_EQ(griglia.aspetto(FirstRow, 3).fondo, colore);
         EXPECT_TRUE(paint(FirstRow, 3).all(inside(), is(qtColor(colore).rgb()))) << static_cast<int>(colore);
-    }
+    };
+    griglia.setCaption(FirstRow, 3, Ruolo::giornoAnno, "");
+    expectGround(Colore::grigioChiaro);
+    griglia.segna(FirstRow, 3);
+    expectGround(Colore::navy);
+    griglia.evidenzia(FirstRow);
+    expectGround(Colore::giallo);
+    griglia.scegli(FirstRow, 3);
+    expectGround(Colore::ciano);
+    griglia = Griglia(4, 15, FirstRow, Colore::bianco);
+    expectGround(Colore::bianco);
     EXPECT_TRUE(paint(0, 3).all(inside(), is(qtColor(Colore::intestazione).rgb()))) << "of a header";
 }
 
@@ -123,8 +132,7 @@ TEST_P(CellPixels, ThePictureOfADayIsDrawnInItsMiddleAsFineAsTheScreenIs) {
 }
 
 TEST_P(CellPixels, APictureBesideANameLeavesTheNameInSight) {
-    griglia.setText(FirstRow, 0, "Rossi");
-    griglia.setCellAlignment(FirstRow, 0, Allineamento::sinistra);
+    griglia.setCaption(FirstRow, 0, Ruolo::nomeGiornaliero, "Rossi");
     griglia.setCellPicture(FirstRow, 0, Deadline);
     size = {140, Size.height()};
     const Painted cell = paint(FirstRow, 0);
@@ -138,18 +146,25 @@ TEST_P(CellPixels, APictureBesideANameLeavesTheNameInSight) {
 }
 
 TEST_P(CellPixels, TextHasTheColourOfItsCell) {
-    griglia.setText(FirstRow, 3, "M8");
-    const std::vector<std::pair<Colore, bool (*)(QRgb)>> table{
-        {Colore::nero, isDark}, {Colore::rosso, isRed}, {Colore::navy, isNavy}};
-    for (const auto& [colore, wanted] : table) {
-        griglia.setCellForeColor(FirstRow, 3, colore);
+    struct Letters {
+        Ruolo ruolo;
+        bool fineSettimana;
+        Colore colore;
+        bool (*predicate)(QRgb);
+    };
+    const std::vector<Letters> table{{Ruolo::lettera, false, Colore::nero, isDark},
+                                     {Ruolo::lettera, true, Colore::rosso, isRed},
+                                     {Ruolo::periodo, false, Colore::navy, isNavy}};
+    for (const Letters& letters : table) {
+        griglia.setCaption(FirstRow, 3, letters.ruolo, "M8", letters.fineSettimana);
+        EXPECT_EQ(griglia.CellForeColor(FirstRow, 3), letters.colore);
         const Painted cell = paint(FirstRow, 3);
-        for (const auto& [other, predicate] : table) {
-            EXPECT_EQ(cell.any(inside(), predicate), other == colore) << static_cast<int>(colore);
+        for (const Letters& other : table) {
+            EXPECT_EQ(cell.any(inside(), other.predicate), other.colore == letters.colore)
+                << static_cast<int>(letters.colore);
         }
     }
-    griglia.setCellForeColor(FirstRow, 3, Colore::bianco);
-    griglia.setCellBackColor(FirstRow, 3, Colore::navy);
+    griglia.segna(FirstRow, 3);
     EXPECT_TRUE(paint(FirstRow, 3).any(inside(), [](QRgb c) { return qRed(c) > 200 && qBlue(c) > 200; }));
 }
 
@@ -159,7 +174,7 @@ TEST_P(CellPixels, TextStandsInTheMiddleOrAtTheLeft) {
     const QRectF middle(Size.width() / 3.0, 0, Size.width() / 3.0, Size.height() - 1.0);
     EXPECT_FALSE(paint(FirstRow, 3).any(leftPart, isDark));
     EXPECT_TRUE(paint(FirstRow, 3).any(middle, isDark));
-    griglia.setCellAlignment(FirstRow, 3, Allineamento::sinistra);
+    griglia.setCaption(FirstRow, 3, Ruolo::nomeGiornaliero, "I");
     EXPECT_TRUE(paint(FirstRow, 3).any(leftPart, isDark));
     EXPECT_FALSE(paint(FirstRow, 3).any(middle, isDark));
 }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/geometry.h"
-#include "ui/plcal/grid_corner.h"
-#include "ui/kit/appearance.h"
 #include "painted.h"
+#include "ui/kit/appearance.h"
+#include "ui/plcal/grid_corner.h"
 #include "window_bench.h"
 
 #include <QHeaderView>
@@ -49,7 +49,7 @@ struct WindowPixels : testing::Test {
         const Griglia& griglia = bench.griglia();
         const QRectF cell = headerCell(row, column).adjusted(3, 3, -3, -3);
         const bool text = !griglia.TextMatrix(row, column).empty();
-        const bool red = griglia.cella(row, column).colore == Colore::rosso;
+        const bool red = griglia.CellForeColor(row, column) == Colore::rosso;
         EXPECT_EQ(painted.any(cell, isRed), text && red) << row << "," << column;
         EXPECT_EQ(painted.any(cell, isDark), text && !red) << row << "," << column;
     }
@@ -74,12 +74,12 @@ struct WindowPixels : testing::Test {
 
 TEST_F(WindowPixels, TheMonthsHeaderShowsLettersAndNumbersHolidaysAndWeekendsInRed) {
     bench.open("M", "20060515"); // 1 May is a Monday and a holiday
-    ASSERT_EQ(bench.griglia().cella(0, 1).colore, Colore::rosso);
-    ASSERT_EQ(bench.griglia().cella(1, 1).colore, Colore::rosso);
-    ASSERT_EQ(bench.griglia().cella(0, 2).colore, Colore::nero);
-    ASSERT_EQ(bench.griglia().cella(0, 6).colore, Colore::rosso) << "a Saturday";
-    ASSERT_EQ(bench.griglia().cella(1, 6).colore, Colore::rosso);
-    ASSERT_EQ(bench.griglia().cella(1, 2).colore, Colore::nero);
+    ASSERT_EQ(bench.griglia().CellForeColor(0, 1), Colore::rosso);
+    ASSERT_EQ(bench.griglia().CellForeColor(1, 1), Colore::rosso);
+    ASSERT_EQ(bench.griglia().CellForeColor(0, 2), Colore::nero);
+    ASSERT_EQ(bench.griglia().CellForeColor(0, 6), Colore::rosso) << "a Saturday";
+    ASSERT_EQ(bench.griglia().CellForeColor(1, 6), Colore::rosso);
+    ASSERT_EQ(bench.griglia().CellForeColor(1, 2), Colore::nero);
     const Painted painted = header();
     for (int column = 1; column <= ColonneGiorni; ++column) {
         expectHeaderText(0, column, painted);

@@ -39,7 +39,7 @@ void Griglia::setRows(int rows) {
     std::erase_if(m_fasce, [this](const auto& row) { return row.first >= m_rows; });
     m_row = std::min(m_row, m_rows - 1);
     if (m_sceltaRow >= m_rows) {
-        m_sceltaRow = m_sceltaCol = -1;
+        m_sceltaRow = m_sceltaCol = Nessuna;
     }
     m_dirty.include(m_fixedRows, 0);
     m_dirty.include(m_rows - 1, m_cols - 1);
@@ -118,12 +118,11 @@ void Griglia::segna(int row, int col) {
 
 void Griglia::evidenzia(int riga) {
     const LockWindowUpdate lock(*this);
-    index(riga, 0);
     scegliNessuna();
     if (riga != m_evidenziata) {
+        includeRow(riga);
         includeRow(m_evidenziata);
         m_evidenziata = riga;
-        includeRow(riga);
     }
 }
 
@@ -139,16 +138,9 @@ void Griglia::scegli(int row, int col) {
 void Griglia::scegliNessuna() {
     if (m_sceltaRow >= 0) {
         m_dirty.include(m_sceltaRow, m_sceltaCol);
-        m_sceltaRow = m_sceltaCol = -1;
+        m_sceltaRow = m_sceltaCol = Nessuna;
         notify();
     }
-}
-
-void Griglia::dimenticaScelte() {
-    const LockWindowUpdate lock(*this);
-    scegliNessuna();
-    includeRow(m_evidenziata);
-    m_evidenziata = -1;
 }
 
 void Griglia::includeRow(int row) {

@@ -79,17 +79,16 @@ public:
     /// Marks the day as the yearly table does.
     void segna(int row, int col);
 
-    /// Highlights the row and no other. No cell is the selected one afterwards.
+    static constexpr int Nessuna = -1;
+    /// Highlights the row and no other, or none. No cell is the selected one afterwards.
     void evidenzia(int riga);
     /// True once a row is highlighted; it stays so when the grid's rows are made anew.
     bool EvidenziazioneAttiva() const { return m_evidenziata >= 0; }
     /// The highlighted row, negative for none.
     int RigaEvidenziata() const { return m_evidenziata; }
-    /// Makes the cell the selected one, or none. It stays so until its row is dropped.
+    /// Makes the cell the selected one, until another is or its row is dropped.
     void scegli(int row, int col);
     void scegliNessuna();
-    /// Neither a row is highlighted nor a cell selected afterwards.
-    void dimenticaScelte();
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;
@@ -134,8 +133,8 @@ private:
     int m_rows, m_cols, m_fixedRows;
     Colore m_sfondoBase;
     int m_row = 0, m_col = 0;
-    int m_evidenziata = -1; // row
-    int m_sceltaRow = -1, m_sceltaCol = -1;
+    int m_evidenziata = Nessuna; // row
+    int m_sceltaRow = Nessuna, m_sceltaCol = Nessuna;
     std::vector<Cella> m_cells;
     std::vector<int> m_rowHeights; // of the fixed rows, and at last of every data row
     std::vector<int> m_colWidths;

@@ -143,7 +143,7 @@ TEST_F(GrigliaTest, TheHighlightStaysWhenRowsAreMadeAnewAndTheSelectedCellDoesNo
     griglia.setRows(1);
     griglia.setRows(4);
     EXPECT_EQ(griglia.CellBackColor(2, 1), Colore::giallo);
-    griglia.dimenticaScelte();
+    griglia.evidenzia(Griglia::Nessuna);
     EXPECT_FALSE(griglia.EvidenziazioneAttiva());
     EXPECT_EQ(griglia.CellBackColor(2, 1), Colore::gialloChiaro);
 }

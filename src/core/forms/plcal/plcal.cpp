@@ -13,7 +13,7 @@ void plcal::load() {
     }
     // A kept window is refilled for its next request: what was marked in its grids is gone.
     for (Griglia* griglia : {&m_controlli.Flxm, &m_controlli.flxg, &m_controlli.flxa}) {
-        griglia->dimenticaScelte();
+        griglia->evidenzia(Griglia::Nessuna);
     }
     m_pannello.nascondiTotali();
     m_pannello.svuotaAnnuali();

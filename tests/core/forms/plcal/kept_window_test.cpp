@@ -32,7 +32,7 @@ protected:
         std::vector<std::string> cells;
         for (int riga = griglia.FixedRows(); riga < griglia.Rows(); ++riga) {
             for (int colonna = 0; colonna < griglia.Cols(); ++colonna) {
-                const Colore sfondo = griglia.sfondoVisibile(riga, colonna);
+                const Colore sfondo = griglia.CellBackColor(riga, colonna);
                 if (sfondo == Colore::giallo || sfondo == Colore::ciano) {
                     cells.push_back(std::to_string(riga) + "," + std::to_string(colonna));
                 }
@@ -124,8 +124,8 @@ TEST_F(KeptWindowTest, WhatWasBelowTheYearlyMarkIsNotPutIntoTheNextYear) {
     bench.putAnnuale(annoPlanner("2006", {{5, 10}}));
     next("A", "20060420");
     gesto(5, 10);
-    EXPECT_EQ(controlli.flxa.cella(3, 10).sfondo, Colore::grigioChiaro);
-    EXPECT_NE(controlli.flxa.cella(3, 10).colore, Colore::bianco);
+    EXPECT_EQ(controlli.flxa.CellBackColor(3, 10), Colore::grigioChiaro);
+    EXPECT_NE(controlli.flxa.CellForeColor(3, 10), Colore::bianco);
 }
 
 } // namespace
