@@ -22,7 +22,7 @@ constexpr std::string_view NomeDisponibile = "TvPlaOK.lck";
 /// planner does.
 constexpr std::chrono::milliseconds Controllo{500};
 
-constexpr std::chrono::seconds TempoPerFinire{30};
+constexpr std::chrono::seconds AttesaDellaFine{30};
 
 [[noreturn]] void failFile(const std::filesystem::path& path, const std::string& cause) {
     throw HostError(CodiceUscita::ErroreFile, path.string() + ": " + cause);
@@ -100,7 +100,7 @@ void PollingConversation::congeda() {
     // A marker without a transit file is how a host sends a planner away.
     removeFile(dati().transito);
     createFile(m_marker);
-    attendi(planner().endDescriptor(), NessunDescrittore, interruzioni(), TempoPerFinire);
+    attendi(planner().endDescriptor(), NessunDescrittore, interruzioni(), AttesaDellaFine);
     removeFile(m_marker);
     planner().terminate();
 }
@@ -111,7 +111,7 @@ void provaFlagZero(const DatiColloquio& dati, const Interruzioni& interruzioni) 
         createFile(marker);
     }
     PlannerProcess planner(dati.planner, argomentiPlanner(dati));
-    attendi(planner.endDescriptor(), NessunDescrittore, interruzioni, TempoPerFinire);
+    attendi(planner.endDescriptor(), NessunDescrittore, interruzioni, AttesaDellaFine);
     if (!planner.waitForEnd(std::chrono::milliseconds{0}) || std::filesystem::exists(marker)) {
         throw HostError(CodiceUscita::PlannerFallito,
                         "con il flag 0 il planner doveva togliere " + marker.string() + " e finire");

@@ -6,6 +6,8 @@
 
 namespace planner {
 
+inline constexpr int QuartoDora = 15; // minutes
+
 /// The number, not negative, in at least `width` digits, with leading zeros.
 inline std::string padded(int number, std::size_t width) {
     const std::string digits = std::to_string(number);

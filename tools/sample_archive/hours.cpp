@@ -11,7 +11,6 @@ namespace planner {
 
 namespace {
 
-constexpr int QuartoDora = 15;
 constexpr int MinutiMassimi =
     9 * 60 + 45; // from ten hours on the yearly chart's axis would go up to a hundred
 

@@ -16,7 +16,6 @@ namespace {
 constexpr int PercentualeSenzaOra = 5;
 constexpr int InizioGiornata = 8 * 60; // minutes after midnight
 constexpr int FineGiornata = 18 * 60 + 30;
-constexpr int QuartoDora = 15;
 
 /// Kinds of entries, as bits of a set.
 enum Tipo : unsigned { NoteRiservate = 1, ImpegniVari = 2, Scadenze = 4, Pratiche = 8 };

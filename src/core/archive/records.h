@@ -61,13 +61,13 @@ static_assert(sizeof(RigaPlanner) == 89 && fieldsCover(RigaPlannerFields, sizeof
 
 /// One month of the yearly archive (file `wplanner`, January first).
 struct MesePlanner {
-    static constexpr std::size_t cellCount = 42; // six weeks of seven days
+    static constexpr std::size_t CellCount = 42; // six weeks of seven days
 
     FixedText<4> anno;
     FixedText<2> mese;
     FixedText<2> campo3;
-    std::array<FixedText<1>, cellCount> segni;
-    std::array<FixedText<44>, cellCount> testi;
+    std::array<FixedText<1>, CellCount> segni;
+    std::array<FixedText<44>, CellCount> testi;
     FixedText<2> campo6;
 };
 

@@ -8,16 +8,6 @@ namespace planner::test {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json information(const std::string& text) {
-    return {{"icona", "informazione"}, {"titolo", "Planner"}, {"testo", text}};
-}
-
-Json critical(const std::string& text) {
-    return {{"icona", "critica"}, {"titolo", "Planner"}, {"testo", text}};
-}
-
 Json dumpOfKind(std::string_view kind, std::string_view index) {
     SmallOffice office;
     office.richiesta = request(kind);

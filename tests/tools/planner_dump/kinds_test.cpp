@@ -10,8 +10,6 @@ namespace planner::test {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 Json cell(int row, int column, std::string_view text, std::string_view fore, std::string_view back,
           int picture) {
     return {{"r", row},       {"c", column},    {"testo", text},

@@ -6,20 +6,6 @@
 
 namespace planner::test {
 
-namespace {
-
-using Json = nlohmann::ordered_json;
-
-Json information(const std::string& text) {
-    return {{"icona", "informazione"}, {"titolo", "Planner"}, {"testo", text}};
-}
-
-Json critical(const std::string& text) {
-    return {{"icona", "critica"}, {"titolo", "Planner"}, {"testo", text}};
-}
-
-} // namespace
-
 TEST(DumpMessages, ImpossibleDatesAreSaidTogetherAndCountAsMissing) {
     SmallOffice office;
     office.richiesta = request("G");

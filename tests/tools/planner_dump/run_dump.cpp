@@ -69,4 +69,12 @@ DumpRun runDump(const std::vector<std::string>& arguments) {
     return {exitCode, fileBytes(out), fileBytes(err)};
 }
 
+Json information(const std::string& text) {
+    return {{"icona", "informazione"}, {"titolo", "Planner"}, {"testo", text}};
+}
+
+Json critical(const std::string& text) {
+    return {{"icona", "critica"}, {"titolo", "Planner"}, {"testo", text}};
+}
+
 } // namespace planner::test

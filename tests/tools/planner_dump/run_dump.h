@@ -8,6 +8,8 @@
 
 namespace planner::test {
 
+using Json = nlohmann::ordered_json;
+
 /// What a run of planner-dump left behind.
 struct DumpRun {
     int exitCode; // -1 when it did not end by itself
@@ -15,10 +17,14 @@ struct DumpRun {
     std::string err;
 
     /// The printed object; throws when it is no JSON.
-    nlohmann::ordered_json json() const { return nlohmann::ordered_json::parse(out); }
+    Json json() const { return Json::parse(out); }
 };
 
 /// Runs planner-dump with the arguments and waits for its end.
 DumpRun runDump(const std::vector<std::string>& arguments);
+
+/// A message box of the planner as planner-dump prints it.
+Json information(const std::string& text);
+Json critical(const std::string& text);
 
 } // namespace planner::test

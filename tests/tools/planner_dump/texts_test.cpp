@@ -10,8 +10,6 @@ namespace planner::test {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Cuts a text of 256 bytes into staff names.
 std::vector<Collaboratore> peopleNamedAfterEveryByte() {
     std::vector<Collaboratore> people;

@@ -45,7 +45,7 @@ protected:
     template <typename Check>
     void forEachMark(Check check) const {
         for (std::size_t month = 0; month < 12; ++month) {
-            for (std::size_t cell = 0; cell < MesePlanner::cellCount; ++cell) {
+            for (std::size_t cell = 0; cell < MesePlanner::CellCount; ++cell) {
                 const MesePlanner& mese = m_archivio.mesi.at(month);
                 if (mese.segni.at(cell).view() == "*") {
                     check(mese, cell,
@@ -99,7 +99,7 @@ TEST_P(SampleMarks, StandOnAboutHalfOfTheWorkingDays) {
 
 TEST_P(SampleMarks, LeaveUnmarkedCellsBlank) {
     for (const MesePlanner& mese : m_archivio.mesi) {
-        for (std::size_t cell = 0; cell < MesePlanner::cellCount; ++cell) {
+        for (std::size_t cell = 0; cell < MesePlanner::CellCount; ++cell) {
             EXPECT_EQ(mese.segni[cell].view() == "*", !mese.testi[cell].trimmed().empty());
         }
     }

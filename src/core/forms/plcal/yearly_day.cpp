@@ -19,7 +19,7 @@ struct CellaAnnuale {
 CellaAnnuale cellOf(const Archivi& archivi, int riga, int colonna) {
     const auto month = static_cast<std::size_t>(riga - 1);
     const auto cell = static_cast<std::size_t>(colonna - 1);
-    if (riga < 1 || colonna < 1 || month >= archivi.PlannerAnnuale.size() || cell >= MesePlanner::cellCount) {
+    if (riga < 1 || colonna < 1 || month >= archivi.PlannerAnnuale.size() || cell >= MesePlanner::CellCount) {
         throw SubscriptError();
     }
     const MesePlanner& mese = archivi.PlannerAnnuale[month];
