@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "archive/fixed_text.h"
 #include "archive/numeric_value.h"
-#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
 #include "ports/runtime_errors.h"
@@ -38,9 +38,10 @@ void plcal::griglia_Gesto(const Gesto& gesto) {
         m_porte.vista.rinvia(
             [this, text = operazioneNonRiuscita(error)] { m_porte.messaggi.critical(text); });
     }
-    m_porte.vista.aggiorna();
     if (descrizione(gesto.mezzo).consulta && *luogo == Luogo::giorno) {
         Toolbar1_ButtonClick("consult");
+    } else {
+        m_porte.vista.aggiorna();
     }
 }
 
@@ -51,8 +52,8 @@ void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
         moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia().setCurrent(gesto.riga,
-                         onName ? tipo().colonnaGiorno(m_controlli, griglia().Col()) : gesto.colonna);
+    griglia().setCurrent(gesto.riga, onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())
+                                            : gesto.colonna);
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
@@ -127,7 +128,7 @@ void plcal::markShownCell() {
     const int riga = m_marks.RigaEvidenziata();
     if (m_marks.EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
         m_marks.highlight(griglia(), riga); // gives the cell marked before the row's colour
-        m_marks.markCell(griglia(), riga, tipo().colonnaGiorno(m_controlli, griglia().Col()));
+        m_marks.markCell(griglia(), riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()));
     }
 }
 
@@ -146,7 +147,7 @@ int plcal::rigaCursore() const {
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
     if (m_controlli.tipoVisibile) {
-        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli, colonnaGiornaliera));
+        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera));
     }
 }
 
