@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "archive/records.h"
 #include "host/transit_request.h"
+#include "planner_host/answer.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

@@ -5,12 +5,32 @@
 #include "host/transit_request.h"
 #include "session/dates.h"
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace planner {
+
+/// The action letters that an answer can end with.
+struct AzioneRisposta {
+    char lettera;
+    std::string_view significato; // Italian, UTF-8
+};
+
+inline constexpr std::array AzioniRisposta{
+    AzioneRisposta{'E', "chiusura del planner"},
+    AzioneRisposta{'F', "filtri, la finestra resta pronta"},
+    AzioneRisposta{'A', "apertura dell'agenda"},
+    AzioneRisposta{'C', "collaboratore scelto"},
+    AzioneRisposta{'D', "consultazione del giorno"},
+    AzioneRisposta{'I', "inserimento di un impegno"},
+    AzioneRisposta{'P', "anno precedente"},
+    AzioneRisposta{'S', "anno successivo"},
+    AzioneRisposta{'T', "inserimento di una pratica"},
+    AzioneRisposta{' ', "nessuna azione"},
+};
 
 /// What an answer's `valret` says.
 struct Risposta {

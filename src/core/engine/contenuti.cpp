@@ -30,9 +30,9 @@ bool trap(MessageBoxes& messaggi, std::string_view wording, const std::string& p
 
 void Contenuti::prepara(const std::string& collab) {
     if (const RegoleTipo* tipo = regoleVisibili(m.controlli)) {
-        (this->*tipo->leggi)();
         m.controlli.Caption = tipo->Caption;
         (this->*tipo->pulisci)();
+        (this->*tipo->leggi)();
         (this->*tipo->disponi)();
         (this->*tipo->popola)();
         Let_planner(collab);
@@ -54,7 +54,7 @@ void Contenuti::ricompila() {
 
 void Contenuti::segnaOggi() {
     if (const RegoleTipo* tipo = regoleVisibili(m.controlli)) {
-        tipo->segnaOggi(m.controlli, m.orologio.today());
+        tipo->segnaOggi(m.controlli.*tipo->griglia, m.controlli.calendario, m.orologio.today());
     }
 }
 
@@ -122,10 +122,6 @@ void Contenuti::PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const {
     }
 }
 
-std::int16_t Contenuti::IndCollaboratore(std::string_view codice) const {
-    return m.sessione.indiceCodici.IndCollaboratore(codice);
-}
-
 std::string Contenuti::EstraiCollaboratore(std::string_view codice) const {
     return planner::EstraiCollaboratore(m.sessione.archivi.Collaboratori, m.sessione.indiceCodici, codice);
 }
@@ -137,16 +133,12 @@ void Contenuti::Dayofweek() {
 
 void Contenuti::showgrid() {
     planner::showgrid(m.sessione, m.controlli.calendario, m.controlli.Flxm);
-    mensile().segnaOggi(m.controlli, m.orologio.today());
-}
-
-void Contenuti::showgrid2() {
-    planner::showgrid2(m.controlli.flxg);
+    markTodayMonthly(m.controlli.Flxm, m.controlli.calendario, m.orologio.today());
 }
 
 void Contenuti::showgrid3() {
     planner::showgrid3(m.sessione, m.controlli.calendario, m.controlli.flxa);
-    annuale().segnaOggi(m.controlli, m.orologio.today());
+    markTodayYearly(m.controlli.flxa, m.controlli.calendario, m.orologio.today());
 }
 
 void Contenuti::PopolaGrid1() {
@@ -156,25 +148,13 @@ void Contenuti::PopolaGrid1() {
 
 void Contenuti::PopolaGrid2() {
     Dayofweek();
-    giornaliero().segnaOggi(m.controlli, m.orologio.today());
+    markTodayDaily(m.controlli.flxg, m.controlli.calendario, m.orologio.today());
     announce(planner::PopolaGrid2(m.sessione, m.controlli.calendario, m.controlli.flxg,
                                   m.controlli.Toolbar1.dettagliato()));
 }
 
 void Contenuti::PopolaGrid3() {
     planner::PopolaGrid3(m.sessione, m.controlli.calendario, m.controlli.flxa);
-}
-
-void Contenuti::PulisciGrid1() {
-    planner::PulisciGrid1(m.controlli.Flxm, m.controlli.Toolbar1.dettagliato());
-}
-
-void Contenuti::PulisciGrid2() {
-    planner::PulisciGrid2(m.controlli.flxg, m.controlli.Toolbar1.dettagliato());
-}
-
-void Contenuti::PulisciGrid3() {
-    planner::PulisciGrid3(m.controlli.flxa);
 }
 
 void Contenuti::announce(const EsitoRiempimento& esito) {

@@ -55,17 +55,19 @@ public:
 
     /// The grids of the three kinds: layout, fill, clear. A fill that had to leave records out says so once.
     void showgrid();
-    void showgrid2();
+    void showgrid2() { planner::showgrid2(m.controlli.flxg); }
     void showgrid3();
     void PopolaGrid1();
     void PopolaGrid2();
     void PopolaGrid3();
-    void PulisciGrid1();
-    void PulisciGrid2();
-    void PulisciGrid3();
+    void PulisciGrid1() { planner::PulisciGrid1(m.controlli.Flxm, m.controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid2() { planner::PulisciGrid2(m.controlli.flxg, m.controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid3() { planner::PulisciGrid3(m.controlli.flxa); }
 
     /// Look-ups in the staff table; see session/staff.h.
-    std::int16_t IndCollaboratore(std::string_view codice) const;
+    std::int16_t IndCollaboratore(std::string_view codice) const {
+        return m.sessione.indiceCodici.IndCollaboratore(codice);
+    }
     std::string EstraiCollaboratore(std::string_view codice) const;
 
 protected:

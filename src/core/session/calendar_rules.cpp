@@ -67,4 +67,8 @@ int colonnaIniziale(std::int16_t primoGiorno) {
     return primoGiorno >= 2 ? primoGiorno - 1 : primoGiorno + 6;
 }
 
+int colonnaPrimoGiorno(int anno, int mese) {
+    return colonnaIniziale(primoGiornoSettimana(anno, mese));
+}
+
 } // namespace planner

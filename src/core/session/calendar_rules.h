@@ -59,5 +59,7 @@ std::int16_t primoGiornoSettimana(int anno, int mese);
 
 /// The Monday-first column, 1 to 7, in which a month stands whose first day has the given weekday.
 int colonnaIniziale(std::int16_t primoGiorno);
+/// The same of a given month.
+int colonnaPrimoGiorno(int anno, int mese);
 
 } // namespace planner

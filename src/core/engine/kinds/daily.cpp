@@ -19,14 +19,10 @@ public:
         : RegoleTipo({TipoPlanner::Giornaliero, "flxg", "Planner Giornaliero", &ControlliPlcal::flxg,
                       /*perCollaboratore=*/true,
                       /*unGiorno=*/true, &Contenuti::LeggiDati, &Contenuti::PulisciGrid2,
-                      &Contenuti::showgrid2, &Contenuti::PopolaGrid2}) {}
+                      &Contenuti::showgrid2, &Contenuti::PopolaGrid2, markTodayDaily}) {}
 
     std::string titolo(const modpl& sessione, const Calendario&, const std::string&) const override {
         return "Dal " + dayInWords(sessione.periodo.inizio) + " al " + dayInWords(sessione.periodo.fine);
-    }
-
-    void segnaOggi(ControlliPlcal& controlli, Data oggi) const override {
-        markTodayDaily(controlli.flxg, controlli.calendario, oggi);
     }
 
     PeriodoSessione limiti(const PeriodoSessione& periodo, Data) const override { return periodo; }
@@ -35,18 +31,14 @@ public:
     }
     bool mostraAnche(Data giorno, Data mostrata) const override { return giorno == mostrata; }
 
-    std::optional<Data> giornoCella(const ControlliPlcal& controlli, int, int) const override {
-        return controlli.calendario.Value();
-    }
-    int colonnaGiorno(const ControlliPlcal&, int colonna) const override { return colonna; }
+    std::optional<Data> giornoCella(const Calendario& c, int, int) const override { return c.Value(); }
 };
-
-constexpr Giornaliero Regole;
 
 } // namespace
 
 const RegoleTipo& giornaliero() {
-    return Regole;
+    static constexpr Giornaliero regole;
+    return regole;
 }
 
 } // namespace planner

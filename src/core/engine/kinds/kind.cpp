@@ -18,6 +18,11 @@ const RegoleTipo* findKind(Wanted wanted) {
 
 } // namespace
 
+int RegoleTipo::colonnaGiorno(const Calendario& calendario, int colonna) const {
+    return unGiorno ? colonna
+                    : colonnaPrimoGiorno(calendario.Year(), calendario.Month()) + calendario.Day() - 1;
+}
+
 const RegoleTipo& regole(TipoPlanner tipo) {
     return *findKind([&](const RegoleTipo* each) { return each->tipo == tipo; });
 }

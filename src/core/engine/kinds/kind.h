@@ -25,6 +25,8 @@ struct DescrizioneTipo {
     void (Contenuti::*pulisci)();
     void (Contenuti::*disponi)();
     void (Contenuti::*popola)();
+    /// Marks today in the grid, laid out for the date of the calendar, and unmarks every other day.
+    void (*segnaOggi)(Griglia&, const Calendario&, Data oggi);
 };
 
 /// All that differs between the monthly, the daily and the yearly planner, whatever window shows them. There
@@ -40,9 +42,6 @@ public:
     virtual std::string titolo(const modpl& sessione, const Calendario& calendario,
                                const std::string& collab) const = 0;
 
-    /// Marks today in the grid, laid out for the date of the calendar, and unmarks every other day.
-    virtual void segnaOggi(ControlliPlcal& controlli, Data oggi) const = 0;
-
     // The period.
     /// The days that may be shown in a session of the given period.
     virtual PeriodoSessione limiti(const PeriodoSessione& periodo, Data mostrata) const = 0;
@@ -55,10 +54,9 @@ public:
 
     // The cells.
     /// The day that a data cell stands for; nothing for a cell that stands for none.
-    virtual std::optional<Data> giornoCella(const ControlliPlcal& controlli, int riga, int colonna) const = 0;
-    /// The column of the shown day; `colonna` where every column is of that day. Throws SubscriptError when a
-    /// monthly header has no first day.
-    virtual int colonnaGiorno(const ControlliPlcal& controlli, int colonna) const = 0;
+    virtual std::optional<Data> giornoCella(const Calendario& calendario, int riga, int colonna) const = 0;
+    /// The column of the shown day; `colonna` where every column is of that day.
+    int colonnaGiorno(const Calendario& calendario, int colonna) const;
 
 protected:
     ~RegoleTipo() = default;

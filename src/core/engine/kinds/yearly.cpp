@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "archive/numeric_value.h"
 #include "engine/contenuti.h"
 #include "grids/today.h"
 #include "session/period_moves.h"
@@ -15,7 +14,7 @@ public:
         : RegoleTipo({TipoPlanner::Annuale, "flxa", "Planner Annuale", &ControlliPlcal::flxa,
                       /*perCollaboratore=*/false,
                       /*unGiorno=*/false, &Contenuti::leggiAnnoMostrato, &Contenuti::PulisciGrid3,
-                      &Contenuti::showgrid3, &Contenuti::PopolaGrid3}) {}
+                      &Contenuti::showgrid3, &Contenuti::PopolaGrid3, markTodayYearly}) {}
 
     /// The same day of the period's year; 29 February becomes 28 where the year lacks it.
     Data giornoDaMostrare(Data giorno, Data inizio) const override {
@@ -30,10 +29,6 @@ public:
                          EstraiCollaboratore(sessione.archivi.Collaboratori, sessione.indiceCodici, collab);
     }
 
-    void segnaOggi(ControlliPlcal& controlli, Data oggi) const override {
-        markTodayYearly(controlli.flxa, controlli.calendario, oggi);
-    }
-
     PeriodoSessione limiti(const PeriodoSessione&, Data mostrata) const override {
         return wholeYear(mostrata);
     }
@@ -43,25 +38,16 @@ public:
     }
     bool mostraAnche(Data giorno, Data mostrata) const override { return giorno.year() == mostrata.year(); }
 
-    std::optional<Data> giornoCella(const ControlliPlcal& controlli, int riga, int colonna) const override {
-        const std::string_view text = trim(controlli.flxa.TextMatrix(riga, colonna));
-        return text.empty()
-                   ? std::nullopt
-                   : makeDate(controlli.calendario.Year(), riga, static_cast<int>(numericValue(text)));
-    }
-    int colonnaGiorno(const ControlliPlcal& controlli, int) const override {
-        const Calendario& calendario = controlli.calendario;
-        return colonnaIniziale(primoGiornoSettimana(calendario.Year(), calendario.Month())) +
-               calendario.Day() - 1;
+    std::optional<Data> giornoCella(const Calendario& c, int riga, int colonna) const override {
+        return makeDate(c.Year(), riga, colonna + 1 - colonnaPrimoGiorno(c.Year(), riga));
     }
 };
-
-constexpr Annuale Regole;
 
 } // namespace
 
 const RegoleTipo& annuale() {
-    return Regole;
+    static constexpr Annuale regole;
+    return regole;
 }
 
 } // namespace planner

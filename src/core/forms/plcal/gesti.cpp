@@ -43,7 +43,7 @@ std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colo
 
 std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, int riga, int colonna) {
     return isDataCell(controlli.griglia(tipo), riga, colonna)
-               ? regole(tipo).giornoCella(controlli, riga, colonna)
+               ? regole(tipo).giornoCella(controlli.calendario, riga, colonna)
                : std::nullopt;
 }
 

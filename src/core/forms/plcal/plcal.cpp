@@ -3,7 +3,6 @@
 #include "forms/plcal/plcal.h"
 
 #include "forms/plcal/notices.h"
-#include "forms/plcal/plcal_guard.h"
 
 namespace planner {
 

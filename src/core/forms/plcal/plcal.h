@@ -8,7 +8,7 @@
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/tasti.h"
-#include "ports/clock.h"
+#include "ports/guard.h"
 #include "ports/planner_window.h"
 
 #include <optional>
@@ -59,13 +59,13 @@ public:
     void calendario_DateClick(Data giorno);
 
     // Period buttons, by the index of their group.
-    void bselm_Click(int indice);
-    void bselg_Click(int indice);
+    void bselm_Click(int indice) { premi("bselm", indice); }
+    void bselg_Click(int indice) { premi("bselg", indice); }
     void bselA_Click(int indice);
     /// The button of the group.
     void pulsantePeriodo_Click(const PulsantePeriodo& pulsante);
     /// True when the button would move the period or answer the host.
-    bool pulsantePeriodoAttivo(const PulsantePeriodo& pulsante) const;
+    bool pulsantePeriodoAttivo(const PulsantePeriodo& pulsante) const { return mossa(pulsante).has_value(); }
 
     // Toolbar.
     /// Acts on the key of a button; a key that is not in the table does nothing.
@@ -83,10 +83,13 @@ public:
 
 private:
     const RegoleTipo& tipo() const { return regole(*m_controlli.tipoVisibile); }
-    Griglia& griglia() { return *m_controlli.grigliaVisibile(); }
-    const Griglia& griglia() const { return *m_controlli.grigliaVisibile(); }
+    Griglia& griglia() const { return *m_controlli.grigliaVisibile(); }
+    /// Every event of the window runs in here: a run-time error is said and the window shows what there is.
     template <typename Command>
-    void esegui(Command command);
+    void esegui(Command command) {
+        runCommand(m_porte.messaggi, command);
+        m_porte.vista.aggiorna();
+    }
 
     // plcal_selection.cpp
     void applica(const EffettoGesto& effetto, const Gesto& gesto);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/notices.h"
-#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/plcal.h"
 #include "forms/plcal/yearly_day.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "forms/plfgraf/visualizza_grafico.h"

@@ -1,18 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/plcal.h"
 
 #include <algorithm>
 
 namespace planner {
-
-void plcal::bselm_Click(int indice) {
-    premi("bselm", indice);
-}
-
-void plcal::bselg_Click(int indice) {
-    premi("bselg", indice);
-}
 
 void plcal::bselA_Click(int indice) {
     if (indice == 1 || indice == 2) {
@@ -64,10 +56,6 @@ std::optional<Data> plcal::mossa(const PulsantePeriodo& pulsante) const {
     return regole(pulsante.tipo)
         .mossa(pulsante.riga, pulsante.successivo ? 1 : -1, m_controlli.calendario.Value(),
                m_sessione.periodo);
-}
-
-bool plcal::pulsantePeriodoAttivo(const PulsantePeriodo& pulsante) const {
-    return mossa(pulsante).has_value();
 }
 
 void plcal::calendario_DateClick(Data giorno) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "archive/fixed_text.h"
 #include "archive/numeric_value.h"
-#include "forms/plcal/plcal_guard.h"
+#include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
 #include "ports/runtime_errors.h"
@@ -38,8 +38,8 @@ void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
         moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia().setCurrent(gesto.riga,
-                         onName ? tipo().colonnaGiorno(m_controlli, griglia().Col()) : gesto.colonna);
+    griglia().setCurrent(gesto.riga, onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())
+                                            : gesto.colonna);
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
@@ -100,7 +100,7 @@ void plcal::flxa_SelChange(int riga, int colonna) {
 void plcal::markShownCell() {
     const int riga = griglia().RigaEvidenziata();
     if (griglia().EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
-        griglia().scegli(riga, tipo().colonnaGiorno(m_controlli, griglia().Col()));
+        griglia().scegli(riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()));
     }
 }
 
@@ -119,7 +119,7 @@ int plcal::rigaCursore() const {
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
     if (m_controlli.tipoVisibile) {
-        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli, colonnaGiornaliera));
+        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera));
     }
 }
 

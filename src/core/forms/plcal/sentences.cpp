@@ -54,7 +54,7 @@ std::string nameAndDay(const Griglia& griglia, int riga, Data day) {
 
 std::string monthlySentence(const ControlliPlcal& controlli, const modpl&, int riga, int colonna) {
     const Griglia& Flxm = controlli.Flxm;
-    const auto day = mensile().giornoCella(controlli, riga, colonna);
+    const auto day = mensile().giornoCella(controlli.calendario, riga, colonna);
     return day ? withDetails(nameAndDay(Flxm, riga, *day), kindsPresent(Flxm.cella(riga, colonna)))
                : utf8FromCp1252(Flxm.TextMatrix(riga, 0));
 }
@@ -79,7 +79,7 @@ std::string dailySentence(const ControlliPlcal& controlli, const modpl&, int rig
 }
 
 std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna) {
-    const auto day = annuale().giornoCella(controlli, riga, colonna);
+    const auto day = annuale().giornoCella(controlli.calendario, riga, colonna);
     if (!day) {
         return {};
     }
