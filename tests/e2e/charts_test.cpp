@@ -9,18 +9,18 @@ namespace {
 
 const std::string Mensile = "Planner Mensile";
 
-struct KindOfPlanner {
+struct KindOfChart {
     char tipoplanner;
     std::string title;
 };
 
-void PrintTo(const KindOfPlanner& kind, std::ostream* out) {
+void PrintTo(const KindOfChart& kind, std::ostream* out) {
     *out << kind.tipoplanner;
 }
 
 class Charts : public ScenarioAccessibile {
 protected:
-    void showPlanner(const KindOfPlanner& kind) {
+    void showPlanner(const KindOfChart& kind) {
         asked = requestBytes(kind.tipoplanner);
         request(asked);
         lookAt(kind.title);
@@ -62,7 +62,7 @@ protected:
     std::string answered = "20060315  "; // without the letter
 };
 
-class EveryChart : public Charts, public testing::WithParamInterface<KindOfPlanner> {
+class EveryChart : public Charts, public testing::WithParamInterface<KindOfChart> {
 protected:
     Finestra showChart() {
         showPlanner(GetParam());
@@ -160,9 +160,9 @@ TEST_P(EveryChart, FollowsTheWindowsSize) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Charts, EveryChart,
-                         testing::Values(KindOfPlanner{'M', Mensile},
-                                         KindOfPlanner{'G', "Planner Giornaliero"},
-                                         KindOfPlanner{'A', "Planner Annuale"}),
+                         testing::Values(KindOfChart{'M', Mensile},
+                                         KindOfChart{'G', "Planner Giornaliero"},
+                                         KindOfChart{'A', "Planner Annuale"}),
                          [](const auto& tested) { return std::string(1, tested.param.tipoplanner); });
 
 TEST_F(Charts, ComeWithTheirButton) {

@@ -11,23 +11,23 @@ namespace {
 using Kind = Osservatore::Kind;
 using EventMode = Scenario;
 
-struct KindOfPlanner {
+struct KindOfRequest {
     char tipoplanner;
     std::string_view day; // asked for
     std::string_view answered;
     std::string title;
 };
 
-void PrintTo(const KindOfPlanner& kind, std::ostream* out) {
+void PrintTo(const KindOfRequest& kind, std::ostream* out) {
     *out << kind.tipoplanner << kind.day;
 }
 
-class EveryKind : public Scenario, public testing::WithParamInterface<KindOfPlanner> {};
+class EveryKind : public Scenario, public testing::WithParamInterface<KindOfRequest> {};
 
 } // namespace
 
 TEST_P(EveryKind, EscapeAnswersTheShownDayAndLeavesEveryOtherByteAlone) {
-    const KindOfPlanner& kind = GetParam();
+    const KindOfRequest& kind = GetParam();
     const std::string request = requestBytes(kind.tipoplanner, kind.day);
     archivio.writeTransit(request + everyByte());
     ospite.startWaiting();
@@ -40,12 +40,12 @@ TEST_P(EveryKind, EscapeAnswersTheShownDayAndLeavesEveryOtherByteAlone) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EventMode, EveryKind,
-                         testing::Values(KindOfPlanner{'M', NoDay, "20060315", "Planner Mensile"},
-                                         KindOfPlanner{'M', "20060430", "20060430", "Planner Mensile"},
-                                         KindOfPlanner{'G', NoDay, "20060315", "Planner Giornaliero"},
-                                         KindOfPlanner{'G', "20060620", "20060620", "Planner Giornaliero"},
-                                         KindOfPlanner{'A', NoDay, "20060315", "Planner Annuale"},
-                                         KindOfPlanner{'A', "20061225", "20061225", "Planner Annuale"}),
+                         testing::Values(KindOfRequest{'M', NoDay, "20060315", "Planner Mensile"},
+                                         KindOfRequest{'M', "20060430", "20060430", "Planner Mensile"},
+                                         KindOfRequest{'G', NoDay, "20060315", "Planner Giornaliero"},
+                                         KindOfRequest{'G', "20060620", "20060620", "Planner Giornaliero"},
+                                         KindOfRequest{'A', NoDay, "20060315", "Planner Annuale"},
+                                         KindOfRequest{'A', "20061225", "20061225", "Planner Annuale"}),
                          [](const auto& tested) {
                              return std::string(1, tested.param.tipoplanner) +
                                     (tested.param.day == NoDay ? "WithoutDay" : "WithDay");

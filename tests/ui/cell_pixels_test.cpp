@@ -17,11 +17,11 @@ namespace planner::test {
 
 namespace {
 
-constexpr QSize Size(44, 40);
+constexpr QSize CellSize(44, 40);
 constexpr int FirstRow = 2; // below the fixed ones
-constexpr int Deadline = 10;
+constexpr int DeadlinePicture = 10;
 
-const QRgb Plain = qtColor(Colore::gialloChiaro).rgb();
+const QRgb PlainRow = qtColor(Colore::gialloChiaro).rgb();
 const QRgb Line = qRgb(200, 200, 188);
 const QRgb StrongLine = qRgb(136, 136, 128);
 const QRgb Today = qRgb(0, 110, 60);
@@ -37,11 +37,11 @@ protected:
                 }};
     }
     Painted paintFocused(bool focused) {
-        return {Size, GetParam(), [&](QPainter& target) {
+        return {CellSize, GetParam(), [&](QPainter& target) {
                     const GridModel model(griglia, [](int, int) { return std::string(); });
                     QObject owner;
                     QStyleOptionViewItem option;
-                    option.rect = {{0, 0}, Size};
+                    option.rect = {{0, 0}, CellSize};
                     option.state.setFlag(QStyle::State_HasFocus, focused);
                     CellDelegate(model, painter, &owner).paint(&target, option, model.index(1, 2));
                 }};
@@ -49,8 +49,8 @@ protected:
 
     /// Expects a line of the colour, two pixels wide, all around, and none of it inside.
     static void expectFrame(const Painted& cell, QRgb colour) {
-        const double w = Size.width() - 1; // the grid's own lines stay in sight
-        const double h = Size.height() - 1;
+        const double w = CellSize.width() - 1; // the grid's own lines stay in sight
+        const double h = CellSize.height() - 1;
         EXPECT_TRUE(cell.all({2, 0, w - 4, 2}, is(colour))) << "above";
         EXPECT_TRUE(cell.all({2, h - 2, w - 4, 2}, is(colour))) << "below";
         EXPECT_TRUE(cell.all({0, 2, 2, h - 4}, is(colour))) << "left";
@@ -59,25 +59,25 @@ protected:
     }
 
     /// Inside of the lines that each cell has.
-    static QRectF inside() { return {0, 0, Size.width() - 1.0, Size.height() - 1.0}; }
+    static QRectF inside() { return {0, 0, CellSize.width() - 1.0, CellSize.height() - 1.0}; }
 
     Griglia griglia{4, 15, FirstRow, Colore::gialloChiaro};
     CellPainter painter{1};
-    QSize size = Size;
+    QSize size = CellSize;
 };
 
 } // namespace
 
 TEST_P(CellPixels, AnEmptyCellIsItsGroundWithALineBelowAndAtTheRight) {
     const Painted cell = paint(FirstRow, 3);
-    EXPECT_TRUE(cell.all(inside(), is(Plain)));
-    EXPECT_TRUE(cell.all({0, Size.height() - 1.0, Size.width() - 1.0, 1}, is(Line)));
-    EXPECT_TRUE(cell.all({Size.width() - 1.0, 0, 1, Size.height() - 1.0}, is(Line)));
+    EXPECT_TRUE(cell.all(inside(), is(PlainRow)));
+    EXPECT_TRUE(cell.all({0, CellSize.height() - 1.0, CellSize.width() - 1.0, 1}, is(Line)));
+    EXPECT_TRUE(cell.all({CellSize.width() - 1.0, 0, 1, CellSize.height() - 1.0}, is(Line)));
 }
 
 TEST_P(CellPixels, TheLineAtTheEndOfAWeekAndBelowTheHeaderIsStronger) {
-    const double right = Size.width() - 0.5;
-    const double bottom = Size.height() - 0.5;
+    const double right = CellSize.width() - 0.5;
+    const double bottom = CellSize.height() - 0.5;
     for (int column = 1; column < griglia.Cols(); ++column) {
         EXPECT_EQ(paint(FirstRow, column).at({right, 5}), column % 7 == 0 ? StrongLine : Line) << column;
     }
@@ -90,7 +90,7 @@ TEST_P(CellPixels, TheLineAtTheEndOfAWeekAndBelowTheHeaderIsStronger) {
 TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
     const Griglia quarters(2, ColonneQuarti + 1, 1, Colore::gialloChiaro);
     for (int column = 1; column <= 8; ++column) {
-        EXPECT_EQ(paint(quarters, 1, column).at({Size.width() - 0.5, 5}), column % 4 == 0 ? StrongLine : Line)
+        EXPECT_EQ(paint(quarters, 1, column).at({CellSize.width() - 0.5, 5}), column % 4 == 0 ? StrongLine : Line)
             << column;
     }
 }
@@ -114,27 +114,27 @@ TEST_P(CellPixels, EachColourOfACellIsItsGround) {
 }
 
 TEST_P(CellPixels, ThePictureOfADayIsDrawnInItsMiddleAsFineAsTheScreenIs) {
-    for (const int number : {1, Deadline, 16}) {
+    for (const int number : {1, DeadlinePicture, 16}) {
         griglia.setCellPicture(FirstRow, 3, number);
         const Painted cell = paint(FirstRow, 3);
-        constexpr int side = Size.height() - 2;
-        constexpr int left = (Size.width() - 1 - side) / 2;
-        const Painted expected(Size, GetParam(), [&](QPainter& target) {
-            target.fillRect(QRect({0, 0}, Size), qtColor(Colore::gialloChiaro));
+        constexpr int side = CellSize.height() - 2;
+        constexpr int left = (CellSize.width() - 1 - side) / 2;
+        const Painted expected(CellSize, GetParam(), [&](QPainter& target) {
+            target.fillRect(QRect({0, 0}, CellSize), qtColor(Colore::gialloChiaro));
             Pictures pictures;
             target.drawPixmap(left, 0, pictures.picture(number, side, GetParam()));
         });
         const QRectF middle(left, 0, side, side);
-        EXPECT_GT(cell.amount(middle, isNot(Plain)), side * side / 30.0) << number;
-        EXPECT_EQ(cell.amount(middle, isNot(Plain)), expected.amount(middle, isNot(Plain))) << number;
-        EXPECT_FALSE(cell.any({0, 0, left, side}, isNot(Plain))) << number;
+        EXPECT_GT(cell.amount(middle, isNot(PlainRow)), side * side / 30.0) << number;
+        EXPECT_EQ(cell.amount(middle, isNot(PlainRow)), expected.amount(middle, isNot(PlainRow))) << number;
+        EXPECT_FALSE(cell.any({0, 0, left, side}, isNot(PlainRow))) << number;
     }
 }
 
 TEST_P(CellPixels, APictureBesideANameLeavesTheNameInSight) {
     griglia.setCaption(FirstRow, 0, Ruolo::nomeGiornaliero, "Rossi");
-    griglia.setCellPicture(FirstRow, 0, Deadline);
-    size = {140, Size.height()};
+    griglia.setCellPicture(FirstRow, 0, DeadlinePicture);
+    size = {140, CellSize.height()};
     const Painted cell = paint(FirstRow, 0);
     const QRectF name(0, 0, 90, size.height() - 1.0);
     const QRectF picture(90, 0, size.width() - 91.0, size.height() - 1.0);
@@ -170,8 +170,8 @@ TEST_P(CellPixels, TextHasTheColourOfItsCell) {
 
 TEST_P(CellPixels, TextStandsInTheMiddleOrAtTheLeft) {
     griglia.setText(FirstRow, 3, "I");
-    const QRectF leftPart(0, 0, Size.width() / 3.0, Size.height() - 1.0);
-    const QRectF middle(Size.width() / 3.0, 0, Size.width() / 3.0, Size.height() - 1.0);
+    const QRectF leftPart(0, 0, CellSize.width() / 3.0, CellSize.height() - 1.0);
+    const QRectF middle(CellSize.width() / 3.0, 0, CellSize.width() / 3.0, CellSize.height() - 1.0);
     EXPECT_FALSE(paint(FirstRow, 3).any(leftPart, isDark));
     EXPECT_TRUE(paint(FirstRow, 3).any(middle, isDark));
     griglia.setCaption(FirstRow, 3, Ruolo::nomeGiornaliero, "I");
@@ -206,19 +206,19 @@ TEST_P(CellPixels, TheFocusFrameCoversTodays) {
 
 TEST_P(CellPixels, ABarHasItsFillItsEdgesAndItsPicture) {
     Griglia quarters(2, ColonneQuarti + 1, 1, Colore::gialloChiaro);
-    quarters.setFasce(1, {{3, 5, Deadline}});
+    quarters.setFasce(1, {{3, 5, DeadlinePicture}});
     const QRgb fill = qtColor(Colore::azzurro).rgb();
     const Painted first = paint(quarters, 1, 3);
     const Painted middle = paint(quarters, 1, 4);
     const Painted last = paint(quarters, 1, 5);
     EXPECT_TRUE(first.all({0, 8, 1, 24}, is(BarEdge)));
     EXPECT_TRUE(first.any({1, 4, 40, 32}, isRed)) << "the deadline";
-    EXPECT_TRUE(middle.all({0, 8, Size.width() - 1.0, 24}, is(fill)));
-    EXPECT_TRUE(last.all({Size.width() - 1.0, 8, 1, 24}, is(BarEdge)));
+    EXPECT_TRUE(middle.all({0, 8, CellSize.width() - 1.0, 24}, is(fill)));
+    EXPECT_TRUE(last.all({CellSize.width() - 1.0, 8, 1, 24}, is(BarEdge)));
     for (const Painted* cell : {&first, &middle, &last}) {
-        EXPECT_EQ(cell->amount({20, 0, 1, Size.height() - 1.0}, is(BarEdge)), 2) << "above and below";
+        EXPECT_EQ(cell->amount({20, 0, 1, CellSize.height() - 1.0}, is(BarEdge)), 2) << "above and below";
     }
-    EXPECT_FALSE(paint(quarters, 1, 6).any(inside(), isNot(Plain)));
+    EXPECT_FALSE(paint(quarters, 1, 6).any(inside(), isNot(PlainRow)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Ratio, CellPixels, testing::Values(1, 2), testing::PrintToStringParamName());

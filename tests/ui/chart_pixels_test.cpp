@@ -13,7 +13,7 @@ namespace planner::test {
 
 namespace {
 
-constexpr QSize Size(1100, 620);
+constexpr QSize ImageSize(1100, 620);
 constexpr double FrameWidth = 3;
 const QRgb White = qRgb(255, 255, 255);
 const QRgb Black = qRgb(0, 0, 0);
@@ -58,8 +58,8 @@ protected:
 
     static Painted paint(const Grafico& chart, ChartLayout& layout) {
         const ChartPainter painter(chart, 1);
-        layout = layoutChart(chart, {Size.width() * 1.0, Size.height() * 1.0}, {}, painter.measure());
-        return {Size, GetParam().ratio, [&](QPainter& target) { painter.paint(target, layout); }};
+        layout = layoutChart(chart, {ImageSize.width() * 1.0, ImageSize.height() * 1.0}, {}, painter.measure());
+        return {ImageSize, GetParam().ratio, [&](QPainter& target) { painter.paint(target, layout); }};
     }
 
     QRgb colourOf(std::size_t number) const {
@@ -280,7 +280,7 @@ TEST_P(ChartPixels, TheValuePointedAtHasADarkLineBetweenLightOnes) {
     const std::size_t number = GetParam().tipo == 'M' ? 13 : GetParam().tipo == 'G' ? 0 : 2;
     const QRectF bar = rectOf(layout.bars[number].area);
     ASSERT_GT(bar.height(), 20);
-    const Painted painted(Size, GetParam().ratio, [&](QPainter& target) {
+    const Painted painted(ImageSize, GetParam().ratio, [&](QPainter& target) {
         ChartPainter(grafico(), 1).paint(target, layout);
         ChartPainter::pointOut(target, layout, number);
     });

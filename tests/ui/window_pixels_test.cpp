@@ -14,7 +14,7 @@ namespace planner::test {
 
 namespace {
 
-constexpr int Deadline = 10;
+constexpr int DeadlineImage = 10;
 const QRgb Today = qRgb(0, 110, 60);
 const QRgb BarEdge = qRgb(70, 110, 180);
 
@@ -134,7 +134,7 @@ TEST_F(WindowPixels, TheCornerNamesTheMonthAndTheYear) {
 TEST_F(WindowPixels, ADaysPictureStandsInItsCell) {
     bench.base.putRighe({riga("RB", "20060315", {{1, "1"}}), RigaPlanner{}});
     bench.open("M", "20060310");
-    ASSERT_EQ(bench.griglia().cella(3, 17).immagine, Deadline);
+    ASSERT_EQ(bench.griglia().cella(3, 17).immagine, DeadlineImage);
     const Painted painted = cells();
     EXPECT_GT(painted.amount(dataCell(3, 17), isRed), 10);
     EXPECT_FALSE(painted.any(dataCell(3, 16), isRed));
