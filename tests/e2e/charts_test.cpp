@@ -160,8 +160,7 @@ TEST_P(EveryChart, FollowsTheWindowsSize) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Charts, EveryChart,
-                         testing::Values(KindOfChart{'M', Mensile},
-                                         KindOfChart{'G', "Planner Giornaliero"},
+                         testing::Values(KindOfChart{'M', Mensile}, KindOfChart{'G', "Planner Giornaliero"},
                                          KindOfChart{'A', "Planner Annuale"}),
                          [](const auto& tested) { return std::string(1, tested.param.tipoplanner); });
 

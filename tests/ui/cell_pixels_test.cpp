@@ -90,7 +90,8 @@ TEST_P(CellPixels, TheLineAtTheEndOfAWeekAndBelowTheHeaderIsStronger) {
 TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
     const Griglia quarters(2, ColonneQuarti + 1, 1, Colore::gialloChiaro);
     for (int column = 1; column <= 8; ++column) {
-        EXPECT_EQ(paint(quarters, 1, column).at({CellSize.width() - 0.5, 5}), column % 4 == 0 ? StrongLine : Line)
+        EXPECT_EQ(paint(quarters, 1, column).at({CellSize.width() - 0.5, 5}),
+                  column % 4 == 0 ? StrongLine : Line)
             << column;
     }
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "ui/plfgraf/chart_painter.h"
 #include "core/forms/plfgraf/plfgraf_fixture.h"
 #include "painted.h"
+#include "ui/plfgraf/chart_painter.h"
 
 #include <QPainter>
 
@@ -58,7 +58,8 @@ protected:
 
     static Painted paint(const Grafico& chart, ChartLayout& layout) {
         const ChartPainter painter(chart, 1);
-        layout = layoutChart(chart, {ImageSize.width() * 1.0, ImageSize.height() * 1.0}, {}, painter.measure());
+        layout =
+            layoutChart(chart, {ImageSize.width() * 1.0, ImageSize.height() * 1.0}, {}, painter.measure());
         return {ImageSize, GetParam().ratio, [&](QPainter& target) { painter.paint(target, layout); }};
     }
 

@@ -41,21 +41,21 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
                       const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                       std::string& valret, std::string& Windowcaption, std::string& planrichiesto) {
     openSession(blanksForNuls(Windowcaption), PathArchivi);
-    m.sessione.tipocall = blanksForNuls(tipocall);
-    m.sessione.planrichiesto = blanksForNuls(planrichiesto);
+    m_fonti.sessione.tipocall = blanksForNuls(tipocall);
+    m_fonti.sessione.planrichiesto = blanksForNuls(planrichiesto);
     setUp(blanksForNuls(tipoplanner),
           {blanksForNuls(std::string(slice(valret, 0, 8))), blanksForNuls(startdate), blanksForNuls(enddate)},
           blanksForNuls(collab));
-    m.controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
-    m.controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
+    m_fonti.controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
+    m_fonti.controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
     m_finestra.show();
     m_finestra.bringToFront();
-    while (!m.sessione.FinePlanner) {
+    while (!m_fonti.sessione.FinePlanner) {
         m_eventi.waitAndProcess();
     }
-    collab = m.sessione.collab;
-    valret = m.sessione.valret;
-    if (m.sessione.risposta('E') || m.sessione.risposta('F')) {
+    collab = m_fonti.sessione.collab;
+    valret = m_fonti.sessione.valret;
+    if (m_fonti.sessione.risposta('E') || m_fonti.sessione.risposta('F')) {
         m_finestra.hide();
     } else {
         m_finestra.unload();
@@ -63,7 +63,7 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
 }
 
 void clsplg::openSession(const std::string& Windowcaption, const std::string& PathArchivi) {
-    modpl& s = m.sessione;
+    modpl& s = m_fonti.sessione;
     s.ModoFinestra = slice(Windowcaption, 0, 1);
     s.TitoloFinestra = slice(Windowcaption, 1, 20);
     s.FlagFinestra = upperCase(lastChars(Windowcaption, 1));
@@ -85,36 +85,36 @@ void clsplg::Init_planner(const std::string& chiave, const std::string& startdat
 
 void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const std::string& collab) {
     m_finestra.load();
-    m.controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
+    m_fonti.controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
     const DateRichiesta dates =
-        readRequestDates(m.controlli.tipoVisibile, date, m.orologio.today(), m.messaggi);
-    m.controlli.calendario.setValue(dates.mostrata);
-    m.sessione.periodo = dates.periodo;
+        readRequestDates(m_fonti.controlli.tipoVisibile, date, m_fonti.orologio.today(), m_fonti.messaggi);
+    m_fonti.controlli.calendario.setValue(dates.mostrata);
+    m_fonti.sessione.periodo = dates.periodo;
     setToolbarForKind();
     LeggiCollab();
-    m.sessione.IndiceRichiesto =
-        trim(collab).empty() ? std::int16_t{-1} : m.sessione.indiceCodici.trova(collab);
-    runCommand(m.messaggi, [&] { fillForKind(tipoplanner, collab); });
+    m_fonti.sessione.IndiceRichiesto =
+        trim(collab).empty() ? std::int16_t{-1} : m_fonti.sessione.indiceCodici.trova(collab);
+    runCommand(m_fonti.messaggi, [&] { fillForKind(tipoplanner, collab); });
 }
 
 void clsplg::fillForKind(std::string_view tipoplanner, const std::string& collab) {
-    if (!m.controlli.tipoVisibile) {
-        m.messaggi.critical("Richiesta non valida: il tipo di planner \"" + utf8FromCp1252(tipoplanner) +
-                            "\" non è M, G o A.");
-        m.controlli.Caption = ControlliPlcal::CaptionIniziale;
-        m.controlli.lbldescr.clear();
+    if (!m_fonti.controlli.tipoVisibile) {
+        m_fonti.messaggi.critical("Richiesta non valida: il tipo di planner \"" +
+                                  utf8FromCp1252(tipoplanner) + "\" non è M, G o A.");
+        m_fonti.controlli.Caption = ControlliPlcal::CaptionIniziale;
+        m_fonti.controlli.lbldescr.clear();
         return;
     }
     prepara(collab);
-    m.sessione.CalendarioAttivo = true;
+    m_fonti.sessione.CalendarioAttivo = true;
 }
 
 void clsplg::setToolbarForKind() {
-    const RegoleTipo* tipo = regoleVisibili(m.controlli);
-    const bool dettagliato = tipo == nullptr || tipo->dettagliato(m.sessione.ModoFinestra);
-    StatoToolbar& toolbar = m.controlli.Toolbar1;
+    const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli);
+    const bool dettagliato = tipo == nullptr || tipo->dettagliato(m_fonti.sessione.ModoFinestra);
+    StatoToolbar& toolbar = m_fonti.controlli.Toolbar1;
     toolbar.reset(dettagliato);
-    m.sessione.LivelloDettaglio = dettagliato ? 4 : 1;
+    m_fonti.sessione.LivelloDettaglio = dettagliato ? 4 : 1;
     if (tipo == nullptr || !tipo->perCollaboratore) {
         for (const Pulsante pulsante : {Pulsante::dettno, Pulsante::dettsi, Pulsante::coll}) {
             toolbar.setEnabled(pulsante, false);

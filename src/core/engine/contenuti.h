@@ -22,7 +22,7 @@ public:
         const Clock& orologio;
     };
 
-    explicit Contenuti(const Fonti& fonti) : m(fonti) {}
+    explicit Contenuti(const Fonti& fonti) : m_fonti(fonti) {}
 
     /// Reads the archive of the visible kind, and lays its grid out, fills and titles it. Nothing without a
     /// visible grid, as with the next two.
@@ -55,23 +55,27 @@ public:
 
     /// The grids of the three kinds: layout, fill, clear. A fill that had to leave records out says so once.
     void showgrid();
-    void showgrid2() { planner::showgrid2(m.controlli.flxg); }
+    void showgrid2() { planner::showgrid2(m_fonti.controlli.flxg); }
     void showgrid3();
     void PopolaGrid1();
     void PopolaGrid2();
     void PopolaGrid3();
-    void PulisciGrid1() { planner::PulisciGrid1(m.controlli.Flxm, m.controlli.Toolbar1.dettagliato()); }
-    void PulisciGrid2() { planner::PulisciGrid2(m.controlli.flxg, m.controlli.Toolbar1.dettagliato()); }
-    void PulisciGrid3() { planner::PulisciGrid3(m.controlli.flxa); }
+    void PulisciGrid1() {
+        planner::PulisciGrid1(m_fonti.controlli.Flxm, m_fonti.controlli.Toolbar1.dettagliato());
+    }
+    void PulisciGrid2() {
+        planner::PulisciGrid2(m_fonti.controlli.flxg, m_fonti.controlli.Toolbar1.dettagliato());
+    }
+    void PulisciGrid3() { planner::PulisciGrid3(m_fonti.controlli.flxa); }
 
     /// Look-ups in the staff table; see session/staff.h.
     std::int16_t IndCollaboratore(std::string_view codice) const {
-        return m.sessione.indiceCodici.IndCollaboratore(codice);
+        return m_fonti.sessione.indiceCodici.IndCollaboratore(codice);
     }
     std::string EstraiCollaboratore(std::string_view codice) const;
 
 protected:
-    Fonti m;
+    Fonti m_fonti;
 
 private:
     void setGridRows();

@@ -120,7 +120,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
                numericValue(riga.anno.view()) == calendario.Year();
     };
     FasceRighe bars;
-    const EsitoRiempimento esito = forEachRecord(sessione.archivi, onShownDay, [&](const RigaPlanner& riga) {
+    EsitoRiempimento esito = forEachRecord(sessione.archivi, onShownDay, [&](const RigaPlanner& riga) {
         const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
         const IntervalloColonne columns = colonneImpegno(riga);
         const int row = impegno.indice + PrimaRigaGiornaliera;

@@ -65,15 +65,14 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
         return numericValue(riga.mese.view()) == calendario.Month() &&
                numericValue(riga.anno.view()) == calendario.Year();
     };
-    const EsitoRiempimento esito =
-        forEachRecord(sessione.archivi, inShownMonth, [&](const RigaPlanner& riga) {
-            const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
-            sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
-            if (impegno.immagine != 0) {
-                Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
-                                    impegno.immagine, impegno.tipi);
-            }
-        });
+    EsitoRiempimento esito = forEachRecord(sessione.archivi, inShownMonth, [&](const RigaPlanner& riga) {
+        const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
+        sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
+        if (impegno.immagine != 0) {
+            Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
+                                impegno.immagine, impegno.tipi);
+        }
+    });
     Flxm.setCurrent(PrimaRigaMensile, 1);
     return esito;
 }

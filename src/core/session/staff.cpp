@@ -8,7 +8,7 @@ namespace planner {
 
 namespace {
 
-constexpr std::size_t CodeCount = 256u * 256u;
+constexpr std::size_t CodeCount = std::size_t{256} * 256;
 
 /// Two bytes of a trimmed code as a number; nothing fits a longer text.
 std::size_t slotOf(std::string_view trimmed) {

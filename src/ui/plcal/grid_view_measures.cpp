@@ -18,18 +18,14 @@ namespace planner {
 namespace {
 
 std::vector<int> columnWidths(const Griglia& griglia) {
-    std::vector<int> twips;
-    for (int col = 0; col < griglia.Cols(); ++col) {
-        twips.push_back(griglia.ColWidth(col));
-    }
+    std::vector<int> twips(static_cast<std::size_t>(griglia.Cols()));
+    std::generate(twips.begin(), twips.end(), [&, col = 0]() mutable { return griglia.ColWidth(col++); });
     return twips;
 }
 
 std::vector<int> rowHeights(const Griglia& griglia) {
-    std::vector<int> twips;
-    for (int row = 0; row < griglia.Rows(); ++row) {
-        twips.push_back(griglia.RowHeight(row));
-    }
+    std::vector<int> twips(static_cast<std::size_t>(griglia.Rows()));
+    std::generate(twips.begin(), twips.end(), [&, row = 0]() mutable { return griglia.RowHeight(row++); });
     return twips;
 }
 
@@ -78,10 +74,9 @@ void GridView::applyMeasures() {
 
 void GridView::applyRowMeasures() {
     const float scale = rowScale();
-    std::vector<int> header;
-    for (int row = 0; row < griglia().FixedRows(); ++row) {
-        header.push_back(pixels(griglia().RowHeight(row), scale));
-    }
+    std::vector<int> header(static_cast<std::size_t>(griglia().FixedRows()));
+    std::generate(header.begin(), header.end(),
+                  [&, row = 0]() mutable { return pixels(griglia().RowHeight(row++), scale); });
     m_columns->setThickness(header);
     m_corner->setRowHeights(header);
     if (griglia().Rows() > griglia().FixedRows()) { // all data rows are of one height

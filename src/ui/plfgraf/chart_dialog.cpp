@@ -110,7 +110,8 @@ void ChartDialog::keyPressEvent(QKeyEvent* event) {
     if (plfgraf::Form_KeyDown(virtualKey(*event))) {
         close();
     } else if (!clickFocusedButton(*this, *event)) {
-        QWidget::keyPressEvent(event); // a dialog would look for a default button
+        QWidget::keyPressEvent(
+            event); // NOLINT(bugprone-parent-virtual-call): a dialog would press a default button
     }
 }
 

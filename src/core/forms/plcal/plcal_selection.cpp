@@ -110,10 +110,10 @@ void plcal::describeCurrentCell() {
 
 int plcal::rigaCursore() const {
     const int first = griglia().FixedRows();
-    const int wanted = !tipo().perCollaboratore            ? m_controlli.calendario.Month()
-                       : griglia().EvidenziazioneAttiva()  ? griglia().RigaEvidenziata()
-                       : m_sessione.IndiceRichiesto >= 0   ? first + m_sessione.IndiceRichiesto
-                                                           : first;
+    const int wanted = !tipo().perCollaboratore           ? m_controlli.calendario.Month()
+                       : griglia().EvidenziazioneAttiva() ? griglia().RigaEvidenziata()
+                       : m_sessione.IndiceRichiesto >= 0  ? first + m_sessione.IndiceRichiesto
+                                                          : first;
     return std::clamp(wanted, first, griglia().Rows() - 1);
 }
 

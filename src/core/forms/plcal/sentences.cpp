@@ -42,7 +42,7 @@ std::string kindsPresent(const Cella& cella) {
     return join(names);
 }
 
-std::string withDetails(std::string sentence, const std::string& details) {
+std::string withDetails(const std::string& sentence, const std::string& details) {
     return details.empty() ? sentence : sentence + ": " + details;
 }
 
@@ -64,7 +64,7 @@ std::string appointmentsAt(const Griglia& flxg, int riga, int colonna) {
     const auto bars = flxg.fasce(riga);
     const auto count =
         std::count_if(bars.begin(), bars.end(), [&](const FasciaImpegno& bar) { return bar.copre(colonna); });
-    const std::string kinds = kindsPresent(flxg.cella(riga, colonna));
+    std::string kinds = kindsPresent(flxg.cella(riga, colonna));
     if (count < 2) {
         return kinds;
     }
