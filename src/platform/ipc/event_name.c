@@ -14,14 +14,14 @@ static bool needsEscape(unsigned char byte) {
 }
 
 static size_t putByte(unsigned char byte, char* to) {
-    static const char DIGITS[] = "0123456789ABCDEF";
+    static const char digits[] = "0123456789ABCDEF";
     if (!needsEscape(byte)) {
         to[0] = (char)byte;
         return 1;
     }
     to[0] = '%';
-    to[1] = DIGITS[byte >> 4];
-    to[2] = DIGITS[byte & 0x0F];
+    to[1] = digits[byte >> 4];
+    to[2] = digits[byte & 0x0F];
     return 3;
 }
 

@@ -110,8 +110,8 @@ void ChartDialog::keyPressEvent(QKeyEvent* event) {
     if (plfgraf::Form_KeyDown(virtualKey(*event))) {
         close();
     } else if (!clickFocusedButton(*this, *event)) {
-        QWidget::keyPressEvent(
-            event); // NOLINT(bugprone-parent-virtual-call): a dialog would press a default button
+        // A dialog would look for a default button. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QWidget::keyPressEvent(event);
     }
 }
 
