@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The daily chart of a large staff: from the event to the painted chart, with the real chart window.
 
+#include "forms/plfgraf/plfgraf.h"
 #include "frame/frame_times.h"
 #include "ui/plfgraf/chart_dialog.h"
 #include "ui/plfgraf/chart_view.h"
@@ -9,7 +10,7 @@
 
 #include <QApplication>
 
-#include <algorithm>
+#include <array>
 #include <cstdio>
 
 using namespace planner;

@@ -4,12 +4,10 @@
 // Compares reading and filling the monthly grid with a plain pass over the same bytes, in one run and in
 // turns; and shows how the work grows with the records and a look-up with the staff.
 #include "fill_work.h"
-#include "options.h"
 #include "plain_pass.h"
 #include "report.h"
+#include "support/benchmark.h"
 
-#include <algorithm>
-#include <cstdio>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -106,28 +104,13 @@ Results measureAll(int repetitions) {
     return results;
 }
 
-int run(const Options& options) {
-    const Results results = measureAll(options.repetitions);
-    printTables(results);
-    if (!options.json.empty() && !writeJson(results, options.json)) {
-        std::fprintf(stderr, "bench-fill: cannot write %s\n", options.json.c_str());
-        return 1;
-    }
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto options = parseOptions({argv + std::min(argc, 1), argv + argc});
-    if (!options) {
-        std::fprintf(stderr, "usage: bench-fill [--repetitions N] [--json FILE]\n");
-        return 2;
-    }
-    try {
-        return run(*options);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "bench-fill: %s\n", error.what());
-        return 1;
-    }
+    int repetitions = 25;
+    return benchmark(argc, argv, {{"--repetitions", &repetitions}}, [&] {
+        const Results results = measureAll(repetitions);
+        printTables(results);
+        return toJson(results);
+    });
 }

@@ -11,10 +11,6 @@ namespace planner::bench {
 
 namespace {
 
-Data shownDay() {
-    return *makeDate(ShownYear, ShownMonth, 1);
-}
-
 void writeFile(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream file(path, std::ios::binary);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -25,24 +21,6 @@ void writeFile(const std::filesystem::path& path, const std::string& bytes) {
 }
 
 } // namespace
-
-/// Nobody looks, nobody clicks; messages are counted.
-struct FillWork::Quiet : PlannerWindow, EventPump, MessageBoxes, Clock {
-    bool isLoaded() const override { return true; }
-    void load() override {}
-    void show() override {}
-    void bringToFront() override {}
-    void unload() override {}
-    void hide() override {}
-    void waitAndProcess() override {}
-    void flush() override {}
-    void show(const Message& message) override {
-        firstMessage = firstMessage.empty() ? message.text : firstMessage;
-    }
-    Data today() const override { return shownDay(); }
-
-    std::string firstMessage;
-};
 
 ArchiveFolder::ArchiveFolder(int records, int staff, Padding padding)
     : m_recordBytes(bytesOf(makeRecords(records, staff, padding))) {
@@ -60,11 +38,9 @@ ArchiveFolder::~ArchiveFolder() {
     std::filesystem::remove_all(m_path, ignored);
 }
 
-FillWork::FillWork(const ArchiveFolder& folder)
-    : m_quiet(std::make_unique<Quiet>()),
-      m_engine({m_session, m_controls, *m_quiet, m_files, *m_quiet, *m_quiet, *m_quiet}) {
+FillWork::FillWork(const ArchiveFolder& folder) {
     m_session.PathArchivi = folder.path();
-    m_controls.calendario.setValue(shownDay());
+    m_controls.calendario.setValue(m_clock.today());
     if (!m_engine.LeggiCollab()) {
         throw std::runtime_error("cannot read the staff in " + folder.path());
     }
@@ -73,8 +49,6 @@ FillWork::FillWork(const ArchiveFolder& folder)
     m_engine.showgrid();
     check();
 }
-
-FillWork::~FillWork() = default;
 
 void FillWork::readAndFill() {
     read();
@@ -91,8 +65,8 @@ std::int64_t FillWork::sumOfTotals() const {
 }
 
 void FillWork::check() const {
-    if (!m_quiet->firstMessage.empty()) {
-        throw std::runtime_error(m_quiet->firstMessage);
+    if (!m_messages.empty()) {
+        throw std::runtime_error(m_messages.front().text);
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/clsplg.h"
+#include "planner_dump/quiet_ports.h"
 #include "platform/posix/posix_file_system.h"
 #include "test_records.h"
 
@@ -32,7 +33,6 @@ class FillWork {
 public:
     /// Throws std::runtime_error when the archives cannot be read.
     explicit FillWork(const ArchiveFolder& folder);
-    ~FillWork();
     FillWork(const FillWork&) = delete;
     FillWork& operator=(const FillWork&) = delete;
 
@@ -52,13 +52,15 @@ public:
     void check() const;
 
 private:
-    struct Quiet;
-
     modpl m_session;
     ControlliPlcal m_controls;
+    std::vector<Message> m_messages;
+    HiddenWindow m_window;
     PosixFileSystem m_files;
-    std::unique_ptr<Quiet> m_quiet;
-    clsplg m_engine;
+    MessageLog m_boxes{m_messages};
+    ImmediateEnd m_events{m_session};
+    FixedClock m_clock{*makeDate(ShownYear, ShownMonth, 1)};
+    clsplg m_engine{{m_session, m_controls, m_window, m_files, m_boxes, m_events, m_clock}};
 };
 
 } // namespace planner::bench

@@ -2,19 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "report.h"
 
+#include "support/benchmark.h"
+
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 namespace planner::bench {
 
 namespace {
 
 constexpr double NsPerMs = 1e6;
-
-const char* yesNo(bool yes) {
-    return yes ? "reached" : "missed";
-}
 
 void printRatios(const Results& results) {
     std::printf("read and fill the monthly grid, %d records, %d staff: milliseconds, minima\n",
@@ -28,8 +25,8 @@ void printRatios(const Results& results) {
                     minimum(each.plainPass) / NsPerMs, each.ratio());
     }
     std::printf("to reach: ratio <= %.0f: %s, then <= %.0f: %s\n", RatioToReach,
-                yesNo(results.worstRatio() <= RatioToReach), RatioToAimAt,
-                yesNo(results.worstRatio() <= RatioToAimAt));
+                reachedOrMissed(results.worstRatio() <= RatioToReach), RatioToAimAt,
+                reachedOrMissed(results.worstRatio() <= RatioToAimAt));
 }
 
 void printRecordSteps(const std::vector<RecordStep>& steps) {
@@ -55,50 +52,28 @@ void printStaffSteps(const std::vector<StaffStep>& steps) {
     }
 }
 
-/// Writes `"key": {...}` for a list of times.
-void writeTimes(std::ostream& out, const char* key, const Times& times) {
-    out << "\"" << key << "\": {\"min\": " << minimum(times) << ", \"median\": " << median(times) << "}";
+Json timesJson(const Times& times) {
+    return Json::Members{{"min", minimum(times)}, {"median", median(times)}};
 }
 
-void writeRatio(std::ostream& out, const FillRatio& each) {
-    out << "    {\"counters\": \"" << each.counters << "\", \"ratio\": " << each.ratio() << ",\n     ";
-    writeTimes(out, "readAndFill", each.readAndFill);
-    out << ",\n     ";
-    writeTimes(out, "read", each.read);
-    out << ",\n     ";
-    writeTimes(out, "clear", each.clear);
-    out << ",\n     ";
-    writeTimes(out, "fill", each.fill);
-    out << ",\n     ";
-    writeTimes(out, "plainPass", each.plainPass);
-    out << "}";
+Json ratioJson(const FillRatio& each) {
+    return Json::Members{{"counters", each.counters},
+                         {"ratio", each.ratio()},
+                         {"readAndFill", timesJson(each.readAndFill)},
+                         {"read", timesJson(each.read)},
+                         {"clear", timesJson(each.clear)},
+                         {"fill", timesJson(each.fill)},
+                         {"plainPass", timesJson(each.plainPass)}};
 }
 
-void writeRecordStep(std::ostream& out, const RecordStep& each) {
-    out << "    {\"records\": " << each.records << ", ";
-    writeTimes(out, "readAndFill", each.readAndFill);
-    out << ", ";
-    writeTimes(out, "plainPass", each.plainPass);
-    out << "}";
+Json recordStepJson(const RecordStep& each) {
+    return Json::Members{{"records", each.records},
+                         {"readAndFill", timesJson(each.readAndFill)},
+                         {"plainPass", timesJson(each.plainPass)}};
 }
 
-void writeStaffStep(std::ostream& out, const StaffStep& each) {
-    out << "    {\"staff\": " << each.staff << ", ";
-    writeTimes(out, "lookUp", each.lookUp);
-    out << "}";
-}
-
-/// Writes `"key": [...]`, one line or more for each element.
-template <typename List, typename Write>
-void writeList(std::ostream& out, const char* key, const List& list, Write write) {
-    out << "  \"" << key << "\": [";
-    const char* separator = "\n";
-    for (const auto& each : list) {
-        out << separator;
-        write(out, each);
-        separator = ",\n";
-    }
-    out << "\n  ]";
+Json staffStepJson(const StaffStep& each) {
+    return Json::Members{{"staff", each.staff}, {"lookUp", timesJson(each.lookUp)}};
 }
 
 } // namespace
@@ -122,19 +97,17 @@ void printTables(const Results& results) {
     printStaffSteps(results.staffSteps);
 }
 
-bool writeJson(const Results& results, const std::string& path) {
-    std::ofstream out(path);
-    out << "{\n  \"benchmark\": \"read-and-fill\",\n  \"unit\": \"ns\",\n  \"records\": " << results.records
-        << ",\n  \"staff\": " << results.staff << ",\n  \"reach\": " << RatioToReach
-        << ",\n  \"aim\": " << RatioToAimAt
-        << ",\n  \"reached\": " << (results.worstRatio() <= RatioToReach ? "true" : "false") << ",\n";
-    writeList(out, "results", results.ratios, writeRatio);
-    out << ",\n";
-    writeList(out, "asRecordsGrow", results.recordSteps, writeRecordStep);
-    out << ",\n";
-    writeList(out, "asStaffGrows", results.staffSteps, writeStaffStep);
-    out << "\n}\n";
-    return static_cast<bool>(out.flush());
+Json toJson(const Results& results) {
+    return Json::Members{{"benchmark", "read-and-fill"},
+                         {"unit", "ns"},
+                         {"records", results.records},
+                         {"staff", results.staff},
+                         {"reach", RatioToReach},
+                         {"aim", RatioToAimAt},
+                         {"reached", results.worstRatio() <= RatioToReach},
+                         {"results", Json::list(results.ratios, ratioJson)},
+                         {"asRecordsGrow", Json::list(results.recordSteps, recordStepJson)},
+                         {"asStaffGrows", Json::list(results.staffSteps, staffStepJson)}};
 }
 
 } // namespace planner::bench

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "measure.h"
+#include "support/json.h"
+#include "support/measure.h"
 
 #include <string>
 #include <vector>
@@ -46,7 +47,6 @@ struct Results {
 
 void printTables(const Results& results);
 
-/// False when the file cannot be written.
-bool writeJson(const Results& results, const std::string& path);
+Json toJson(const Results& results);
 
 } // namespace planner::bench

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/measure.h"
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -12,7 +14,7 @@ namespace planner {
 struct FrameTimes {
     std::string name;
     bool withinFrame; // must be within a frame of a 60 Hz screen
-    double minimum, median, p95, maximum;
+    bench::Times times;
 };
 
 /// What a benchmark has to say.
@@ -28,8 +30,8 @@ void paintAll();
 FrameTimes measureFrames(std::string name, bool withinFrame, int times, const std::function<void()>& prepare,
                          const std::function<void()>& event);
 
-/// The main program of a benchmark with windows: starts the toolkit, runs `measure`, prints the report, and
-/// writes it as JSON when the arguments are --json FILE. Returns the exit code.
+/// The main program of a benchmark with windows: starts the toolkit, runs `measure` and prints the report.
+/// Returns the exit code.
 int frameBenchmark(int argc, char* argv[], const std::function<FrameReport()>& measure);
 
 } // namespace planner

@@ -6,14 +6,9 @@
 #include "futex_pair.h"
 #include "library_pair.h"
 #include "report.h"
+#include "support/benchmark.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstdio>
-#include <exception>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <unistd.h>
 #include <vector>
 
@@ -24,49 +19,7 @@ using namespace planner::bench;
 struct Options {
     int rounds = 5000;
     int repetitions = 9;
-    std::string json;
 };
-
-std::optional<int> toCount(std::string_view text) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc{} || end != text.data() + text.size() || value < 1) {
-        return std::nullopt;
-    }
-    return value;
-}
-
-bool setOption(Options& options, std::string_view key, std::string_view value) {
-    if (key == "--json") {
-        options.json = value;
-        return !value.empty();
-    }
-    const std::optional<int> count = toCount(value);
-    if (!count) {
-        return false;
-    }
-    if (key == "--rounds") {
-        options.rounds = *count;
-    } else if (key == "--repetitions") {
-        options.repetitions = *count;
-    } else {
-        return false;
-    }
-    return true;
-}
-
-std::optional<Options> parse(const std::vector<std::string_view>& arguments) {
-    Options options;
-    if (arguments.size() % 2 != 0) {
-        return std::nullopt;
-    }
-    for (std::size_t i = 0; i < arguments.size(); i += 2) {
-        if (!setOption(options, arguments.at(i), arguments.at(i + 1))) {
-            return std::nullopt;
-        }
-    }
-    return options;
-}
 
 Comparison compare(const Options& options, Placement placement, const char* title) {
     LibraryPair library("bench-ipc-" + std::to_string(getpid()));
@@ -88,29 +41,14 @@ std::vector<Comparison> compareAll(const Options& options) {
     return comparisons;
 }
 
-int run(const Options& options) {
-    const std::vector<Comparison> comparisons = compareAll(options);
-    printTable(comparisons);
-    if (!options.json.empty() && !writeJson(comparisons, options.rounds, options.json)) {
-        std::fprintf(stderr, "bench-ipc: cannot write %s\n", options.json.c_str());
-        return 1;
-    }
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string_view> arguments(argv + std::min(argc, 1), argv + argc);
-    const std::optional<Options> options = parse(arguments);
-    if (!options) {
-        std::fprintf(stderr, "usage: bench-ipc [--rounds N] [--repetitions N] [--json FILE]\n");
-        return 2;
-    }
-    try {
-        return run(*options);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "bench-ipc: %s\n", error.what());
-        return 1;
-    }
+    Options options;
+    return benchmark(argc, argv, {{"--rounds", &options.rounds}, {"--repetitions", &options.repetitions}},
+                     [&] {
+                         const std::vector<Comparison> comparisons = compareAll(options);
+                         printTable(comparisons);
+                         return toJson(comparisons, options.rounds);
+                     });
 }

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ping_pong.h"
 
-#include <chrono>
+#include "support/measure.h"
+
 #include <csignal>
 #include <exception>
 #include <sched.h>
@@ -15,7 +16,7 @@
 namespace planner::bench {
 namespace {
 
-constexpr int WARM_UP_ROUNDS = 200;
+constexpr int WarmUpRounds = 200;
 
 std::vector<int> allowedProcessors() {
     cpu_set_t set;
@@ -76,11 +77,9 @@ void runNearRounds(PingPong& pair, int rounds) {
 }
 
 double runNearEnd(PingPong& pair, int rounds) {
-    using Clock = std::chrono::steady_clock;
-    runNearRounds(pair, WARM_UP_ROUNDS);
-    const auto start = Clock::now();
-    runNearRounds(pair, rounds);
-    return std::chrono::duration<double, std::micro>(Clock::now() - start).count() / rounds;
+    constexpr double nsPerMicrosecond = 1000;
+    runNearRounds(pair, WarmUpRounds);
+    return timeOnce([&] { runNearRounds(pair, rounds); }) / nsPerMicrosecond / rounds;
 }
 
 void finish(pid_t child) {
@@ -111,7 +110,7 @@ double measureRoundTrip(PingPong& pair, int rounds, Placement placement) {
         throw std::runtime_error("no second process");
     }
     if (child == 0) {
-        farProcess(pair, rounds + WARM_UP_ROUNDS, farCpu);
+        farProcess(pair, rounds + WarmUpRounds, farCpu);
     }
     const double mean = runNearEnd(pair, rounds);
     finish(child);

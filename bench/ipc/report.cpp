@@ -2,43 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "report.h"
 
+#include "support/benchmark.h"
+
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 namespace planner::bench {
 namespace {
 
-double minimum(const std::vector<double>& values) {
-    return values.empty() ? 0.0 : *std::min_element(values.begin(), values.end());
+Json timesJson(const Times& times) {
+    return Json::Members{{"min", minimum(times)},
+                         {"median", median(times)},
+                         {"repetitions", Json::list(times, [](double time) { return time; })}};
 }
 
-double median(std::vector<double> values) {
-    if (values.empty()) {
-        return 0.0;
-    }
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-void writeValues(std::ostream& out, const char* key, const std::vector<double>& values) {
-    out << "      \"" << key << "\": {\"min\": " << minimum(values) << ", \"median\": " << median(values)
-        << ", \"repetitions\": [";
-    const char* separator = "";
-    for (const double value : values) {
-        out << separator << value;
-        separator = ", ";
-    }
-    out << "]}";
-}
-
-void writeComparison(std::ostream& out, const Comparison& comparison) {
-    out << "    {\n      \"placement\": \"" << comparison.placement << "\",\n";
-    writeValues(out, "library", comparison.library);
-    out << ",\n";
-    writeValues(out, "futex", comparison.futex);
-    out << ",\n      \"ratio\": " << ratioOfMinima(comparison) << "\n    }";
+Json comparisonJson(const Comparison& each) {
+    return Json::Members{{"placement", each.placement},
+                         {"library", timesJson(each.library)},
+                         {"futex", timesJson(each.futex)},
+                         {"ratio", ratioOfMinima(each)}};
 }
 
 } // namespace
@@ -51,7 +33,7 @@ double ratioOfMinima(const Comparison& comparison) {
 bool isReached(const std::vector<Comparison>& comparisons) {
     return std::all_of(comparisons.begin(), comparisons.end(), [](const Comparison& comparison) {
         const double ratio = ratioOfMinima(comparison);
-        return ratio > 0.0 && ratio <= RATIO_TO_REACH;
+        return ratio > 0.0 && ratio <= RatioToReach;
     });
 }
 
@@ -64,23 +46,16 @@ void printTable(const std::vector<Comparison>& comparisons) {
                     minimum(each.library), median(each.library), minimum(each.futex), median(each.futex),
                     ratioOfMinima(each));
     }
-    std::printf("to reach: ratio <= %.1f: %s\n", RATIO_TO_REACH,
-                isReached(comparisons) ? "reached" : "missed");
+    std::printf("to reach: ratio <= %.1f: %s\n", RatioToReach, reachedOrMissed(isReached(comparisons)));
 }
 
-bool writeJson(const std::vector<Comparison>& comparisons, int rounds, const std::string& path) {
-    std::ofstream out(path);
-    out << "{\n  \"benchmark\": \"event-round-trip\",\n  \"unit\": \"us\",\n  \"rounds\": " << rounds
-        << ",\n  \"reach\": " << RATIO_TO_REACH
-        << ",\n  \"reached\": " << (isReached(comparisons) ? "true" : "false") << ",\n  \"results\": [\n";
-    const char* separator = "";
-    for (const Comparison& each : comparisons) {
-        out << separator;
-        writeComparison(out, each);
-        separator = ",\n";
-    }
-    out << "\n  ]\n}\n";
-    return static_cast<bool>(out.flush());
+Json toJson(const std::vector<Comparison>& comparisons, int rounds) {
+    return Json::Members{{"benchmark", "event-round-trip"},
+                         {"unit", "us"},
+                         {"rounds", rounds},
+                         {"reach", RatioToReach},
+                         {"reached", isReached(comparisons)},
+                         {"results", Json::list(comparisons, comparisonJson)}};
 }
 
 } // namespace planner::bench

@@ -2,19 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/json.h"
+#include "support/measure.h"
+
 #include <string>
 #include <vector>
 
 namespace planner::bench {
 
 // The highest ratio of library to futex that counts as reached.
-constexpr double RATIO_TO_REACH = 1.5;
+constexpr double RatioToReach = 1.5;
 
 // Mean microseconds of a round trip, one value for each repetition, in the order measured.
 struct Comparison {
     std::string placement;
-    std::vector<double> library;
-    std::vector<double> futex;
+    Times library;
+    Times futex;
 };
 
 // Minima are compared: on a busy machine they repeat, means do not.
@@ -24,7 +27,6 @@ bool isReached(const std::vector<Comparison>& comparisons);
 
 void printTable(const std::vector<Comparison>& comparisons);
 
-// False when the file cannot be written.
-bool writeJson(const std::vector<Comparison>& comparisons, int rounds, const std::string& path);
+Json toJson(const std::vector<Comparison>& comparisons, int rounds);
 
 } // namespace planner::bench

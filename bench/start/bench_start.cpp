@@ -3,6 +3,8 @@
 // Start-up time, memory and a further request of the planner, against an empty window of the toolkit.
 
 #include "frame/sample_planner.h"
+#include "support/benchmark.h"
+#include "support/measure.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -11,7 +13,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <stdexcept>
 #include <vector>
 
@@ -49,11 +50,10 @@ Start startProgram(const QString& program, const QStringList& arguments) {
 }
 
 double median(const std::vector<Start>& starts, double Start::*figure) {
-    std::vector<double> figures;
+    bench::Times figures;
     std::transform(starts.begin(), starts.end(), std::back_inserter(figures),
                    [figure](const Start& each) { return each.*figure; });
-    std::sort(figures.begin(), figures.end());
-    return figures[figures.size() / 2];
+    return bench::median(figures);
 }
 
 struct Ratio {
@@ -79,17 +79,14 @@ void print(const std::vector<Ratio>& ratios) {
     }
 }
 
-bool writeJson(const std::vector<Ratio>& ratios, const char* path) {
-    std::ofstream out(path);
-    const char* separator = "{";
-    for (const Ratio& ratio : ratios) {
-        out << separator << '"' << ratio.name << "\": {\"planner\": " << ratio.planner
-            << ", \"empty\": " << ratio.empty << ", \"ratio\": " << ratio.value() << '}';
-        separator = ", ";
+bench::Json toJson(const std::vector<Ratio>& ratios) {
+    bench::Json::Members members;
+    for (const Ratio& each : ratios) {
+        members.emplace_back(
+            each.name,
+            bench::Json::Members{{"planner", each.planner}, {"empty", each.empty}, {"ratio", each.value()}});
     }
-    out << "}\n";
-    out.flush();
-    return out.good();
+    return members;
 }
 
 std::vector<Ratio> measure() {
@@ -112,19 +109,11 @@ std::vector<Ratio> measure() {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const char* json = argc == 3 && std::string_view(argv[1]) == "--json" ? argv[2] : nullptr;
-    if (argc > 1 && json == nullptr) {
-        std::fprintf(stderr, "usage: bench-start [--json FILE]\n");
-        return 2;
-    }
-    int noArguments = 1;
-    const QCoreApplication application(noArguments, argv);
-    try {
+    return bench::benchmark(argc, argv, {}, [&] {
+        int noArguments = 1;
+        const QCoreApplication application(noArguments, argv);
         const std::vector<Ratio> ratios = measure();
         print(ratios);
-        return json == nullptr || writeJson(ratios, json) ? 0 : 1;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "bench-start: %s\n", error.what());
-        return 1;
-    }
+        return toJson(ratios);
+    });
 }

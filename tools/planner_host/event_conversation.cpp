@@ -34,7 +34,7 @@ public:
 
 private:
     struct State {
-        FileHandle handle{::eventfd(0, EFD_CLOEXEC)};
+        FileDescriptor handle{::eventfd(0, EFD_CLOEXEC)};
         std::atomic<bool> failed{false};
     };
     std::shared_ptr<State> m_state;

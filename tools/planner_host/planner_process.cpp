@@ -71,7 +71,7 @@ PlannerProcess::PlannerProcess(const std::filesystem::path& programma,
         throw HostError(CodiceUscita::PlannerFallito,
                         "impossibile avviare il planner " + texts.front() + ": " + causeText(error));
     }
-    m_handle = FileHandle(::pidfd_open(m_pid, 0));
+    m_handle = FileDescriptor(::pidfd_open(m_pid, 0));
     if (m_handle.get() < 0) {
         const int cause = errno;
         ::kill(m_pid, SIGKILL);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "planner_host/file_handle.h"
+#include "platform/posix/file_descriptor.h"
 
 #include <chrono>
 #include <filesystem>
@@ -38,7 +38,7 @@ private:
     void reap();
 
     pid_t m_pid = -1;
-    FileHandle m_handle;
+    FileDescriptor m_handle;
     bool m_ended = false;
     bool m_signalled = false;
     int m_status = 0; // exit code or signal number

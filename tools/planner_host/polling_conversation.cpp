@@ -30,7 +30,7 @@ constexpr std::chrono::seconds AttesaDellaFine{30};
 
 /// Makes an empty file. Whoever finds it may take it at once: all that it announces must be done before.
 void createFile(const std::filesystem::path& path) {
-    const FileHandle file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (file.get() < 0 && errno == EEXIST) {
         failFile(path, "il file c'è già, di un'altra richiesta o di un planner finito male");
     }

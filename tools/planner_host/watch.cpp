@@ -19,7 +19,7 @@ Interruzioni::Interruzioni() {
         sigaddset(&signals, signal);
     }
     ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    m_handle = FileHandle(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
+    m_handle = FileDescriptor(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
 }
 
 void Interruzioni::check() const {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "planner_host/file_handle.h"
+#include "platform/posix/file_descriptor.h"
 
 #include <chrono>
 #include <optional>
@@ -19,7 +19,7 @@ public:
     void check() const;
 
 private:
-    FileHandle m_handle;
+    FileDescriptor m_handle;
 };
 
 enum class Sveglia { Pronto, PlannerFinito, TempoScaduto };

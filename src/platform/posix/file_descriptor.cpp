@@ -51,6 +51,11 @@ FileDescriptor::~FileDescriptor() {
 FileDescriptor::FileDescriptor(FileDescriptor&& other) noexcept
     : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
 
+FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
+    std::swap(m_descriptor, other.m_descriptor);
+    return *this;
+}
+
 std::uint64_t FileDescriptor::regularFileLength() const {
     struct stat status {};
     if (::fstat(m_descriptor, &status) != 0) {

@@ -11,13 +11,18 @@ namespace planner {
 /// An open file; closes itself. Every failure throws FileError.
 class FileDescriptor {
 public:
+    /// Takes over an open one, of any kind; -1 for none.
+    explicit FileDescriptor(int descriptor = -1) : m_descriptor(descriptor) {}
     /// Opens without ever blocking, whatever stands at the path.
     FileDescriptor(const std::string& path, int flags);
     ~FileDescriptor();
     FileDescriptor(FileDescriptor&& other) noexcept;
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+
+    /// -1 when it holds none.
+    int get() const { return m_descriptor; }
 
     /// Bytes in the file; refuses what is no regular file.
     std::uint64_t regularFileLength() const;

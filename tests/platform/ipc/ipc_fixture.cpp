@@ -4,22 +4,11 @@
 
 #include <cstdlib>
 #include <iterator>
-#include <stdexcept>
 
 namespace planner::ipctest {
 
 IpcTest::IpcTest() {
-    std::string path = std::filesystem::temp_directory_path() / "ipc-test-XXXXXX";
-    if (mkdtemp(path.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    m_folder = path;
-    setenv("XDG_RUNTIME_DIR", path.c_str(), 1);
-}
-
-IpcTest::~IpcTest() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_folder, ignored);
+    setenv("XDG_RUNTIME_DIR", runtimeFolder().c_str(), 1);
 }
 
 int IpcTest::eventFiles() const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "actor.h"
+#include "support/temp_folder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -15,17 +16,16 @@ namespace planner::ipctest {
 class IpcTest : public testing::Test {
 protected:
     IpcTest();
-    ~IpcTest() override;
 
-    const std::filesystem::path& runtimeFolder() const { return m_folder; }
-    std::filesystem::path eventFolder() const { return m_folder / "tavterm-ipc"; }
+    const std::filesystem::path& runtimeFolder() const { return m_folder.folder(); }
+    std::filesystem::path eventFolder() const { return m_folder.path("tavterm-ipc"); }
     std::filesystem::path eventFile(const std::string& name) const { return eventFolder() / ("ev-" + name); }
 
     // How many events have left a file.
     int eventFiles() const;
 
 private:
-    std::filesystem::path m_folder;
+    test::TempFolder m_folder;
 };
 
 } // namespace planner::ipctest

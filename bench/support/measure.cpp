@@ -1,23 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "measure.h"
+#include "support/measure.h"
 
 #include <algorithm>
 #include <chrono>
 
 namespace planner::bench {
 
-double minimum(const Times& times) {
-    return times.empty() ? 0.0 : *std::min_element(times.begin(), times.end());
-}
-
-double median(Times times) {
+double percentile(Times times, int percent) {
     if (times.empty()) {
         return 0.0;
     }
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
+    const std::size_t at = times.size() * static_cast<std::size_t>(percent) / 100;
+    const auto found = times.begin() + static_cast<std::ptrdiff_t>(std::min(at, times.size() - 1));
+    std::nth_element(times.begin(), found, times.end());
+    return *found;
 }
 
 double timeOnce(const std::function<void()>& work) {
