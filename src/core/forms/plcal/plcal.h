@@ -98,7 +98,7 @@ private:
     void SelChange(Scelta scelta);
     void flxa_SelChange(int riga, int colonna);
     void selectStaff();
-    void setStaff(int indice);
+    void setStaff(IndiceCollaboratore indice);
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();

@@ -5,7 +5,6 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
-#include "ports/runtime_errors.h"
 
 #include <algorithm>
 
@@ -70,7 +69,7 @@ void plcal::SelChange(Scelta scelta) {
 
 void plcal::selectStaff() {
     const int riga = griglia().Row();
-    const int indice = riga - griglia().FixedRows();
+    const IndiceCollaboratore indice = indiceDiRiga(griglia(), riga);
     setStaff(indice);
     griglia().evidenzia(riga);
     m_pannello.lblcollab = "Impegni di " + std::string(griglia().TextMatrix(riga, 0));
@@ -78,13 +77,12 @@ void plcal::selectStaff() {
     m_pannello.mostraTotali(m_sessione.TotaliImpegni, indice, m_sessione.varianteRidotta());
 }
 
-void plcal::setStaff(int indice) {
+void plcal::setStaff(IndiceCollaboratore indice) {
     if (!tipo().unGiorno) {
-        m_sessione.IndiceCollab = roundTo16Bit(indice);
+        m_sessione.IndiceCollab = indice;
     }
-    const auto& staff = m_sessione.archivi.Collaboratori;
-    if (static_cast<std::size_t>(indice) < staff.size()) {
-        m_sessione.collab = staff[static_cast<std::size_t>(indice)].codice.text();
+    if (const Collaboratore* staff = trovaCollaboratore(m_sessione.archivi.Collaboratori, indice)) {
+        m_sessione.collab = staff->codice.text();
     }
 }
 
@@ -112,8 +110,9 @@ int plcal::rigaCursore() const {
     const int first = griglia().FixedRows();
     const int wanted = !tipo().perCollaboratore           ? m_controlli.calendario.Month()
                        : griglia().EvidenziazioneAttiva() ? griglia().RigaEvidenziata()
-                       : m_sessione.IndiceRichiesto >= 0  ? first + m_sessione.IndiceRichiesto
-                                                          : first;
+                       : m_sessione.IndiceRichiesto.presente()
+                           ? rigaCollaboratore(griglia(), m_sessione.IndiceRichiesto)
+                           : first;
     return std::clamp(wanted, first, griglia().Rows() - 1);
 }
 
