@@ -131,7 +131,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
         }
     });
     setBars(flxg, bars);
-    flxg.setCurrent(PrimaRigaGiornaliera, 1);
+    flxg.setCurrent({PrimaRigaGiornaliera, 1});
     return esito;
 }
 

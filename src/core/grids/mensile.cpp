@@ -73,7 +73,7 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
                                 impegno.immagine, impegno.tipi);
         }
     });
-    Flxm.setCurrent(PrimaRigaMensile, 1);
+    Flxm.setCurrent({PrimaRigaMensile, 1});
     return esito;
 }
 

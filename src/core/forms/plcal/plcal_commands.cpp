@@ -75,7 +75,7 @@ bool plcal::canConsult() const {
         return false;
     }
     if (!tipo().perCollaboratore) {
-        return giornoSegnato(m_sessione.archivi, griglia().Row(), griglia().Col());
+        return giornoSegnato(m_sessione.archivi, griglia().corrente());
     }
     const IndiceCollaboratore indice =
         tipo().unGiorno ? indiceDiRiga(griglia(), griglia().Row()) : m_sessione.IndiceCollab;
@@ -125,10 +125,9 @@ void plcal::refreshGrid() {
     }
     esegui([&] {
         const Griglia::LockWindowUpdate lock(griglia());
-        const int row = griglia().Row();
-        const int column = griglia().Col();
+        const auto [row, column] = griglia().corrente();
         m_contenuti.ricompila();
-        griglia().setCurrent(std::min(row, griglia().Rows() - 1), column);
+        griglia().setCurrent({std::min(row, griglia().Rows() - 1), column});
         restoreMarks();
     });
 }

@@ -11,7 +11,7 @@
 namespace planner {
 
 void plcal::griglia_Gesto(const Gesto& gesto) {
-    const auto luogo = luogoDi(m_controlli, gesto.riga, gesto.colonna);
+    const auto luogo = luogoDi(m_controlli, gesto.casella);
     const EffettoGesto* effetto = luogo ? effettoGesto(*m_controlli.tipoVisibile, *luogo) : nullptr;
     if (effetto == nullptr) {
         return;
@@ -34,30 +34,31 @@ void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
     const Griglia::LockWindowUpdate lock(griglia());
     if (effetto.giorno) {
         const bool moved = !tipo().perCollaboratore && gesto.mezzo == Mezzo::frecce;
-        moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
+        moved ? flxa_RowColChange(gesto.casella) : Click(gesto.casella);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia().setCurrent(gesto.riga, onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())
-                                            : gesto.colonna);
+    griglia().setCurrent(
+        {gesto.casella.riga,
+         onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()) : gesto.casella.colonna});
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
 
-void plcal::Click(int riga, int colonna) {
-    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, riga, colonna)) {
+void plcal::Click(Casella casella) {
+    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, casella)) {
         m_controlli.calendario.setValue(*giorno);
     }
 }
 
-void plcal::flxa_RowColChange(int riga, int colonna) {
+void plcal::flxa_RowColChange(Casella casella) {
     if (m_sessione.CalendarioAttivo) {
-        Click(riga, colonna);
+        Click(casella);
     }
 }
 
 void plcal::SelChange(Scelta scelta) {
     if (scelta == Scelta::totaliGiorno) {
-        flxa_SelChange(griglia().Row(), griglia().Col());
+        flxa_SelChange(griglia().corrente());
         return;
     }
     m_pannello.nascondiTotali();
@@ -86,24 +87,24 @@ void plcal::setStaff(IndiceCollaboratore indice) {
     }
 }
 
-void plcal::flxa_SelChange(int riga, int colonna) {
-    m_pannello.mostraGiorno(valoriGiorno(m_sessione.archivi, riga, colonna));
-    if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
+void plcal::flxa_SelChange(Casella casella) {
+    m_pannello.mostraGiorno(valoriGiorno(m_sessione.archivi, casella));
+    if (!giornoSegnato(m_sessione.archivi, casella)) {
         m_controlli.flxa.scegliNessuna(); // what is marked is the day whose totals are shown
         return;
     }
-    m_controlli.flxa.scegli(riga, colonna);
+    m_controlli.flxa.scegli(casella);
 }
 
 void plcal::markShownCell() {
     const int riga = griglia().RigaEvidenziata();
     if (griglia().EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
-        griglia().scegli(riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()));
+        griglia().scegli({riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())});
     }
 }
 
 void plcal::describeCurrentCell() {
-    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().Row(), griglia().Col());
+    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().corrente());
 }
 
 int plcal::rigaCursore() const {
@@ -118,7 +119,8 @@ int plcal::rigaCursore() const {
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
     if (m_controlli.tipoVisibile) {
-        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera));
+        griglia().setCurrent(
+            {rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera)});
     }
 }
 
