@@ -58,7 +58,7 @@ FrameReport measure() {
     Calendario calendario;
     calendario.setValue(Day);
     plfgraf form(archivi, calendario);
-    form.VisualizzaGraficoGiornaliero(1);
+    form.VisualizzaGraficoGiornaliero({1});
     QtMessageBoxes messaggi;
     ChartDialog dialog(form, messaggi, nullptr);
     dialog.resize(Window.width, Window.height);
@@ -76,7 +76,7 @@ FrameReport measure() {
                            " records, event to painted, " + std::to_string(Times) + " times each",
                        {}};
     report.times = {
-        measureFrames("contents", false, Times, nothing, [&] { form.VisualizzaGraficoGiornaliero(1); }),
+        measureFrames("contents", false, Times, nothing, [&] { form.VisualizzaGraficoGiornaliero({1}); }),
         measureFrames("bars", false, Times, nothing, [&] { choose(0); }),
         measureFrames("next bar", true, Times, nothing, next),
         measureFrames("pie", false, Times, nothing, [&] { choose(2); }),

@@ -44,7 +44,7 @@ public:
     void clear() { m_engine.PulisciGrid1(); }
     void fill() { m_engine.PopolaGrid1(); }
 
-    std::int16_t lookUp(std::string_view codice) const { return m_engine.IndCollaboratore(codice); }
+    int lookUp(std::string_view codice) const { return m_engine.IndCollaboratore(codice).valore; }
 
     /// Sum of all totals: what the fill has counted.
     std::int64_t sumOfTotals() const;

@@ -40,8 +40,8 @@ public:
     }
 
     void build(std::int16_t collab, ChartSize size, const ChartArea& reserved) {
-        const std::array built{done([&] { m_form.VisualizzaGraficoMensile(collab); }),
-                               done([&] { m_form.VisualizzaGraficoGiornaliero(collab); }),
+        const std::array built{done([&] { m_form.VisualizzaGraficoMensile({collab}); }),
+                               done([&] { m_form.VisualizzaGraficoGiornaliero({collab}); }),
                                done([&] { m_form.VisualizzaGraficoAnnuale(); })};
         const std::array charts{&m_form.MSChartm(), &m_form.MSChartg(), &m_form.MSCharta()};
         for (std::size_t i = 0; i < charts.size(); ++i) {

@@ -92,7 +92,7 @@ void FuzzedUser::performInGrid(Azione azione, FuzzInput& input) {
     const Mezzo mezzo = azione == Azione::selezionaCella ? Mezzo::assistenza
                         : azione == Azione::cliccaCella  ? Mezzo::clic
                                                          : Mezzo::frecce;
-    form.griglia_Gesto({riga, colonna, mezzo});
+    form.griglia_Gesto({{riga, colonna}, mezzo});
 }
 
 void FuzzedUser::choosePeriod(int indice) {

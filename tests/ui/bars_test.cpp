@@ -52,7 +52,7 @@ struct BarsTest : testing::Test {
         image.fill(Qt::magenta);
         QPainter target(&image);
         for (int column = 1; column <= columns; ++column) {
-            painter.paint(target, cell(column, height), griglia, Row, column);
+            painter.paint(target, cell(column, height), griglia, {Row, column});
         }
         return image;
     }
@@ -208,7 +208,7 @@ TEST_F(BarsTest, LinesAreSharpOnAScreenOfTwiceTheDensity) {
     QImage image(2 * Width, 2 * height, QImage::Format_RGB32);
     image.setDevicePixelRatio(2);
     QPainter target(&image);
-    painter.paint(target, cell(1, height), griglia, Row, 1);
+    painter.paint(target, cell(1, height), griglia, {Row, 1});
     target.end();
     EXPECT_EQ(image.pixel(0, height), Edge);
     EXPECT_EQ(image.pixel(1, height), Edge);
@@ -220,7 +220,7 @@ TEST_F(BarsTest, LinesAreSharpOnAScreenOfTwiceTheDensity) {
 TEST_F(BarsTest, AHighlightedRowAndAMarkedCellLeaveTheBarsInSight) {
     put({{1, 6, Deadline}, {4, 9, Deadline}});
     griglia.evidenzia(Row);
-    griglia.scegli(Row, 5);
+    griglia.scegli({Row, 5});
     const QImage image = paint();
     EXPECT_THAT(stripes(image, 6, Fill), testing::SizeIs(2));
     EXPECT_THAT(stripes(image, 6, Edge), testing::ElementsAre(1, 1, 1, 1));
@@ -232,7 +232,7 @@ TEST_F(BarsTest, AHighlightedRowAndAMarkedCellLeaveTheBarsInSight) {
 
 TEST_F(BarsTest, AMarkedCellKeepsItsPictures) {
     put({{5, 8, Deadline}});
-    griglia.scegli(Row, 5);
+    griglia.scegli({Row, 5});
     const QImage image = paint();
     EXPECT_GT(ink(image, cell(5, height)), 20);
     EXPECT_EQ(image.pixel(cell(5, height).left(), height / 2), Edge);
@@ -262,7 +262,7 @@ TEST_F(BarsTest, ThePictureOfADayStandsInTheMiddleOfItsCell) {
 }
 
 TEST_F(BarsTest, TheFocusFrameStandsAroundTheCurrentCellOnly) {
-    GridModel model(griglia, [](int, int) { return std::string(); });
+    GridModel model(griglia, [](Casella) { return std::string(); });
     QObject owner;
     const CellDelegate delegate(model, painter, &owner);
     QImage image(Width, height, QImage::Format_RGB32);

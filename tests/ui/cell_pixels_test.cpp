@@ -33,12 +33,12 @@ protected:
     Painted paint(int row, int column) { return paint(griglia, row, column); }
     Painted paint(const Griglia& grid, int row, int column) {
         return {size, GetParam(), [&](QPainter& target) {
-                    painter.paint(target, {{0, 0}, size}, grid, row, column);
+                    painter.paint(target, {{0, 0}, size}, grid, {row, column});
                 }};
     }
     Painted paintFocused(bool focused) {
         return {CellSize, GetParam(), [&](QPainter& target) {
-                    const GridModel model(griglia, [](int, int) { return std::string(); });
+                    const GridModel model(griglia, [](Casella) { return std::string(); });
                     QObject owner;
                     QStyleOptionViewItem option;
                     option.rect = {{0, 0}, CellSize};
@@ -98,7 +98,7 @@ TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
 
 TEST_P(CellPixels, EachColourOfACellIsItsGround) {
     const auto expectGround = [&](Colore colore) {
-        EXPECT_EQ(griglia.aspetto(FirstRow, 3).fondo, colore);
+        EXPECT_EQ(griglia.aspetto({FirstRow, 3}).fondo, colore);
         EXPECT_TRUE(paint(FirstRow, 3).all(inside(), is(qtColor(colore).rgb()))) << static_cast<int>(colore);
     };
     griglia.setCaption(FirstRow, 3, Ruolo::giornoAnno, "");
@@ -107,7 +107,7 @@ TEST_P(CellPixels, EachColourOfACellIsItsGround) {
     expectGround(Colore::navy);
     griglia.evidenzia(FirstRow);
     expectGround(Colore::giallo);
-    griglia.scegli(FirstRow, 3);
+    griglia.scegli({FirstRow, 3});
     expectGround(Colore::ciano);
     griglia = Griglia(4, 15, FirstRow, Colore::bianco);
     expectGround(Colore::bianco);

@@ -80,10 +80,10 @@ private:
     Painted paintAs(int option) {
         switch (GetParam().tipo) {
         case 'M':
-            form.VisualizzaGraficoMensile(1);
+            form.VisualizzaGraficoMensile({1});
             break;
         case 'G':
-            form.VisualizzaGraficoGiornaliero(1);
+            form.VisualizzaGraficoGiornaliero({1});
             break;
         default:
             form.VisualizzaGraficoAnnuale();

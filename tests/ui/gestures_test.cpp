@@ -166,7 +166,7 @@ protected:
 
     /// Puts the cursor somewhere, as it would stand after other gestures.
     void putCursor(int riga, int colonna) {
-        bench.base.controlli.grigliaVisibile()->setCurrent(riga, colonna);
+        bench.base.controlli.grigliaVisibile()->setCurrent({riga, colonna});
         bench.vista.aggiorna();
     }
 
@@ -237,7 +237,8 @@ protected:
             return before;
         }
         Stato after = before;
-        const auto day = giornoCella(bench.base.controlli, prova.tipo, prova.posto.riga, prova.posto.colonna);
+        const auto day =
+            giornoCella(bench.base.controlli, prova.tipo, {prova.posto.riga, prova.posto.colonna});
         after.giorno = effect->giorno && day ? formatDate(*day) : before.giorno;
         after.riga = prova.posto.riga;
         after.colonna = effect->cursore == MossaCursore::rigaDelNome ? before.colonna : prova.posto.colonna;

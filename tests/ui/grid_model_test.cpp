@@ -16,8 +16,9 @@ namespace {
 
 struct GridModelTest : testing::Test {
     Griglia griglia{6, 4, 2, Colore::gialloChiaro};
-    GridModel model{griglia, [](int riga, int colonna) {
-                        return "<b>cella " + std::to_string(riga) + " " + std::to_string(colonna);
+    GridModel model{griglia, [](Casella casella) {
+                        return "<b>cella " + std::to_string(casella.riga) + " " +
+                               std::to_string(casella.colonna);
                     }};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
     QSignalSpy changes{&model, &QAbstractItemModel::dataChanged};
@@ -52,7 +53,7 @@ TEST_F(GridModelTest, TheSentenceIsReadAloudAsItIsAndNoToolTipIsMarkup) {
 }
 
 TEST_F(GridModelTest, OneChangedCellIsAnnouncedAloneAndOnce) {
-    griglia.scegli(3, 2);
+    griglia.scegli({3, 2});
     ASSERT_EQ(changes.size(), 1);
     EXPECT_EQ(changes[0][0].toModelIndex(), model.index(1, 1));
     EXPECT_EQ(changes[0][1].toModelIndex(), model.index(1, 1));
@@ -96,7 +97,7 @@ TEST_F(GridModelTest, HeadersAreAnnouncedApartFromData) {
 TEST_F(GridModelTest, NoTwoCellsShareAPlaceInTheToolkitsTables) {
     for (const int columns : {38, 97, 4}) {
         Griglia large(40, columns, 1, Colore::bianco);
-        const GridModel wide(large, [](int, int) { return std::string(); });
+        const GridModel wide(large, [](Casella) { return std::string(); });
         std::set<std::size_t> places;
         for (int row = 0; row < wide.rowCount(); ++row) {
             for (int column = 0; column < wide.columnCount(); ++column) {

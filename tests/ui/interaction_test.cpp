@@ -132,7 +132,7 @@ TEST_F(InteractionTest, ScrollPositionAndStaffMemberSurviveAMove) {
     ASSERT_GT(position, 0);
     bench.key(Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(bar->value(), position);
-    EXPECT_EQ(bench.base.sessione.IndiceCollab, 28);
+    EXPECT_EQ(bench.base.sessione.IndiceCollab.valore, 28);
     EXPECT_EQ(bench.view().currentIndex().row(), 28);
     bench.open("G");
     bench.click(20, 60);

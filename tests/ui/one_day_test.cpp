@@ -159,7 +159,7 @@ protected:
         EXPECT_EQ(shown.toString(Qt::ISODate).remove(QLatin1Char('-')).toStdString(), formatDate(day))
             << gesture;
         EXPECT_EQ(bench.view().currentIndex(), bench.index(griglia.Row(), griglia.Col())) << gesture;
-        const auto cursor = giornoCella(bench.base.controlli, GetParam().tipo, griglia.Row(), griglia.Col());
+        const auto cursor = giornoCella(bench.base.controlli, GetParam().tipo, griglia.corrente());
         if (cursor) {
             EXPECT_EQ(formatDate(*cursor), formatDate(day)) << gesture;
         }

@@ -106,7 +106,7 @@ TEST_F(OwnMovesTest, WithMoreStaffThanRecordsEveryRowSelectsWithoutABox) {
     QCoreApplication::processEvents();
     EXPECT_TRUE(bench.base.messaggi.shown.empty());
     EXPECT_EQ(bench.shownDay(), "20060318");
-    EXPECT_EQ(bench.base.sessione.IndiceCollab, 13);
+    EXPECT_EQ(bench.base.sessione.IndiceCollab.valore, 13);
 }
 
 TEST_F(OwnMovesTest, APeriodButtonThatGoesGreyPassesTheFocusToTheGrid) {

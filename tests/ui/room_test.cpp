@@ -42,7 +42,7 @@ struct RoomTest : testing::TestWithParam<Shown> {
         } else {
             bench.open(GetParam().kind);
         }
-        bench.finestra.griglia_Gesto({3, 17});
+        bench.finestra.griglia_Gesto({{3, 17}});
     }
 
     QToolBar& toolbar() { return bench.widget<QToolBar>("Toolbar1"); }
@@ -163,7 +163,7 @@ TEST_P(RoomTest, EveryHeaderTextIsWhole) {
     for (int section = 0; section < header.count(); ++section) {
         const QRect place(0, 0, header.sectionSize(section), height);
         for (int row = 0; row < griglia().FixedRows(); ++row) {
-            EXPECT_FALSE(painter.cut(place, griglia(), row, section + 1)) << row << " " << section;
+            EXPECT_FALSE(painter.cut(place, griglia(), {row, section + 1})) << row << " " << section;
         }
     }
 }
@@ -173,7 +173,7 @@ TEST_P(RoomTest, EveryNameOfThisOfficeIsWhole) {
     const CellPainter painter = this->painter();
     for (int section = 0; section < names.count(); ++section) {
         const QRect place(0, 0, names.width(), names.sectionSize(section));
-        EXPECT_FALSE(painter.cut(place, griglia(), section + griglia().FixedRows(), 0)) << section;
+        EXPECT_FALSE(painter.cut(place, griglia(), {section + griglia().FixedRows(), 0})) << section;
     }
 }
 
@@ -191,7 +191,7 @@ TEST_P(RoomTest, PeriodButtonsStandBesideTheirCaption) {
     }
     EXPECT_EQ(overlaps(visibleChildren(corner())), "");
     for (int row = 0; row < griglia().FixedRows(); ++row) {
-        EXPECT_FALSE(painter.cut(corner().rect(), griglia(), row, 0, room)) << row;
+        EXPECT_FALSE(painter.cut(corner().rect(), griglia(), {row, 0}, room)) << row;
     }
 }
 

@@ -139,12 +139,12 @@ TEST_F(WindowTest, TheCalendarShowsTheDayAndTheWheelDoesNotMoveIt) {
 TEST_F(WindowTest, VariantBHidesTheDeadlinesAndMovesTheCaseFilesUp) {
     const auto top = [&](const char* name) { return bench.widget(name).mapTo(&bench.vista, QPoint()).y(); };
     bench.open("M");
-    bench.finestra.griglia_Gesto({3, 17});
+    bench.finestra.griglia_Gesto({{3, 17}});
     const int deadlinesTop = top("Lblscad");
     EXPECT_TRUE(shows("Lblscad"));
     EXPECT_GT(top("lblpra"), deadlinesTop);
     bench.open("M", "20060315", "                   B");
-    bench.finestra.griglia_Gesto({3, 17});
+    bench.finestra.griglia_Gesto({{3, 17}});
     EXPECT_FALSE(shows("Lblscad"));
     EXPECT_FALSE(shows("Lblscadeva"));
     EXPECT_TRUE(shows("lblpra"));

@@ -57,7 +57,7 @@ struct WindowsRoomTest : testing::Test {
     void openChart(const char* tipo, const std::function<void(QDialog&)>& user) {
         bench.planner.base.putGrafici({rigaGrafico("RB", "20060315", "0007:30")});
         bench.planner.open(tipo);
-        bench.planner.finestra.griglia_Gesto({3, 17});
+        bench.planner.finestra.griglia_Gesto({{3, 17}});
         bool shown = false;
         whileModal([&] { bench.planner.finestra.Toolbar1_ButtonClick("grafici"); },
                    [&](QDialog& dialog) {

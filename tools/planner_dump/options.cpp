@@ -41,7 +41,7 @@ Data readToday(Reader& reader) {
     return *data;
 }
 
-std::int16_t readStaffIndex(Reader& reader) {
+IndiceCollaboratore readStaffIndex(Reader& reader) {
     if (reader.done()) {
         throw UsageError("dopo --grafico manca l'indice del collaboratore");
     }
@@ -51,7 +51,7 @@ std::int16_t readStaffIndex(Reader& reader) {
     if (error != std::errc{} || end != text.data() + text.size()) {
         throw UsageError(inQuotes(text) + " non è un indice fra -32768 e 32767");
     }
-    return index;
+    return {index};
 }
 
 /// The path passes through the rules of the planner's own command line, and so means the same file.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "session/dates.h"
+#include "session/staff.h"
 
 #include <cstdint>
 #include <optional>
@@ -23,7 +24,7 @@ struct Options {
     bool help = false;
     std::string transitPath; // as the host's command line would give it
     std::optional<Data> oggi;
-    std::optional<std::int16_t> grafico; // the selected staff index, negative for none; nothing: no chart
+    std::optional<IndiceCollaboratore> grafico; // the selected staff member; nothing: no chart
 };
 
 /// Reads the arguments that follow the program's name. Throws UsageError.

@@ -27,7 +27,7 @@ void serve(clsplg& engine, const TransitRequest& richiesta, const std::string& f
 }
 
 /// What the command for charts does, up to where the chart would appear.
-void openChart(clsplg& engine, std::int16_t collab, MessageBoxes& messages, Snapshot& snapshot) {
+void openChart(clsplg& engine, IndiceCollaboratore collab, MessageBoxes& messages, Snapshot& snapshot) {
     engine.LeggiDatiPerGrafici();
     const ControlliPlcal& controlli = snapshot.controlli;
     plfgraf form(snapshot.sessione.archivi, controlli.calendario);

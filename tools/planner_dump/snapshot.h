@@ -28,7 +28,7 @@ struct Snapshot {
 /// The user's part in a request.
 struct Utente {
     Data oggi;
-    std::optional<std::int16_t> grafico; // opens the charts with this staff member selected
+    std::optional<IndiceCollaboratore> grafico; // opens the charts with this staff member selected
 };
 
 /// Reads the transit file's record without touching the file; a shorter file leaves blanks. Throws FileError.

@@ -119,10 +119,9 @@ std::string ArchiveFolder::cercaNome(std::string_view codice) const {
     } catch (const RuntimeError&) {
         return {}; // without a readable staff file nobody has a name
     }
-    const std::int16_t index = IndiceCodici(archivi.Collaboratori).trova(codice);
-    return index < 0 ? std::string{}
-                     : testoLeggibile(
-                           archivi.Collaboratori.at(static_cast<std::size_t>(index)).nome.trimmedRight());
+    const Collaboratore* found =
+        trovaCollaboratore(archivi.Collaboratori, IndiceCodici(archivi.Collaboratori).trova(codice));
+    return found == nullptr ? std::string{} : testoLeggibile(found->nome.trimmedRight());
 }
 
 } // namespace planner

@@ -71,7 +71,7 @@ void clsplg::openSession(const std::string& Windowcaption, const std::string& Pa
     s.PathArchivi = withoutTrailingSeparator(PathArchivi);
     s.valret.clear();
     s.collab = "  ";
-    s.IndiceCollab = -1;
+    s.IndiceCollab = {};
 }
 
 void clsplg::WUscita() {
@@ -93,7 +93,7 @@ void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const
     setToolbarForKind();
     LeggiCollab();
     m_fonti.sessione.IndiceRichiesto =
-        trim(collab).empty() ? std::int16_t{-1} : m_fonti.sessione.indiceCodici.trova(collab);
+        trim(collab).empty() ? IndiceCollaboratore{} : m_fonti.sessione.indiceCodici.trova(collab);
     runCommand(m_fonti.messaggi, [&] { fillForKind(tipoplanner, collab); });
 }
 

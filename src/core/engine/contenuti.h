@@ -69,7 +69,7 @@ public:
     void PulisciGrid3() { planner::PulisciGrid3(m_fonti.controlli.flxa); }
 
     /// Look-ups in the staff table; see session/staff.h.
-    std::int16_t IndCollaboratore(std::string_view codice) const {
+    IndiceCollaboratore IndCollaboratore(std::string_view codice) const {
         return m_fonti.sessione.indiceCodici.IndCollaboratore(codice);
     }
     std::string EstraiCollaboratore(std::string_view codice) const;

@@ -10,7 +10,7 @@ namespace planner {
 
 /// What the fills take from one appointment record.
 struct Impegno {
-    int indice; // staff index
+    IndiceCollaboratore indice;
     Data data;
     ValoriContatori valori;
     unsigned tipi; // the kinds present: bit i stands for `TipiImpegno[i]`

@@ -110,7 +110,7 @@ void showgrid2(Griglia& flxg) {
 EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato) {
     const Griglia::LockWindowUpdate lock(flxg);
     flxg.setCaption(0, 0, Ruolo::periodo, shownDay(calendario));
-    writeStaffCaptions(flxg, PrimaRigaGiornaliera, sessione.archivi, Ruolo::nomeGiornaliero);
+    writeStaffCaptions(flxg, sessione.archivi, Ruolo::nomeGiornaliero);
     setDataRowHeights(flxg, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
@@ -123,7 +123,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
     EsitoRiempimento esito = forEachRecord(sessione.archivi, onShownDay, [&](const RigaPlanner& riga) {
         const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
         const IntervalloColonne columns = colonneImpegno(riga);
-        const int row = impegno.indice + PrimaRigaGiornaliera;
+        const int row = rigaCollaboratore(flxg, impegno.indice);
         sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
         writeEntry(flxg, row, impegno, columns);
         if (columns.prima > 0) {
@@ -131,7 +131,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
         }
     });
     setBars(flxg, bars);
-    flxg.setCurrent(PrimaRigaGiornaliera, 1);
+    flxg.setCurrent({PrimaRigaGiornaliera, 1});
     return esito;
 }
 

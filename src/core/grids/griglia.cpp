@@ -37,9 +37,9 @@ void Griglia::setRows(int rows) {
     m_rows = std::max(rows, m_fixedRows);
     m_cells.resize(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols));
     std::erase_if(m_fasce, [this](const auto& row) { return row.first >= m_rows; });
-    m_row = std::min(m_row, m_rows - 1);
-    if (m_sceltaRow >= m_rows) {
-        m_sceltaRow = m_sceltaCol = Nessuna;
+    m_corrente.riga = std::min(m_corrente.riga, m_rows - 1);
+    if (m_scelta.riga >= m_rows) {
+        m_scelta = {Nessuna, Nessuna};
     }
     m_dirty.include(m_fixedRows, 0);
     m_dirty.include(m_rows - 1, m_cols - 1);
@@ -55,13 +55,17 @@ void Griglia::setCols(int cols) {
     m_fasce.clear();
     m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
     m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
-    m_col = std::min(m_col, m_cols - 1);
+    m_corrente.colonna = std::min(m_corrente.colonna, m_cols - 1);
 }
 
-void Griglia::setCurrent(int row, int col) {
-    index(row, col);
-    m_row = row;
-    m_col = col;
+void Griglia::setCurrent(Casella casella) {
+    index(casella.riga, casella.colonna);
+    m_corrente = casella;
+}
+
+bool Griglia::isDataCell(Casella casella) const {
+    return casella.riga >= m_fixedRows && casella.riga < m_rows && casella.colonna >= FixedCols() &&
+           casella.colonna < m_cols;
 }
 
 template <typename Change>
@@ -126,19 +130,18 @@ void Griglia::evidenzia(int riga) {
     }
 }
 
-void Griglia::scegli(int row, int col) {
+void Griglia::scegli(Casella casella) {
     const LockWindowUpdate lock(*this);
-    index(row, col);
+    index(casella.riga, casella.colonna);
     scegliNessuna();
-    m_sceltaRow = row;
-    m_sceltaCol = col;
-    m_dirty.include(row, col);
+    m_scelta = casella;
+    m_dirty.include(casella.riga, casella.colonna);
 }
 
 void Griglia::scegliNessuna() {
-    if (m_sceltaRow >= 0) {
-        m_dirty.include(m_sceltaRow, m_sceltaCol);
-        m_sceltaRow = m_sceltaCol = Nessuna;
+    if (m_scelta.riga >= 0) {
+        m_dirty.include(m_scelta.riga, m_scelta.colonna);
+        m_scelta = {Nessuna, Nessuna};
         notify();
     }
 }
@@ -173,11 +176,12 @@ int Griglia::ColWidth(int col) const {
     return m_colWidths[static_cast<std::size_t>(col)];
 }
 
-Aspetto Griglia::aspetto(int row, int col) const {
+Aspetto Griglia::aspetto(Casella casella) const {
+    const auto [row, col] = casella;
     const bool fixed = row < m_fixedRows || col < FixedCols();
-    return planner::aspetto(cella(row, col), {fixed ? Colore::intestazione : m_sfondoBase,
-                                              row == m_evidenziata && col >= FixedCols(),
-                                              row == m_sceltaRow && col == m_sceltaCol});
+    return planner::aspetto(cella(casella),
+                            {fixed ? Colore::intestazione : m_sfondoBase,
+                             row == m_evidenziata && col >= FixedCols(), casella == m_scelta});
 }
 
 void Griglia::setRowHeight(int row, int twips) {

@@ -26,6 +26,13 @@ struct FasciaImpegno {
     friend bool operator==(const FasciaImpegno&, const FasciaImpegno&) = default;
 };
 
+/// A place of a grid; column 0 is the name, as everywhere.
+struct Casella {
+    int riga = 0, colonna = 0;
+
+    friend bool operator==(const Casella&, const Casella&) = default;
+};
+
 /// A rectangle of cells, bounds included; empty at first.
 struct AreaCelle {
     int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
@@ -45,7 +52,9 @@ public:
 };
 
 /// The contents of a grid as plain data: cells, fixed rows and columns, row heights and column widths in
-/// twips, and a current cell. Every access to a cell outside the grid throws SubscriptError.
+/// twips, and a current cell. Every access to a cell outside the grid throws SubscriptError. What fills write
+/// in their loops over rows and columns takes the two apart; a place that is kept or handed on is a
+/// `Casella`.
 class Griglia {
 public:
     /// A grid as it stands before any data; `sfondoBase` is what its uncoloured data cells look like.
@@ -61,12 +70,17 @@ public:
     /// Changes the number of columns; every cell becomes new and empty when it differs.
     void setCols(int cols);
 
-    int Row() const { return m_row; }
-    int Col() const { return m_col; }
-    void setCurrent(int row, int col);
+    Casella corrente() const { return m_corrente; }
+    int Row() const { return m_corrente.riga; }
+    int Col() const { return m_corrente.colonna; }
+    void setCurrent(Casella casella);
+    /// True for a cell beside the fixed rows and columns; any place may be asked for.
+    bool isDataCell(Casella casella) const;
 
     const Cella& cella(int row, int col) const { return m_cells[index(row, col)]; }
+    const Cella& cella(Casella c) const { return cella(c.riga, c.colonna); }
     std::string_view TextMatrix(int row, int col) const { return m_texts[cella(row, col).testo]; }
+    std::string_view TextMatrix(Casella c) const { return TextMatrix(c.riga, c.colonna); }
     void setText(int row, int col, std::string_view text);
     /// Makes the cell one of the role with the text, of no holiday and not marked.
     void setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana = false);
@@ -87,7 +101,7 @@ public:
     /// The highlighted row, negative for none.
     int RigaEvidenziata() const { return m_evidenziata; }
     /// Makes the cell the selected one, until another is or its row is dropped.
-    void scegli(int row, int col);
+    void scegli(Casella casella);
     void scegliNessuna();
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
@@ -95,9 +109,9 @@ public:
     void setFasce(int row, std::vector<FasciaImpegno> fasce);
 
     /// The colours that the cell shows, and those of them that have a name.
-    Aspetto aspetto(int row, int col) const;
-    Colore CellForeColor(int row, int col) const { return aspetto(row, col).colore; }
-    Colore CellBackColor(int row, int col) const { return aspetto(row, col).sfondo; }
+    Aspetto aspetto(Casella casella) const;
+    Colore CellForeColor(int row, int col) const { return aspetto({row, col}).colore; }
+    Colore CellBackColor(int row, int col) const { return aspetto({row, col}).sfondo; }
 
     /// Twips; data rows are equally high. All but `setDataRowHeight` throw SubscriptError outside the grid.
     int RowHeight(int row) const;
@@ -132,9 +146,9 @@ private:
 
     int m_rows, m_cols, m_fixedRows;
     Colore m_sfondoBase;
-    int m_row = 0, m_col = 0;
+    Casella m_corrente;
     int m_evidenziata = Nessuna; // row
-    int m_sceltaRow = Nessuna, m_sceltaCol = Nessuna;
+    Casella m_scelta{Nessuna, Nessuna};
     std::vector<Cella> m_cells;
     std::vector<int> m_rowHeights; // of the fixed rows, and at last of every data row
     std::vector<int> m_colWidths;

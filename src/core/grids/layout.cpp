@@ -12,13 +12,12 @@ void writeWeekdayLetters(Griglia& griglia) {
     }
 }
 
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Ruolo ruolo) {
-    int row = firstRow;
-    for (int i = 0; i < archivi.NumCollab; ++i, ++row) {
-        griglia.setCaption(row, 0, ruolo,
+void writeStaffCaptions(Griglia& griglia, const Archivi& archivi, Ruolo ruolo) {
+    for (int i = 0; i < archivi.NumCollab; ++i) {
+        griglia.setCaption(rigaCollaboratore(griglia, {i}), 0, ruolo,
                            archivi.Collaboratori.at(static_cast<std::size_t>(i)).nome.trimmedRight());
     }
-    griglia.setCaption(row, 0, ruolo, NonAssegnate);
+    griglia.setCaption(rigaCollaboratore(griglia, {archivi.NumCollab}), 0, ruolo, NonAssegnate);
 }
 
 bool CheckGiornoFestivo(Griglia& griglia, int row, int col, int giorno, int mese) {

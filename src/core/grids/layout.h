@@ -5,6 +5,7 @@
 #include "archive/tables.h"
 #include "grids/griglia.h"
 #include "session/calendar_rules.h"
+#include "session/staff.h"
 
 #include <array>
 #include <string>
@@ -43,9 +44,18 @@ constexpr int righeGiornaliera(int numCollab) {
 /// Writes the weekday letters into row 0.
 void writeWeekdayLetters(Griglia& griglia);
 
-/// Writes the staff names into column 0 from `firstRow` down, in table order, and below them the row for
+/// The row of a staff member in the monthly or daily grid, and whom a row stands for: a row below the staff
+/// gives an index beyond the table, one above it none.
+inline int rigaCollaboratore(const Griglia& griglia, IndiceCollaboratore indice) {
+    return griglia.FixedRows() + indice.valore;
+}
+inline IndiceCollaboratore indiceDiRiga(const Griglia& griglia, int riga) {
+    return {riga - griglia.FixedRows()};
+}
+
+/// Writes the staff names into column 0 of the data rows, in table order, and below them the row for
 /// appointments whose staff code matches nobody.
-void writeStaffCaptions(Griglia& griglia, int firstRow, const Archivi& archivi, Ruolo ruolo);
+void writeStaffCaptions(Griglia& griglia, const Archivi& archivi, Ruolo ruolo);
 
 /// Makes the cell a holiday's, which colours it pure red, and returns true when the day, counted from 0, of
 /// month 1 to 12 is one.

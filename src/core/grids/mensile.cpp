@@ -56,7 +56,7 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
     const Griglia::LockWindowUpdate lock(Flxm);
     Flxm.setCaption(0, 0, Ruolo::periodo, nomeMese(calendario.Month()));
     Flxm.setCaption(1, 0, Ruolo::periodo, std::to_string(calendario.Year()));
-    writeStaffCaptions(Flxm, PrimaRigaMensile, sessione.archivi, Ruolo::nomeMensile);
+    writeStaffCaptions(Flxm, sessione.archivi, Ruolo::nomeMensile);
     setDataRowHeights(Flxm, dettagliato);
 
     sessione.TotaliImpegni = TabellaTotali(sessione.archivi.NumRighe);
@@ -69,11 +69,11 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
         const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
         sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
         if (impegno.immagine != 0) {
-            Flxm.setCellPicture(impegno.indice + PrimaRigaMensile, firstDay + dayOf(impegno.data) - 1,
+            Flxm.setCellPicture(rigaCollaboratore(Flxm, impegno.indice), firstDay + dayOf(impegno.data) - 1,
                                 impegno.immagine, impegno.tipi);
         }
     });
-    Flxm.setCurrent(PrimaRigaMensile, 1);
+    Flxm.setCurrent({PrimaRigaMensile, 1});
     return esito;
 }
 

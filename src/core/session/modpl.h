@@ -55,10 +55,10 @@ struct modpl {
     IndiceCodici indiceCodici;
     TabellaTotali TotaliImpegni;
 
-    std::int16_t IndiceCollab = -1;    // selected staff member, negative for none
-    std::int16_t IndiceRichiesto = -1; // the one that the request names, negative for none
-    std::int16_t LivelloDettaglio = 4; // 4 detailed, 1 not
-    bool CalendarioAttivo = false;     // moves in the yearly grid may move the calendar
+    IndiceCollaboratore IndiceCollab;    // selected staff member
+    IndiceCollaboratore IndiceRichiesto; // the one that the request names
+    std::int16_t LivelloDettaglio = 4;   // 4 detailed, 1 not
+    bool CalendarioAttivo = false;       // moves in the yearly grid may move the calendar
 
     /// True when the last character of the answer is `azione`.
     bool risposta(char azione) const { return !valret.empty() && valret.back() == azione; }

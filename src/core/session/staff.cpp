@@ -20,6 +20,12 @@ std::size_t slotOf(std::string_view trimmed) {
 
 } // namespace
 
+const Collaboratore* trovaCollaboratore(std::span<const Collaboratore> collaboratori,
+                                        IndiceCollaboratore indice) {
+    const auto at = static_cast<std::size_t>(indice.valore);
+    return indice.presente() && at < collaboratori.size() ? &collaboratori[at] : nullptr;
+}
+
 IndiceCodici::IndiceCodici() : m_indici(CodeCount, -1) {}
 
 IndiceCodici::IndiceCodici(std::span<const Collaboratore> collaboratori) : IndiceCodici() {
@@ -31,21 +37,20 @@ IndiceCodici::IndiceCodici(std::span<const Collaboratore> collaboratori) : Indic
     m_ultimo = static_cast<std::int16_t>(count > 0 ? count - 1 : 0);
 }
 
-std::int16_t IndiceCodici::trova(std::string_view codice) const {
+IndiceCollaboratore IndiceCodici::trova(std::string_view codice) const {
     const std::string_view trimmed = trim(codice);
-    return trimmed.size() > 2 ? std::int16_t{-1} : m_indici[slotOf(trimmed)];
+    return {trimmed.size() > 2 ? -1 : m_indici[slotOf(trimmed)]};
 }
 
-std::int16_t IndiceCodici::IndCollaboratore(std::string_view codice) const {
-    const std::int16_t found = trova(codice);
-    return found < 0 ? m_ultimo : found;
+IndiceCollaboratore IndiceCodici::IndCollaboratore(std::string_view codice) const {
+    const IndiceCollaboratore found = trova(codice);
+    return found.presente() ? found : IndiceCollaboratore{m_ultimo};
 }
 
 std::string EstraiCollaboratore(std::span<const Collaboratore> collaboratori, const IndiceCodici& indice,
                                 std::string_view codice) {
-    const std::int16_t found = indice.trova(codice);
-    const bool known = found >= 0 && static_cast<std::size_t>(found) < collaboratori.size();
-    return known ? std::string(collaboratori[static_cast<std::size_t>(found)].nome.trimmedRight()) : "  ";
+    const Collaboratore* found = trovaCollaboratore(collaboratori, indice.trova(codice));
+    return found != nullptr ? std::string(found->nome.trimmedRight()) : "  ";
 }
 
 } // namespace planner

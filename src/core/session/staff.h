@@ -12,6 +12,19 @@
 
 namespace planner {
 
+/// An index into the staff table, or none. No row of a grid: `grids/layout.h` leads from one to the other.
+/// other.
+struct IndiceCollaboratore {
+    int valore = -1; // negative for none
+
+    constexpr bool presente() const { return valore >= 0; }
+    friend bool operator==(const IndiceCollaboratore&, const IndiceCollaboratore&) = default;
+};
+
+/// The table's entry; null outside the table.
+const Collaboratore* trovaCollaboratore(std::span<const Collaboratore> collaboratori,
+                                        IndiceCollaboratore indice);
+
 /// Finds staff members by code in constant time, however many there are.
 class IndiceCodici {
 public:
@@ -22,10 +35,10 @@ public:
 
     /// The index of the first staff member whose code equals `codice`, blanks around both left aside;
     /// the table's last index when there is none, so that an unknown code looks like the last element.
-    std::int16_t IndCollaboratore(std::string_view codice) const;
+    IndiceCollaboratore IndCollaboratore(std::string_view codice) const;
 
-    /// The same, but -1 when there is none.
-    std::int16_t trova(std::string_view codice) const;
+    /// The same, but none when there is none.
+    IndiceCollaboratore trova(std::string_view codice) const;
 
 private:
     std::vector<std::int16_t> m_indici; // by the two bytes of the trimmed code; -1 for none

@@ -22,11 +22,11 @@ double somma(const ValoriContatori& valori, Totale totale) {
 
 TabellaTotali::TabellaTotali(std::int16_t upperBound) : m_righe(static_cast<std::size_t>(upperBound) + 1) {}
 
-void TabellaTotali::aggiungi(int indice, const ValoriContatori& valori) {
+void TabellaTotali::aggiungi(IndiceCollaboratore indice, const ValoriContatori& valori) {
     if (!contiene(indice)) {
         return; // the table is sized by the records, not by the staff
     }
-    Riga& totals = m_righe[static_cast<std::size_t>(indice)];
+    Riga& totals = m_righe[static_cast<std::size_t>(indice.valore)];
     Riga sums = totals;
     for (std::size_t i = 0; i < sums.size(); ++i) {
         const auto& [first, second] = CategorieTotali[i].contatori;
@@ -35,14 +35,14 @@ void TabellaTotali::aggiungi(int indice, const ValoriContatori& valori) {
     totals = sums;
 }
 
-std::int16_t TabellaTotali::at(int indice, int categoria) const {
+std::int16_t TabellaTotali::at(IndiceCollaboratore indice, int categoria) const {
     if (categoria < 0 || static_cast<std::size_t>(categoria) >= CategorieTotali.size()) {
         throw SubscriptError();
     }
     if (!contiene(indice)) {
         return 0;
     }
-    return m_righe[static_cast<std::size_t>(indice)][static_cast<std::size_t>(categoria)];
+    return m_righe[static_cast<std::size_t>(indice.valore)][static_cast<std::size_t>(categoria)];
 }
 
 } // namespace planner

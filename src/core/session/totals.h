@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/records.h"
+#include "session/staff.h"
 
 #include <array>
 #include <cstdint>
@@ -48,7 +49,7 @@ ValoriContatori valoriContatori(const RigaPlanner& riga);
 /// The counters of the total added up.
 double somma(const ValoriContatori& valori, Totale totale);
 
-/// Totals per index and category, 16-bit numbers.
+/// Totals per staff index and category, 16-bit numbers.
 class TabellaTotali {
 public:
     using Riga = std::array<std::int16_t, CategorieTotali.size()>;
@@ -58,14 +59,18 @@ public:
 
     /// Adds all of a record's counters to the totals of `indice`, or none: throws OverflowError when a total
     /// leaves 16 bits. For an index beyond the table nothing is added.
-    void aggiungi(int indice, const ValoriContatori& valori);
+    void aggiungi(IndiceCollaboratore indice, const ValoriContatori& valori);
 
     /// True for an index that the table has totals for.
-    bool contiene(int indice) const { return indice >= 0 && indice <= upperBound(); }
+    bool contiene(IndiceCollaboratore indice) const {
+        return indice.presente() && indice.valore <= upperBound();
+    }
 
     /// 0 for an index beyond the table. Throws SubscriptError for a category that is none.
-    std::int16_t at(int indice, int categoria) const;
-    std::int16_t at(int indice, Totale totale) const { return at(indice, static_cast<int>(totale)); }
+    std::int16_t at(IndiceCollaboratore indice, int categoria) const;
+    std::int16_t at(IndiceCollaboratore indice, Totale totale) const {
+        return at(indice, static_cast<int>(totale));
+    }
 
     int upperBound() const { return static_cast<int>(m_righe.size()) - 1; }
     const std::vector<Riga>& righe() const { return m_righe; }

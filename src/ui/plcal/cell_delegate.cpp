@@ -15,8 +15,7 @@ CellDelegate::CellDelegate(const GridModel& model, CellPainter& painter, QObject
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     painter->save();
-    m_painter.paint(*painter, option.rect, m_model.griglia(), m_model.gridRow(index.row()),
-                    GridModel::gridCol(index.column()));
+    m_painter.paint(*painter, option.rect, m_model.griglia(), m_model.casella(index));
     if (option.state & QStyle::State_HasFocus) {
         constexpr int frame = 2;
         painter->setPen(QPen(qtColor(Colore::navy), frame));

@@ -78,22 +78,22 @@ void CellPainter::setFontFactor(double fontFactor) {
     }
 }
 
-void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                         int keptFree) {
-    const Cella& cella = griglia.cella(row, col);
-    const Aspetto aspetto = griglia.aspetto(row, col);
+    const Cella& cella = griglia.cella(casella);
+    const Aspetto aspetto = griglia.aspetto(casella);
     painter.fillRect(rect, qtColor(aspetto.fondo));
-    paintLines(painter, rect, griglia, row, col);
-    for (const FasciaImpegno& fascia : griglia.fasce(row)) {
-        if (fascia.copre(col)) {
-            paintBar(painter, laneOf(rect, fascia), fascia, col, aspetto.barra);
+    paintLines(painter, rect, griglia, casella);
+    for (const FasciaImpegno& fascia : griglia.fasce(casella.riga)) {
+        if (fascia.copre(casella.colonna)) {
+            paintBar(painter, laneOf(rect, fascia), fascia, casella.colonna, aspetto.barra);
         }
     }
     if (cella.immagine != 0 && !cella.impegno) { // a bar has its own
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
-        paintText(painter, textPlace(rect, cella, keptFree), griglia, row, col);
+        paintText(painter, textPlace(rect, cella, keptFree), griglia, casella);
     }
     if (cella.oggi) {
         paintToday(painter, rect);
@@ -124,21 +124,21 @@ QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree
     return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
 
-FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, int row, int col) const {
-    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(stile(griglia.cella(row, col)).carattere));
-    return font.fit(fromCp1252(griglia.TextMatrix(row, col)), place.width());
+FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
+    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(stile(griglia.cella(casella)).carattere));
+    return font.fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
 }
 
-bool CellPainter::cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree) const {
-    const QRect place = textPlace(rect, griglia.cella(row, col), keptFree);
-    return fittedText(place, griglia, row, col).cut;
+bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
+    const QRect place = textPlace(rect, griglia.cella(casella), keptFree);
+    return fittedText(place, griglia, casella).cut;
 }
 
-void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col) {
-    const Cella& cella = griglia.cella(row, col);
-    const FittedText fitted = fittedText(place, griglia, row, col);
+void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia& griglia, Casella casella) {
+    const Cella& cella = griglia.cella(casella);
+    const FittedText fitted = fittedText(place, griglia, casella);
     painter.setFont(fitted.font);
-    painter.setPen(qtColor(griglia.CellForeColor(row, col)));
+    painter.setPen(qtColor(griglia.aspetto(casella).colore));
     painter.drawText(place,
                      static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
                                       (centred(cella) ? Qt::AlignHCenter : Qt::AlignLeft)),
@@ -184,9 +184,11 @@ void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
     painter.drawRect(rect.adjusted(1, 1, -frame, -frame));
 }
 
-void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col) {
-    painter.fillRect(bottomLine(rect), QColor(row < griglia.FixedRows() ? StrongLineColor : LineColor));
-    painter.fillRect(rightLine(rect), QColor(endsGroup(griglia, col) ? StrongLineColor : LineColor));
+void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
+    painter.fillRect(bottomLine(rect),
+                     QColor(casella.riga < griglia.FixedRows() ? StrongLineColor : LineColor));
+    painter.fillRect(rightLine(rect),
+                     QColor(endsGroup(griglia, casella.colonna) ? StrongLineColor : LineColor));
 }
 
 } // namespace planner

@@ -24,23 +24,23 @@ public:
     void setFontFactor(double fontFactor);
 
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
-    void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col,
+    void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
     /// True when the cell's text is not shown whole in the place.
-    bool cut(const QRect& rect, const Griglia& griglia, int row, int col, int keptFree = 0) const;
+    bool cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree = 0) const;
 
 private:
     int sideBesideText(const QRect& rect) const;
     /// Where a cell's text stands: beside its picture, and between what stands at either side.
     QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
-    FittedText fittedText(const QRect& place, const Griglia& griglia, int row, int col) const;
+    FittedText fittedText(const QRect& place, const Griglia& griglia, Casella casella) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
-    void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, int row, int col);
+    void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, Casella casella);
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
     void paintToday(QPainter& painter, const QRect& rect);
-    void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, int row, int col);
+    void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
 
     std::array<FittingFont, Caratteri.size()> m_fonts;
     Pictures m_pictures;

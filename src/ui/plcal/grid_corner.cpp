@@ -114,7 +114,7 @@ int GridCorner::roomForButtons(int row) const {
 QString GridCorner::toolTipAt(const QPoint& position) const {
     for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
         if (cellOf(row).contains(position) &&
-            m_painter.cut(cellOf(row), m_griglia, row, 0, roomForButtons(row))) {
+            m_painter.cut(cellOf(row), m_griglia, {row, 0}, roomForButtons(row))) {
             return fromCp1252(m_griglia.TextMatrix(row, 0));
         }
     }
@@ -129,7 +129,7 @@ bool GridCorner::event(QEvent* event) {
 void GridCorner::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     for (int row = 0; row < static_cast<int>(m_heights.size()); ++row) {
-        m_painter.paint(painter, cellOf(row), m_griglia, row, 0, roomForButtons(row));
+        m_painter.paint(painter, cellOf(row), m_griglia, {row, 0}, roomForButtons(row));
     }
 }
 

@@ -72,20 +72,21 @@ QString GridHeader::toolTipAt(const QPoint& position) const {
     }
     const QRect place(0, sectionViewportPosition(section), width(), sectionSize(section));
     const int row = m_model.gridRow(section);
-    return m_painter.cut(place, m_model.griglia(), row, 0) ? fromCp1252(m_model.griglia().TextMatrix(row, 0))
-                                                           : QString();
+    return m_painter.cut(place, m_model.griglia(), {row, 0})
+               ? fromCp1252(m_model.griglia().TextMatrix(row, 0))
+               : QString();
 }
 
 void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
     painter->save();
     if (orientation() == Qt::Vertical) {
-        m_painter.paint(*painter, rect, m_model.griglia(), m_model.gridRow(logicalIndex), 0);
+        m_painter.paint(*painter, rect, m_model.griglia(), {m_model.gridRow(logicalIndex), 0});
     } else {
         int top = rect.top();
         for (int row = 0; row < static_cast<int>(m_sizes.size()); ++row) {
             const int height = m_sizes[static_cast<std::size_t>(row)];
-            m_painter.paint(*painter, QRect(rect.left(), top, rect.width(), height), m_model.griglia(), row,
-                            GridModel::gridCol(logicalIndex));
+            m_painter.paint(*painter, QRect(rect.left(), top, rect.width(), height), m_model.griglia(),
+                            {row, GridModel::gridCol(logicalIndex)});
             top += height;
         }
     }

@@ -44,22 +44,22 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    return orNothing([&] { return cellData(gridRow(index.row()), gridCol(index.column()), role); });
+    return orNothing([&] { return cellData(casella(index), role); });
 }
 
-QVariant GridModel::cellData(int row, int col, int role) const {
+QVariant GridModel::cellData(Casella casella, int role) const {
     switch (role) {
     case Qt::DisplayRole:
-        return fromCp1252(m_griglia.TextMatrix(row, col));
+        return fromCp1252(m_griglia.TextMatrix(casella));
     case Qt::ForegroundRole:
-        return qtColor(m_griglia.CellForeColor(row, col));
+        return qtColor(m_griglia.aspetto(casella).colore);
     case Qt::BackgroundRole:
-        return qtColor(m_griglia.CellBackColor(row, col));
+        return qtColor(m_griglia.aspetto(casella).sfondo);
     case Qt::AccessibleTextRole:
     case Qt::StatusTipRole:
-        return fromUtf8(m_frase(row, col));
+        return fromUtf8(m_frase(casella));
     case Qt::ToolTipRole:
-        return plainToolTip(fromUtf8(m_frase(row, col)));
+        return plainToolTip(fromUtf8(m_frase(casella)));
     default:
         return {};
     }
@@ -80,7 +80,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 
 QVariant GridModel::rowData(int row, int role) const {
     return role == Qt::DisplayRole          ? fromCp1252(m_griglia.TextMatrix(row, 0))
-           : role == Qt::AccessibleTextRole ? fromUtf8(m_frase(row, 0))
+           : role == Qt::AccessibleTextRole ? fromUtf8(m_frase({row, 0}))
                                             : QVariant();
 }
 

@@ -17,7 +17,7 @@ class GridModel : public QAbstractTableModel, public OsservatoreGriglia {
 public:
     /// One sentence on a cell, in the grid's own rows and columns, column 0 included; UTF-8. What it throws
     /// goes no further than the model.
-    using Frase = std::function<std::string(int riga, int colonna)>;
+    using Frase = std::function<std::string(Casella)>;
 
     /// Watches the grid until it goes; the grid must live longer.
     GridModel(Griglia& griglia, Frase frase, QObject* parent = nullptr);
@@ -34,6 +34,9 @@ public:
 
     const Griglia& griglia() const { return m_griglia; }
     /// The grid's own coordinates of a data cell.
+    Casella casella(const QModelIndex& index) const {
+        return {gridRow(index.row()), gridCol(index.column())};
+    }
     int gridRow(int modelRow) const { return modelRow + m_griglia.FixedRows(); }
     static int gridCol(int modelColumn) { return modelColumn + Griglia::FixedCols(); }
 
@@ -44,7 +47,7 @@ Q_SIGNALS:
     void headersChanged();
 
 private:
-    QVariant cellData(int row, int col, int role) const;
+    QVariant cellData(Casella casella, int role) const;
     QVariant rowData(int row, int role) const;
     QString columnTitle(int col) const;
 

@@ -30,7 +30,7 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 } // namespace
 
 GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-                   std::function<std::string(int, int)> frase, QWidget* parent)
+                   std::function<std::string(Casella)> frase, QWidget* parent)
     : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, std::move(frase), this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
@@ -53,7 +53,7 @@ void GridView::connectEvents() {
     });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
-        Q_EMIT gesture({m_model->gridRow(row), 0, mezzo});
+        Q_EMIT gesture({{m_model->gridRow(row), 0}, mezzo});
     });
     if (effettoGesto(m_tipo, Luogo::nome) != nullptr) {
         connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
@@ -63,7 +63,7 @@ void GridView::connectEvents() {
 
 void GridView::announce(const QModelIndex& index, Mezzo mezzo) {
     if (index.isValid()) {
-        Q_EMIT gesture({m_model->gridRow(index.row()), GridModel::gridCol(index.column()), mezzo});
+        Q_EMIT gesture({m_model->casella(index), mezzo});
     }
 }
 

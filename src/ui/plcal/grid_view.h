@@ -22,7 +22,7 @@ class GridView : public QTableView {
 public:
     /// `frase` gives a sentence on a cell.
     GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-             std::function<std::string(int riga, int colonna)> frase, QWidget* parent);
+             std::function<std::string(Casella)> frase, QWidget* parent);
 
     const Griglia& griglia() const;
 

@@ -44,9 +44,9 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
 }
 
 GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view name, std::string_view spoken) {
-    const auto frase = [this, tipo](int riga, int colonna) {
-        return colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, riga)
-                                              : fraseCella(m_controlli, m_sessione, tipo, riga, colonna);
+    const auto frase = [this, tipo](Casella casella) {
+        return casella.colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, casella.riga)
+                                                      : fraseCella(m_controlli, m_sessione, tipo, casella);
     };
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
     grid->setObjectName(fromUtf8(name));

@@ -118,7 +118,7 @@ TEST_F(ArchivesTest, LeggiDatiAnnualiWithoutYearShowsItsMessage) {
 TEST_F(ArchivesTest, LeggiCollabReadsTheStaffAndReturnsTrue) {
     EXPECT_TRUE(bench.motore.LeggiCollab());
     EXPECT_EQ(archivi().NumCollab, 3);
-    EXPECT_EQ(bench.motore.IndCollaboratore("RB"), 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("RB").valore, 1);
 }
 
 TEST_F(ArchivesTest, LeggiCollabReturnsFalseWithoutAMessage) {

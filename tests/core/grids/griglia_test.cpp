@@ -64,7 +64,7 @@ TEST_F(GrigliaTest, ACellOutsideIsASubscriptError) {
         EXPECT_THROW(griglia.TextMatrix(row, column), SubscriptError);
         EXPECT_THROW(griglia.setText(row, column, "x"), SubscriptError);
         EXPECT_THROW(griglia.setCellPicture(row, column, 1), SubscriptError);
-        EXPECT_THROW(griglia.setCurrent(row, column), SubscriptError);
+        EXPECT_THROW(griglia.setCurrent({row, column}), SubscriptError);
     }
     EXPECT_THROW(griglia.RowHeight(4), SubscriptError);
     EXPECT_THROW(griglia.ColWidth(3), SubscriptError);
@@ -101,7 +101,7 @@ TEST_F(GrigliaTest, AnotherNumberOfColumnsEmptiesTheGridAndTheSameNumberDoesNot)
 }
 
 TEST_F(GrigliaTest, TheCurrentCellStaysInsideAShrinkingGrid) {
-    griglia.setCurrent(3, 2);
+    griglia.setCurrent({3, 2});
     griglia.setRows(2);
     EXPECT_EQ(griglia.Row(), 1);
     griglia.setCols(2);
@@ -112,24 +112,24 @@ TEST_F(GrigliaTest, UncolouredCellsLookLikeTheirPartOfTheGrid) {
     EXPECT_EQ(griglia.CellBackColor(0, 1), Colore::intestazione);
     EXPECT_EQ(griglia.CellBackColor(1, 0), Colore::intestazione);
     EXPECT_EQ(griglia.CellBackColor(1, 1), Colore::gialloChiaro);
-    griglia.scegli(1, 1);
+    griglia.scegli({1, 1});
     EXPECT_EQ(griglia.CellBackColor(1, 1), Colore::ciano);
 }
 
 TEST_F(GrigliaTest, AnAppointmentColoursTheCellAndNotTheGroundAroundItsBar) {
     griglia.addCellEntry(1, 1, 0);
-    EXPECT_EQ(griglia.aspetto(1, 1).sfondo, Colore::azzurro);
-    EXPECT_EQ(griglia.aspetto(1, 1).fondo, Colore::gialloChiaro);
+    EXPECT_EQ(griglia.aspetto({1, 1}).sfondo, Colore::azzurro);
+    EXPECT_EQ(griglia.aspetto({1, 1}).fondo, Colore::gialloChiaro);
     griglia.evidenzia(1);
-    EXPECT_EQ(griglia.aspetto(1, 1).fondo, Colore::giallo);
-    EXPECT_EQ(griglia.aspetto(1, 1).barra, Colore::azzurro);
-    griglia.scegli(1, 1);
-    EXPECT_EQ(griglia.aspetto(1, 1).barra, Colore::ciano);
+    EXPECT_EQ(griglia.aspetto({1, 1}).fondo, Colore::giallo);
+    EXPECT_EQ(griglia.aspetto({1, 1}).barra, Colore::azzurro);
+    griglia.scegli({1, 1});
+    EXPECT_EQ(griglia.aspetto({1, 1}).barra, Colore::ciano);
 }
 
 TEST_F(GrigliaTest, AnotherHighlightedRowLeavesNoCellSelectedAndNamesAsTheyAre) {
     griglia.evidenzia(1);
-    griglia.scegli(1, 2);
+    griglia.scegli({1, 2});
     griglia.evidenzia(2);
     EXPECT_EQ(griglia.RigaEvidenziata(), 2);
     EXPECT_EQ(griglia.CellBackColor(1, 2), Colore::gialloChiaro);
@@ -139,7 +139,7 @@ TEST_F(GrigliaTest, AnotherHighlightedRowLeavesNoCellSelectedAndNamesAsTheyAre) 
 
 TEST_F(GrigliaTest, TheHighlightStaysWhenRowsAreMadeAnewAndTheSelectedCellDoesNot) {
     griglia.evidenzia(2);
-    griglia.scegli(2, 1);
+    griglia.scegli({2, 1});
     griglia.setRows(1);
     griglia.setRows(4);
     EXPECT_EQ(griglia.CellBackColor(2, 1), Colore::giallo);
@@ -187,7 +187,7 @@ TEST_F(GrigliaObserverTest, IsToldNothingOfWhatChangedBeforeItCame) {
 TEST_F(GrigliaObserverTest, IsToldNothingWhenNothingChangedUnderALock) {
     {
         const Griglia::LockWindowUpdate lock(griglia);
-        griglia.setCurrent(1, 1);
+        griglia.setCurrent({1, 1});
     }
     EXPECT_THAT(observer.told, IsEmpty());
 }

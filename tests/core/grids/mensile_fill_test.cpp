@@ -17,7 +17,7 @@ protected:
         bench.init("M", giorno);
     }
     int picture(int row, int column) const { return Flxm.cella(row, column).immagine; }
-    int total(int index, int category) const { return bench.sessione.TotaliImpegni.at(index, category); }
+    int total(int index, int category) const { return bench.sessione.TotaliImpegni.at({index}, category); }
 
     PlannerBench bench;
     const Griglia& Flxm = bench.controlli.Flxm;

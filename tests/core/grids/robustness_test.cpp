@@ -59,7 +59,7 @@ protected:
             forEveryByte(middle, place, [&](const std::string& record) {
                 ASSERT_NO_THROW(fillWith(record, griglia, fill));
                 ASSERT_EQ(sessione.archivi.NumRighe, 3);
-                const int own = sessione.indiceCodici.IndCollaboratore(record.substr(0, 2));
+                const int own = sessione.indiceCodici.IndCollaboratore(record.substr(0, 2)).valore;
                 for (int index = 0; index <= 3; ++index) {
                     const auto at = static_cast<std::size_t>(index);
                     if (index != own) {
@@ -143,7 +143,8 @@ TEST(CollaboratoreRobustnessTest, EveryCodeOfTwoBytesIsFoundAgain) {
         }
         const IndiceCodici index(staff);
         for (std::size_t i = 0; i < staff.size(); ++i) {
-            const auto found = static_cast<std::size_t>(index.IndCollaboratore(staff[i].codice.view()));
+            const auto found =
+                static_cast<std::size_t>(index.IndCollaboratore(staff[i].codice.view()).valore);
             ASSERT_EQ(staff[found].codice.trimmed(), staff[i].codice.trimmed());
         }
     }

@@ -68,8 +68,8 @@ TEST(LayoutTest, CaptionsAreTheStaffInTableOrderAndTheUnassignedBelow) {
     archivi.Collaboratori[0].nome.assign("Verdi Ugo");
     archivi.Collaboratori[1].nome.assign("  Bianchi  Rosa");
     archivi.NumCollab = 3;
-    Griglia griglia(8, 2, 1, Colore::bianco);
-    writeStaffCaptions(griglia, 2, archivi, Ruolo::nomeMensile);
+    Griglia griglia(8, 2, 2, Colore::bianco);
+    writeStaffCaptions(griglia, archivi, Ruolo::nomeMensile);
     EXPECT_EQ(griglia.TextMatrix(1, 0), "");
     EXPECT_EQ(griglia.TextMatrix(2, 0), "Verdi Ugo");
     EXPECT_EQ(griglia.TextMatrix(3, 0), "  Bianchi  Rosa");

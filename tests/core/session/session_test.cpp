@@ -74,12 +74,12 @@ TEST_F(SessionTest, EachRequestResetsAnswerStaffMemberAndEnd) {
     sessione.valret = "20050101XXD";
     sessione.collab = "XX";
     sessione.FinePlanner = true;
-    sessione.IndiceCollab = 2;
+    sessione.IndiceCollab = {2};
     bench.eventi.actions.push_back([this] {
         EXPECT_EQ(sessione.valret, "");
         EXPECT_EQ(sessione.collab, "  ");
         EXPECT_FALSE(sessione.FinePlanner);
-        EXPECT_LT(sessione.IndiceCollab, 0);
+        EXPECT_FALSE(sessione.IndiceCollab.presente());
         bench.answers("20060315RBD", "RB")();
     });
     bench.serve(call);

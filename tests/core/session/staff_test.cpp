@@ -26,29 +26,29 @@ protected:
 };
 
 TEST_F(StaffTest, ACodeWithBlanksAroundItMatchesTheRecord) {
-    EXPECT_EQ(bench.motore.IndCollaboratore(" 7"), 1);
-    EXPECT_EQ(bench.motore.IndCollaboratore("7 "), 1);
-    EXPECT_EQ(bench.motore.IndCollaboratore("7"), 1);
-    EXPECT_EQ(bench.motore.IndCollaboratore("  7   "), 1);
-    EXPECT_EQ(bench.motore.IndCollaboratore("8 "), 2);
+    EXPECT_EQ(bench.motore.IndCollaboratore(" 7").valore, 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("7 ").valore, 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("7").valore, 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("  7   ").valore, 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("8 ").valore, 2);
     EXPECT_EQ(bench.motore.EstraiCollaboratore(" 7"), "Verdi Ugo");
 }
 
 TEST_F(StaffTest, AnUnknownCodeGivesTheLastIndexAndTwoBlanks) {
     for (const std::string_view codice : {"XX", "77", "BIX", "b", "bi", "\xFF\xFF"}) {
-        EXPECT_EQ(bench.motore.IndCollaboratore(codice), 4) << codice;
+        EXPECT_EQ(bench.motore.IndCollaboratore(codice).valore, 4) << codice;
         EXPECT_EQ(bench.motore.EstraiCollaboratore(codice), "  ") << codice;
     }
 }
 
 TEST_F(StaffTest, ABlankCodeIsTheBlankElementBeyondTheStaff) {
-    EXPECT_EQ(bench.motore.IndCollaboratore("  "), 4);
-    EXPECT_EQ(bench.motore.IndCollaboratore(""), 4);
+    EXPECT_EQ(bench.motore.IndCollaboratore("  ").valore, 4);
+    EXPECT_EQ(bench.motore.IndCollaboratore("").valore, 4);
     EXPECT_EQ(bench.motore.EstraiCollaboratore("  "), "");
 }
 
 TEST_F(StaffTest, OfEqualCodesTheFirstCounts) {
-    EXPECT_EQ(bench.motore.IndCollaboratore("BI"), 0);
+    EXPECT_EQ(bench.motore.IndCollaboratore("BI").valore, 0);
     EXPECT_EQ(bench.motore.EstraiCollaboratore("BI"), "Bianchi Rosa");
 }
 
@@ -62,13 +62,13 @@ TEST_F(StaffTest, ThePartialRecordAtTheFilesEndIsTheLastElement) {
     bench.put(FileCollaboratori, bytesOf(collaboratore("BI", "Bianchi Rosa")) + "RBRossi");
     bench.motore.LeggiCollab();
     EXPECT_EQ(bench.sessione.archivi.NumCollab, 1);
-    EXPECT_EQ(bench.motore.IndCollaboratore("RB"), 1);
+    EXPECT_EQ(bench.motore.IndCollaboratore("RB").valore, 1);
     EXPECT_EQ(bench.motore.EstraiCollaboratore("RB"), "Rossi");
 }
 
 TEST(IndiceCodiciTest, AnEmptyTableGivesItsFirstIndex) {
-    EXPECT_EQ(IndiceCodici().IndCollaboratore("RB"), 0);
-    EXPECT_EQ(IndiceCodici().trova("RB"), -1);
+    EXPECT_EQ(IndiceCodici().IndCollaboratore("RB").valore, 0);
+    EXPECT_EQ(IndiceCodici().trova("RB").valore, -1);
 }
 
 TEST(IndiceCodiciTest, FindsWhatAWalkThroughTheTableFinds) {
@@ -84,7 +84,7 @@ TEST(IndiceCodiciTest, FindsWhatAWalkThroughTheTableFinds) {
         const auto found = std::find_if(staff.begin(), staff.end(), [&](const Collaboratore& one) {
             return one.codice.trimmed() == wanted.codice.trimmed();
         });
-        EXPECT_EQ(index.IndCollaboratore(wanted.codice.view()), found - staff.begin());
+        EXPECT_EQ(index.IndCollaboratore(wanted.codice.view()).valore, found - staff.begin());
     }
 }
 
@@ -94,8 +94,8 @@ TEST(IndiceCodiciTest, ServesAsManyStaffMembersAs16BitsCount) {
         staff[i].codice.assign(std::string{static_cast<char>(i / 256 + 128), static_cast<char>(i % 256)});
     }
     const IndiceCodici index(staff);
-    EXPECT_EQ(index.IndCollaboratore(staff[32766].codice.view()), 32766);
-    EXPECT_EQ(index.IndCollaboratore("??"), 32767);
+    EXPECT_EQ(index.IndCollaboratore(staff[32766].codice.view()).valore, 32766);
+    EXPECT_EQ(index.IndCollaboratore("??").valore, 32767);
 }
 
 TEST(EvalImagedisplayTest, EachKeyHasItsPicture) {

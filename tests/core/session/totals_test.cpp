@@ -21,7 +21,7 @@ std::string_view chiaveTipi(const ValoriContatori& valori) {
 
 TabellaTotali::Riga totalsOf(const RigaPlanner& riga) {
     TabellaTotali totals(0);
-    totals.aggiungi(0, valoriContatori(riga));
+    totals.aggiungi({0}, valoriContatori(riga));
     return totals.righe().at(0);
 }
 
@@ -75,7 +75,7 @@ TEST(TotalsTest, ANewTableIsAllZeroWithIndicesUpToItsBound) {
     EXPECT_EQ(totals.upperBound(), 3);
     for (int index = 0; index <= 3; ++index) {
         for (int category = 0; category <= 6; ++category) {
-            EXPECT_EQ(totals.at(index, category), 0);
+            EXPECT_EQ(totals.at({index}, category), 0);
         }
     }
 }
@@ -84,29 +84,29 @@ TEST(TotalsTest, BeyondTheTableNothingIsAddedAndNothingStands) {
     TabellaTotali totals(1);
     const auto values = valoriContatori(riga("RB", "20060315", {{1, "00007"}}));
     for (const int index : {2, -1, 32767}) {
-        totals.aggiungi(index, values);
-        EXPECT_EQ(totals.at(index, 0), 0) << index;
-        EXPECT_FALSE(totals.contiene(index)) << index;
+        totals.aggiungi({index}, values);
+        EXPECT_EQ(totals.at({index}, 0), 0) << index;
+        EXPECT_FALSE(totals.contiene({index})) << index;
     }
     EXPECT_EQ(totals.righe(), TabellaTotali(1).righe());
-    EXPECT_TRUE(totals.contiene(1));
+    EXPECT_TRUE(totals.contiene({1}));
 }
 
 TEST(TotalsTest, ACategoryThatIsNoneIsASubscriptError) {
     const TabellaTotali totals(1);
-    EXPECT_THROW(totals.at(0, 7), SubscriptError);
-    EXPECT_THROW(totals.at(0, -1), SubscriptError);
+    EXPECT_THROW(totals.at({0}, 7), SubscriptError);
+    EXPECT_THROW(totals.at({0}, -1), SubscriptError);
 }
 
 TEST(TotalsTest, ARecordThatOverflowsOneTotalChangesNone) {
     TabellaTotali totals(0);
-    totals.aggiungi(0, valoriContatori(riga("RB", "20060315", {{1, "00005"}, {11, "32000"}})));
+    totals.aggiungi({0}, valoriContatori(riga("RB", "20060315", {{1, "00005"}, {11, "32000"}})));
     const auto before = totals.righe();
-    EXPECT_THROW(totals.aggiungi(0, valoriContatori(riga("RB", "20060315", {{1, "00001"}, {11, "00768"}}))),
+    EXPECT_THROW(totals.aggiungi({0}, valoriContatori(riga("RB", "20060315", {{1, "00001"}, {11, "00768"}}))),
                  OverflowError);
     EXPECT_EQ(totals.righe(), before);
-    totals.aggiungi(0, valoriContatori(riga("RB", "20060315", {{11, "00767"}})));
-    EXPECT_EQ(totals.at(0, 6), 32767);
+    totals.aggiungi({0}, valoriContatori(riga("RB", "20060315", {{11, "00767"}})));
+    EXPECT_EQ(totals.at({0}, 6), 32767);
 }
 
 TEST(TotalsTest, TheSumOfTwoCountersOverflowsToo) {

@@ -128,7 +128,7 @@ TEST_P(SampleLines, LastLineOfADayHoldsAllKindsOfThatDay) {
     std::map<std::string, std::set<char>> kindsOfDay;
     std::map<std::string, std::string> lastOfDay;
     for (const RigaPlanner& riga : m_archivio.righe) {
-        if (IndiceCodici(m_archivio.collaboratori).trova(riga.codice.view()) < 0) {
+        if (!IndiceCodici(m_archivio.collaboratori).trova(riga.codice.view()).presente()) {
             continue;
         }
         const std::string key = riga.codice.text() + formatDate(dayOfLine(riga));
@@ -145,7 +145,7 @@ TEST_P(SampleLines, AFewHaveACodeThatNobodyHas) {
     const IndiceCodici indice(m_archivio.collaboratori);
     const auto strangers =
         std::count_if(m_archivio.righe.begin(), m_archivio.righe.end(),
-                      [&](const RigaPlanner& riga) { return indice.trova(riga.codice.view()) < 0; });
+                      [&](const RigaPlanner& riga) { return !indice.trova(riga.codice.view()).presente(); });
     EXPECT_GE(strangers, 10);
     EXPECT_LE(strangers, 60);
 }
@@ -189,11 +189,12 @@ TEST(SampleLineCount, LeavesTheTotalsWithin16Bits) {
     TabellaTotali totali(12);
     for (const RigaPlanner& riga : archivio.righe) {
         if (riga.mese.view() == "06") {
-            const int indice = IndiceCodici(archivio.collaboratori).trova(riga.codice.view());
-            EXPECT_NO_THROW(totali.aggiungi(indice < 0 ? 12 : indice, valoriContatori(riga)));
+            const auto indice = IndiceCodici(archivio.collaboratori).trova(riga.codice.view());
+            EXPECT_NO_THROW(
+                totali.aggiungi(indice.presente() ? indice : IndiceCollaboratore{12}, valoriContatori(riga)));
         }
     }
-    EXPECT_GT(totali.at(0, 0), 0);
+    EXPECT_GT(totali.at({0}, 0), 0);
 }
 
 } // namespace planner::toolstest

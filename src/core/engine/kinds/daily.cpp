@@ -31,7 +31,7 @@ public:
     }
     bool mostraAnche(Data giorno, Data mostrata) const override { return giorno == mostrata; }
 
-    std::optional<Data> giornoCella(const Calendario& c, int, int) const override { return c.Value(); }
+    std::optional<Data> giornoCella(const Calendario& c, Casella) const override { return c.Value(); }
 };
 
 } // namespace

@@ -54,7 +54,7 @@ public:
 
     // The cells.
     /// The day that a data cell stands for; nothing for a cell that stands for none.
-    virtual std::optional<Data> giornoCella(const Calendario& calendario, int riga, int colonna) const = 0;
+    virtual std::optional<Data> giornoCella(const Calendario& calendario, Casella casella) const = 0;
     /// The column of the shown day; `colonna` where every column is of that day.
     int colonnaGiorno(const Calendario& calendario, int colonna) const;
 

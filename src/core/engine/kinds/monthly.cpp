@@ -33,8 +33,8 @@ public:
         return giorno.year() == mostrata.year() && giorno.month() == mostrata.month();
     }
 
-    std::optional<Data> giornoCella(const Calendario& c, int, int colonna) const override {
-        return makeDate(c.Year(), c.Month(), colonna + 1 - colonnaPrimoGiorno(c.Year(), c.Month()));
+    std::optional<Data> giornoCella(const Calendario& c, Casella casella) const override {
+        return makeDate(c.Year(), c.Month(), casella.colonna + 1 - colonnaPrimoGiorno(c.Year(), c.Month()));
     }
 };
 

@@ -38,8 +38,9 @@ public:
     }
     bool mostraAnche(Data giorno, Data mostrata) const override { return giorno.year() == mostrata.year(); }
 
-    std::optional<Data> giornoCella(const Calendario& c, int riga, int colonna) const override {
-        return makeDate(c.Year(), riga, colonna + 1 - colonnaPrimoGiorno(c.Year(), riga));
+    std::optional<Data> giornoCella(const Calendario& c, Casella casella) const override {
+        return makeDate(c.Year(), casella.riga,
+                        casella.colonna + 1 - colonnaPrimoGiorno(c.Year(), casella.riga));
     }
 };
 

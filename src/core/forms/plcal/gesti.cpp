@@ -9,15 +9,6 @@
 
 namespace planner {
 
-namespace {
-
-bool isDataCell(const Griglia& griglia, int riga, int colonna) {
-    return riga >= griglia.FixedRows() && riga < griglia.Rows() && colonna >= Griglia::FixedCols() &&
-           colonna < griglia.Cols();
-}
-
-} // namespace
-
 const EffettoGesto* effettoGesto(TipoPlanner tipo, Luogo luogo) {
     const auto found = std::find_if(EffettiGesti.begin(), EffettiGesti.end(), [&](const EffettoGesto& each) {
         return each.tipo == tipo && each.luogo == luogo;
@@ -25,7 +16,8 @@ const EffettoGesto* effettoGesto(TipoPlanner tipo, Luogo luogo) {
     return found == EffettiGesti.end() ? nullptr : &*found;
 }
 
-std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colonna) {
+std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, Casella casella) {
+    const auto [riga, colonna] = casella;
     const Griglia* griglia = controlli.grigliaVisibile();
     if (griglia == nullptr || riga < griglia->FixedRows() || riga >= griglia->Rows() || colonna < 0 ||
         colonna >= griglia->Cols()) {
@@ -37,13 +29,12 @@ std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colo
     if (trimRight(griglia->TextMatrix(riga, 0)).empty()) {
         return Luogo::rigaInPiu;
     }
-    return giornoCella(controlli, *controlli.tipoVisibile, riga, colonna) ? Luogo::giorno
-                                                                          : Luogo::senzaGiorno;
+    return giornoCella(controlli, *controlli.tipoVisibile, casella) ? Luogo::giorno : Luogo::senzaGiorno;
 }
 
-std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, int riga, int colonna) {
-    return isDataCell(controlli.griglia(tipo), riga, colonna)
-               ? regole(tipo).giornoCella(controlli.calendario, riga, colonna)
+std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, Casella casella) {
+    return controlli.griglia(tipo).isDataCell(casella)
+               ? regole(tipo).giornoCella(controlli.calendario, casella)
                : std::nullopt;
 }
 

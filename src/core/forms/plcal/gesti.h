@@ -16,7 +16,7 @@ enum class Mezzo : std::uint8_t { clic, clicDestro, doppioClic, frecce, spazio, 
 
 /// What the user did on a grid, one value for each gesture. What the toolkit does by itself is none.
 struct Gesto {
-    int riga, colonna; // the grid's own; column 0 is the name
+    Casella casella;
     Mezzo mezzo = Mezzo::clic;
 };
 
@@ -45,10 +45,10 @@ const EffettoGesto* effettoGesto(TipoPlanner tipo, Luogo luogo);
 
 /// What the place in the visible grid is; nothing for header, corner and what lies outside. The name of a row
 /// to spare is a name, as that of a month is.
-std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, int riga, int colonna);
+std::optional<Luogo> luogoDi(const ControlliPlcal& controlli, Casella casella);
 
 /// The day that a cell of the kind's grid stands for; nothing for a cell that stands for none. Any row and
 /// column may be asked for.
-std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, int riga, int colonna);
+std::optional<Data> giornoCella(const ControlliPlcal& controlli, TipoPlanner tipo, Casella casella);
 
 } // namespace planner

@@ -27,7 +27,8 @@ void PannelloDettagli::nascondiTotali() {
     }
 }
 
-void PannelloDettagli::mostraTotali(const TabellaTotali& tabella, int indice, bool varianteRidotta) {
+void PannelloDettagli::mostraTotali(const TabellaTotali& tabella, IndiceCollaboratore indice,
+                                    bool varianteRidotta) {
     for (std::size_t i = 0; i < totali.size(); ++i) {
         const EtichettaTotale& etichetta = EtichetteTotali[i];
         if (!etichetta.annuale && !(etichetta.scadenze() && varianteRidotta)) {

@@ -25,7 +25,7 @@ struct PannelloDettagli {
     const StatoEtichetta& operator[](std::string_view nome) const;
 
     /// Shows the totals of the staff member with the index, deadlines only where the window has them.
-    void mostraTotali(const TabellaTotali& tabella, int indice, bool varianteRidotta);
+    void mostraTotali(const TabellaTotali& tabella, IndiceCollaboratore indice, bool varianteRidotta);
     /// Empties and hides the labels of the monthly and daily panel.
     void nascondiTotali();
     /// Shows a day's totals in the yearly panel, which stays in sight.

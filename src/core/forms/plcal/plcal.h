@@ -93,12 +93,12 @@ private:
 
     // plcal_selection.cpp
     void applica(const EffettoGesto& effetto, const Gesto& gesto);
-    void Click(int riga, int colonna);
-    void flxa_RowColChange(int riga, int colonna);
+    void Click(Casella casella);
+    void flxa_RowColChange(Casella casella);
     void SelChange(Scelta scelta);
-    void flxa_SelChange(int riga, int colonna);
+    void flxa_SelChange(Casella casella);
     void selectStaff();
-    void setStaff(int indice);
+    void setStaff(IndiceCollaboratore indice);
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();

@@ -16,8 +16,8 @@ namespace {
 constexpr unsigned ScadenzeOPratiche = insieme(TipoImpegno::scadenze) | insieme(TipoImpegno::pratiche);
 
 /// True when some cell of the staff member's row has one of the kinds.
-bool rowShows(const Griglia& griglia, int indice, unsigned tipi) {
-    const int row = griglia.FixedRows() + indice;
+bool rowShows(const Griglia& griglia, IndiceCollaboratore indice, unsigned tipi) {
+    const int row = rigaCollaboratore(griglia, indice);
     for (int column = 0; row < griglia.Rows() && column < griglia.Cols(); ++column) {
         if ((griglia.cella(row, column).tipi & tipi) != 0) {
             return true;
@@ -75,12 +75,12 @@ bool plcal::canConsult() const {
         return false;
     }
     if (!tipo().perCollaboratore) {
-        return giornoSegnato(m_sessione.archivi, griglia().Row(), griglia().Col());
+        return giornoSegnato(m_sessione.archivi, griglia().corrente());
     }
-    const int indice =
-        tipo().unGiorno ? griglia().Row() - griglia().FixedRows() : int{m_sessione.IndiceCollab};
+    const IndiceCollaboratore indice =
+        tipo().unGiorno ? indiceDiRiga(griglia(), griglia().Row()) : m_sessione.IndiceCollab;
     const TabellaTotali& totals = m_sessione.TotaliImpegni;
-    if (indice < 0) {
+    if (!indice.presente()) {
         return false;
     }
     return totals.contiene(indice)
@@ -125,10 +125,9 @@ void plcal::refreshGrid() {
     }
     esegui([&] {
         const Griglia::LockWindowUpdate lock(griglia());
-        const int row = griglia().Row();
-        const int column = griglia().Col();
+        const auto [row, column] = griglia().corrente();
         m_contenuti.ricompila();
-        griglia().setCurrent(std::min(row, griglia().Rows() - 1), column);
+        griglia().setCurrent({std::min(row, griglia().Rows() - 1), column});
         restoreMarks();
     });
 }

@@ -5,14 +5,13 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
-#include "ports/runtime_errors.h"
 
 #include <algorithm>
 
 namespace planner {
 
 void plcal::griglia_Gesto(const Gesto& gesto) {
-    const auto luogo = luogoDi(m_controlli, gesto.riga, gesto.colonna);
+    const auto luogo = luogoDi(m_controlli, gesto.casella);
     const EffettoGesto* effetto = luogo ? effettoGesto(*m_controlli.tipoVisibile, *luogo) : nullptr;
     if (effetto == nullptr) {
         return;
@@ -35,30 +34,31 @@ void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
     const Griglia::LockWindowUpdate lock(griglia());
     if (effetto.giorno) {
         const bool moved = !tipo().perCollaboratore && gesto.mezzo == Mezzo::frecce;
-        moved ? flxa_RowColChange(gesto.riga, gesto.colonna) : Click(gesto.riga, gesto.colonna);
+        moved ? flxa_RowColChange(gesto.casella) : Click(gesto.casella);
     }
     const bool onName = effetto.cursore == MossaCursore::rigaDelNome;
-    griglia().setCurrent(gesto.riga, onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())
-                                            : gesto.colonna);
+    griglia().setCurrent(
+        {gesto.casella.riga,
+         onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()) : gesto.casella.colonna});
     SelChange(effetto.scelta);
     describeCurrentCell();
 }
 
-void plcal::Click(int riga, int colonna) {
-    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, riga, colonna)) {
+void plcal::Click(Casella casella) {
+    if (const auto giorno = giornoCella(m_controlli, *m_controlli.tipoVisibile, casella)) {
         m_controlli.calendario.setValue(*giorno);
     }
 }
 
-void plcal::flxa_RowColChange(int riga, int colonna) {
+void plcal::flxa_RowColChange(Casella casella) {
     if (m_sessione.CalendarioAttivo) {
-        Click(riga, colonna);
+        Click(casella);
     }
 }
 
 void plcal::SelChange(Scelta scelta) {
     if (scelta == Scelta::totaliGiorno) {
-        flxa_SelChange(griglia().Row(), griglia().Col());
+        flxa_SelChange(griglia().corrente());
         return;
     }
     m_pannello.nascondiTotali();
@@ -70,7 +70,7 @@ void plcal::SelChange(Scelta scelta) {
 
 void plcal::selectStaff() {
     const int riga = griglia().Row();
-    const int indice = riga - griglia().FixedRows();
+    const IndiceCollaboratore indice = indiceDiRiga(griglia(), riga);
     setStaff(indice);
     griglia().evidenzia(riga);
     m_pannello.lblcollab = "Impegni di " + std::string(griglia().TextMatrix(riga, 0));
@@ -78,48 +78,49 @@ void plcal::selectStaff() {
     m_pannello.mostraTotali(m_sessione.TotaliImpegni, indice, m_sessione.varianteRidotta());
 }
 
-void plcal::setStaff(int indice) {
+void plcal::setStaff(IndiceCollaboratore indice) {
     if (!tipo().unGiorno) {
-        m_sessione.IndiceCollab = roundTo16Bit(indice);
+        m_sessione.IndiceCollab = indice;
     }
-    const auto& staff = m_sessione.archivi.Collaboratori;
-    if (static_cast<std::size_t>(indice) < staff.size()) {
-        m_sessione.collab = staff[static_cast<std::size_t>(indice)].codice.text();
+    if (const Collaboratore* staff = trovaCollaboratore(m_sessione.archivi.Collaboratori, indice)) {
+        m_sessione.collab = staff->codice.text();
     }
 }
 
-void plcal::flxa_SelChange(int riga, int colonna) {
-    m_pannello.mostraGiorno(valoriGiorno(m_sessione.archivi, riga, colonna));
-    if (!giornoSegnato(m_sessione.archivi, riga, colonna)) {
+void plcal::flxa_SelChange(Casella casella) {
+    m_pannello.mostraGiorno(valoriGiorno(m_sessione.archivi, casella));
+    if (!giornoSegnato(m_sessione.archivi, casella)) {
         m_controlli.flxa.scegliNessuna(); // what is marked is the day whose totals are shown
         return;
     }
-    m_controlli.flxa.scegli(riga, colonna);
+    m_controlli.flxa.scegli(casella);
 }
 
 void plcal::markShownCell() {
     const int riga = griglia().RigaEvidenziata();
     if (griglia().EvidenziazioneAttiva() && (!tipo().unGiorno || griglia().Row() == riga)) {
-        griglia().scegli(riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()));
+        griglia().scegli({riga, tipo().colonnaGiorno(m_controlli.calendario, griglia().Col())});
     }
 }
 
 void plcal::describeCurrentCell() {
-    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().Row(), griglia().Col());
+    m_stato = fraseCella(m_controlli, m_sessione, tipo().tipo, griglia().corrente());
 }
 
 int plcal::rigaCursore() const {
     const int first = griglia().FixedRows();
     const int wanted = !tipo().perCollaboratore           ? m_controlli.calendario.Month()
                        : griglia().EvidenziazioneAttiva() ? griglia().RigaEvidenziata()
-                       : m_sessione.IndiceRichiesto >= 0  ? first + m_sessione.IndiceRichiesto
-                                                          : first;
+                       : m_sessione.IndiceRichiesto.presente()
+                           ? rigaCollaboratore(griglia(), m_sessione.IndiceRichiesto)
+                           : first;
     return std::clamp(wanted, first, griglia().Rows() - 1);
 }
 
 void plcal::posizionaCursore(int colonnaGiornaliera) {
     if (m_controlli.tipoVisibile) {
-        griglia().setCurrent(rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera));
+        griglia().setCurrent(
+            {rigaCursore(), tipo().colonnaGiorno(m_controlli.calendario, colonnaGiornaliera)});
     }
 }
 

@@ -52,38 +52,39 @@ std::string nameAndDay(const Griglia& griglia, int riga, Data day) {
     return name.empty() ? dataEstesa(day) : name + ", " + dataEstesa(day);
 }
 
-std::string monthlySentence(const ControlliPlcal& controlli, const modpl&, int riga, int colonna) {
+std::string monthlySentence(const ControlliPlcal& controlli, const modpl&, Casella casella) {
     const Griglia& Flxm = controlli.Flxm;
-    const auto day = mensile().giornoCella(controlli.calendario, riga, colonna);
-    return day ? withDetails(nameAndDay(Flxm, riga, *day), kindsPresent(Flxm.cella(riga, colonna)))
-               : utf8FromCp1252(Flxm.TextMatrix(riga, 0));
+    const auto day = mensile().giornoCella(controlli.calendario, casella);
+    return day ? withDetails(nameAndDay(Flxm, casella.riga, *day), kindsPresent(Flxm.cella(casella)))
+               : utf8FromCp1252(Flxm.TextMatrix(casella.riga, 0));
 }
 
 /// The kinds of the appointments that cover a quarter, and their number where they are several.
-std::string appointmentsAt(const Griglia& flxg, int riga, int colonna) {
-    const auto bars = flxg.fasce(riga);
-    const auto count =
-        std::count_if(bars.begin(), bars.end(), [&](const FasciaImpegno& bar) { return bar.copre(colonna); });
-    std::string kinds = kindsPresent(flxg.cella(riga, colonna));
+std::string appointmentsAt(const Griglia& flxg, Casella casella) {
+    const auto bars = flxg.fasce(casella.riga);
+    const auto count = std::count_if(bars.begin(), bars.end(),
+                                     [&](const FasciaImpegno& bar) { return bar.copre(casella.colonna); });
+    std::string kinds = kindsPresent(flxg.cella(casella));
     if (count < 2) {
         return kinds;
     }
     return std::to_string(count) + " impegni" + (kinds.empty() ? "" : " (" + kinds + ")");
 }
 
-std::string dailySentence(const ControlliPlcal& controlli, const modpl&, int riga, int colonna) {
-    const int quarter = colonna - 1;
+std::string dailySentence(const ControlliPlcal& controlli, const modpl&, Casella casella) {
+    const int quarter = casella.colonna - 1;
     const std::string time = std::to_string(quarter / 4) + ":" + twoDigits(quarter % 4 * 15);
-    return withDetails(nameAndDay(controlli.flxg, riga, controlli.calendario.Value()) + ", ore " + time,
-                       appointmentsAt(controlli.flxg, riga, colonna));
+    return withDetails(nameAndDay(controlli.flxg, casella.riga, controlli.calendario.Value()) + ", ore " +
+                           time,
+                       appointmentsAt(controlli.flxg, casella));
 }
 
-std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, int riga, int colonna) {
-    const auto day = annuale().giornoCella(controlli.calendario, riga, colonna);
+std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, Casella casella) {
+    const auto day = annuale().giornoCella(controlli.calendario, casella);
     if (!day) {
         return {};
     }
-    const ValoriContatori valori = valoriGiorno(sessione.archivi, riga, colonna);
+    const ValoriContatori valori = valoriGiorno(sessione.archivi, casella);
     std::vector<std::string> totals;
     for (const EtichettaTotale& etichetta : EtichetteTotali) {
         const std::string number = formatoTotale(somma(valori, etichetta.totale));
@@ -96,16 +97,15 @@ std::string yearlySentence(const ControlliPlcal& controlli, const modpl& session
 
 struct FraseTipo {
     TipoPlanner tipo;
-    std::string (*frase)(const ControlliPlcal&, const modpl&, int riga, int colonna);
+    std::string (*frase)(const ControlliPlcal&, const modpl&, Casella casella);
 };
 constexpr std::array FrasiTipi{FraseTipo{TipoPlanner::Mensile, monthlySentence},
                                FraseTipo{TipoPlanner::Giornaliero, dailySentence},
                                FraseTipo{TipoPlanner::Annuale, yearlySentence}};
 
-/// True when the visible grid is the kind's and holds the row among its data.
-bool isShownRow(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
-    const Griglia& griglia = controlli.griglia(tipo);
-    return controlli.tipoVisibile == tipo && riga >= griglia.FixedRows() && riga < griglia.Rows();
+/// True when the visible grid is the kind's and the cell one of its data.
+bool isShown(const ControlliPlcal& controlli, TipoPlanner tipo, Casella casella) {
+    return controlli.tipoVisibile == tipo && controlli.griglia(tipo).isDataCell(casella);
 }
 
 } // namespace
@@ -116,19 +116,18 @@ std::string dataEstesa(Data data) {
            std::to_string(yearOf(data));
 }
 
-std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo, int riga,
-                       int colonna) {
-    if (!isShownRow(controlli, tipo, riga) || colonna < Griglia::FixedCols() ||
-        colonna >= controlli.griglia(tipo).Cols()) {
+std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                       Casella casella) {
+    if (!isShown(controlli, tipo, casella)) {
         return {};
     }
     return std::find_if(FrasiTipi.begin(), FrasiTipi.end(),
                         [&](const FraseTipo& each) { return each.tipo == tipo; })
-        ->frase(controlli, sessione, riga, colonna);
+        ->frase(controlli, sessione, casella);
 }
 
 std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
-    if (!isShownRow(controlli, tipo, riga)) {
+    if (!isShown(controlli, tipo, {riga, Griglia::FixedCols()})) {
         return {};
     }
     const Griglia& griglia = controlli.griglia(tipo);

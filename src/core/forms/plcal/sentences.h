@@ -16,8 +16,8 @@ std::string dataEstesa(Data data);
 /// staff member, the day (and quarter of an hour) and the kinds of entries present; in the yearly grid the
 /// day and its totals. Only the name where the cell stands for no day, empty where it stands for nothing: in
 /// a grid that is not the visible one, and outside its data.
-std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo, int riga,
-                       int colonna);
+std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                       Casella casella);
 
 /// The same on a name in column 0: the name, and the kinds of the entries that stand beside it.
 std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga);

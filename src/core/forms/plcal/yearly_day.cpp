@@ -16,10 +16,11 @@ struct CellaAnnuale {
     const FixedText<44>& testo;
 };
 
-CellaAnnuale cellOf(const Archivi& archivi, int riga, int colonna) {
-    const auto month = static_cast<std::size_t>(riga - 1);
-    const auto cell = static_cast<std::size_t>(colonna - 1);
-    if (riga < 1 || colonna < 1 || month >= archivi.PlannerAnnuale.size() || cell >= MesePlanner::CellCount) {
+CellaAnnuale cellOf(const Archivi& archivi, Casella casella) {
+    const auto month = static_cast<std::size_t>(casella.riga - 1);
+    const auto cell = static_cast<std::size_t>(casella.colonna - 1);
+    if (casella.riga < 1 || casella.colonna < 1 || month >= archivi.PlannerAnnuale.size() ||
+        cell >= MesePlanner::CellCount) {
         throw SubscriptError();
     }
     const MesePlanner& mese = archivi.PlannerAnnuale[month];
@@ -28,12 +29,12 @@ CellaAnnuale cellOf(const Archivi& archivi, int riga, int colonna) {
 
 } // namespace
 
-bool giornoSegnato(const Archivi& archivi, int riga, int colonna) {
-    return cellOf(archivi, riga, colonna).segno.view() == "*";
+bool giornoSegnato(const Archivi& archivi, Casella casella) {
+    return cellOf(archivi, casella).segno.view() == "*";
 }
 
-ValoriContatori valoriGiorno(const Archivi& archivi, int riga, int colonna) {
-    const CellaAnnuale cell = cellOf(archivi, riga, colonna);
+ValoriContatori valoriGiorno(const Archivi& archivi, Casella casella) {
+    const CellaAnnuale cell = cellOf(archivi, casella);
     ValoriContatori valori{};
     for (std::size_t i = 1; cell.segno.view() == "*" && i < valori.size(); ++i) {
         valori[i] = numericValue(slice(cell.testo.view(), (i - 1) * NumberLength, NumberLength));

@@ -7,6 +7,7 @@
 #include "forms/tasti.h"
 #include "forms/twips.h"
 #include "session/calendario.h"
+#include "session/staff.h"
 
 #include <array>
 #include <cstdint>
@@ -56,10 +57,10 @@ public:
     /// The hours of one staff member on each day of the month. Throws SubscriptError for an index outside the
     /// staff table and for a day that is none, TypeMismatchError for a day that is no number, OverflowError
     /// for hours beyond 16 bits.
-    void VisualizzaGraficoMensile(std::int16_t collab);
+    void VisualizzaGraficoMensile(IndiceCollaboratore collab);
     /// The hours of every staff member on the day; `collab` names the series. Throws SubscriptError,
     /// OverflowError.
-    void VisualizzaGraficoGiornaliero(std::int16_t collab);
+    void VisualizzaGraficoGiornaliero(IndiceCollaboratore collab);
     /// For each month of the year the hours of its last record, of whatever staff member. Throws
     /// SubscriptError, TypeMismatchError, OverflowError.
     void VisualizzaGraficoAnnuale();

@@ -134,7 +134,7 @@ void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massi
 
 // The order of the steps shows: a step that fails leaves on the chart what those before it have set.
 
-void plfgraf::VisualizzaGraficoMensile(std::int16_t collab) {
+void plfgraf::VisualizzaGraficoMensile(IndiceCollaboratore collab) {
     Grafico& grafico = mostra(0);
     grafico.areaIncorniciata = true;
     ValoriGrafico valori = valoriMensili(m_archivi, m_calendario, collab);
@@ -148,7 +148,7 @@ void plfgraf::VisualizzaGraficoMensile(std::int16_t collab) {
     setAssi(grafico, "Giorni", valori.massimo);
 }
 
-void plfgraf::VisualizzaGraficoGiornaliero(std::int16_t collab) {
+void plfgraf::VisualizzaGraficoGiornaliero(IndiceCollaboratore collab) {
     Grafico& grafico = mostra(1);
     ValoriGrafico valori = valoriGiornalieri(m_archivi, m_calendario);
     setUnaSerie(grafico, std::move(valori.valori));

@@ -106,14 +106,13 @@ std::span<const Collaboratore> collaboratoriGrafico(const Archivi& archivi) {
     return firstOf(archivi.Collaboratori, archivi.NumCollab);
 }
 
-const Collaboratore& collaboratoreGrafico(const Archivi& archivi, std::int16_t indice) {
-    if (indice < 0 || static_cast<std::size_t>(indice) >= archivi.Collaboratori.size()) {
-        throw SubscriptError();
-    }
-    return archivi.Collaboratori[static_cast<std::size_t>(indice)];
+const Collaboratore& collaboratoreGrafico(const Archivi& archivi, IndiceCollaboratore indice) {
+    const Collaboratore* collaboratore = trovaCollaboratore(archivi.Collaboratori, indice);
+    return collaboratore != nullptr ? *collaboratore : throw SubscriptError();
 }
 
-ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario, std::int16_t collab) {
+ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario,
+                            IndiceCollaboratore collab) {
     ValoriGrafico valori(GiorniMassimi);
     const std::span<const RigaGrafico> righe = righeGrafico(archivi);
     for (Posto posto = 0; posto < righe.size(); ++posto) {

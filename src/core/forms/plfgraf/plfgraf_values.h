@@ -4,6 +4,7 @@
 
 #include "archive/tables.h"
 #include "session/calendario.h"
+#include "session/staff.h"
 
 #include <span>
 #include <vector>
@@ -26,13 +27,13 @@ std::span<const RigaGrafico> righeGrafico(const Archivi& archivi);
 /// The staff that the file held.
 std::span<const Collaboratore> collaboratoriGrafico(const Archivi& archivi);
 /// An entry of the staff table, its blank last one included. Throws SubscriptError.
-const Collaboratore& collaboratoreGrafico(const Archivi& archivi, std::int16_t indice);
+const Collaboratore& collaboratoreGrafico(const Archivi& archivi, IndiceCollaboratore indice);
 
 /// 31 values, one for each day that a month may have, of one staff member in the calendar's month. Later
 /// records replace earlier ones of the same day. Throws SubscriptError for a day or, unless there is no
 /// record at all, an index outside its range, TypeMismatchError for a day that is no number, OverflowError
 /// for hours.
-ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario, std::int16_t collab);
+ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario, IndiceCollaboratore collab);
 
 /// A value for each staff member on the calendar's day; records of unknown codes are not looked at. Throws
 /// OverflowError for hours.

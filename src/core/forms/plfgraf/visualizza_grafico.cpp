@@ -7,18 +7,18 @@ namespace planner {
 namespace {
 
 /// The staff index that the daily chart always gets: it shows everybody, whoever is selected.
-constexpr std::int16_t CollaboratoreGiornaliero = 1;
+constexpr IndiceCollaboratore CollaboratoreGiornaliero{1};
 
 } // namespace
 
-bool visualizzaGrafico(plfgraf& form, std::optional<TipoPlanner> tipo, std::int16_t IndiceCollab,
+bool visualizzaGrafico(plfgraf& form, std::optional<TipoPlanner> tipo, IndiceCollaboratore IndiceCollab,
                        MessageBoxes& messaggi) {
     if (!tipo) {
         return false;
     }
     switch (*tipo) {
     case TipoPlanner::Mensile:
-        if (IndiceCollab < 0) {
+        if (!IndiceCollab.presente()) {
             messaggi.information("Selezionare un collaboratore prima di visualizzare il grafico.");
             return false;
         }

@@ -10,10 +10,10 @@
 
 namespace planner {
 
-/// Builds the chart that suits the kind of planner; `IndiceCollab` is the selected staff member, negative for
-/// none. True when there is a chart to show: the monthly one asks for a selected staff member in a message
+/// Builds the chart that suits the kind of planner; `IndiceCollab` is the selected staff member, if
+/// any. True when there is a chart to show: the monthly one asks for a selected staff member in a message
 /// box when there is none. Throws what the builders throw.
-bool visualizzaGrafico(plfgraf& form, std::optional<TipoPlanner> tipo, std::int16_t IndiceCollab,
+bool visualizzaGrafico(plfgraf& form, std::optional<TipoPlanner> tipo, IndiceCollaboratore IndiceCollab,
                        MessageBoxes& messaggi);
 
 } // namespace planner

@@ -91,7 +91,7 @@ TEST_F(CommandsTest, ConsultInTheYearlyPlannerNeedsAMarkedDay) {
 
 TEST_F(CommandsTest, ConsultOnTheYearlyHeaderIsASubscriptErrorThatIsSaid) {
     open("A");
-    controlli.flxa.setCurrent(0, 0);
+    controlli.flxa.setCurrent({0, 0});
     press("consult");
     ASSERT_EQ(bench.messaggi.shown.size(), 1U);
     EXPECT_EQ(bench.messaggi.shown[0].icon, MessageIcon::Critical);

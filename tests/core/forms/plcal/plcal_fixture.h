@@ -28,7 +28,7 @@ protected:
 
     /// The user acts on a place of the visible grid.
     void gesto(int riga, int colonna, Mezzo mezzo = Mezzo::clic) {
-        form.griglia_Gesto({riga, colonna, mezzo});
+        form.griglia_Gesto({{riga, colonna}, mezzo});
     }
 
     PlannerBench bench;

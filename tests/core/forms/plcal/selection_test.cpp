@@ -43,7 +43,7 @@ protected:
 TEST_F(SelectionTest, SelectingARowMakesItsStaffMemberCurrentAndFillsThePanel) {
     openMonth();
     gesto(3, Day15);
-    EXPECT_EQ(sessione.IndiceCollab, 1);
+    EXPECT_EQ(sessione.IndiceCollab.valore, 1);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(form.pannello().lblcollab, "Impegni di Rossi Bruno");
     EXPECT_TRUE(form.pannello().lblcollabVisibile);
@@ -107,7 +107,7 @@ TEST_F(SelectionTest, ASpareRowHidesThePanelAndLeavesTheStaffMemberAsItWas) {
     openMonth();
     gesto(3, Day15);
     gesto(SpareRow, Day15);
-    EXPECT_EQ(sessione.IndiceCollab, 1);
+    EXPECT_EQ(sessione.IndiceCollab.valore, 1);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_FALSE(form.pannello().lblcollabVisibile);
     for (const char* label : {"Lblscad", "Lblscadeva", "lblpra", "Lblpraeva", "lblpers", "Lblnotes"}) {
@@ -120,7 +120,7 @@ TEST_F(SelectionTest, TheUnassignedRowSelectsWithABlankCode) {
     openMonth();
     gesto(3, Day15);
     gesto(5, 3);
-    EXPECT_EQ(sessione.IndiceCollab, 3);
+    EXPECT_EQ(sessione.IndiceCollab.valore, 3);
     EXPECT_EQ(sessione.collab, "  ");
     EXPECT_EQ(form.pannello().lblcollab, "Impegni di *NON ASSEGNATE*");
     EXPECT_EQ(total("lblpra"), "9");
@@ -214,7 +214,7 @@ TEST_F(SelectionTest, TheDailyGridSelectsByRowLessOneAndKeepsTheSelectedIndex) {
     open("G");
     gesto(2, 40);
     EXPECT_EQ(sessione.collab, "RB");
-    EXPECT_EQ(sessione.IndiceCollab, -1);
+    EXPECT_EQ(sessione.IndiceCollab.valore, -1);
     EXPECT_EQ(total("Lblscad"), "3");
     EXPECT_EQ(controlli.flxg.CellBackColor(2, 1), Colore::giallo);
     EXPECT_EQ(controlli.flxg.CellBackColor(2, 40), Colore::ciano);
@@ -241,7 +241,7 @@ TEST_F(SelectionTest, CellsOutsideTheDataAreIgnored) {
         gesto(row, column);
         gesto(row, column, Mezzo::frecce);
     }
-    EXPECT_EQ(sessione.IndiceCollab, -1);
+    EXPECT_EQ(sessione.IndiceCollab.valore, -1);
     EXPECT_EQ(formatDate(controlli.calendario.Value()), "20060315");
     EXPECT_THAT(bench.messaggi.shown, IsEmpty());
 }

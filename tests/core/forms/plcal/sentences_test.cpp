@@ -14,7 +14,7 @@ protected:
                         RigaPlanner{}, RigaPlanner{}});
     }
     std::string at(int row, int column) {
-        return fraseCella(controlli, sessione, *controlli.tipoVisibile, row, column);
+        return fraseCella(controlli, sessione, *controlli.tipoVisibile, {row, column});
     }
 };
 
@@ -70,8 +70,8 @@ TEST_F(SentencesTest, ANameTellsTheEntriesThatStandBesideIt) {
 
 TEST_F(SentencesTest, AGridThatIsNotShownSaysNothing) {
     open("A");
-    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Mensile, 3, 17), "");
-    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Giornaliero, 30, 90), "");
+    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Mensile, {3, 17}), "");
+    EXPECT_EQ(fraseCella(controlli, sessione, TipoPlanner::Giornaliero, {30, 90}), "");
 }
 
 TEST_F(SentencesTest, AYearlyDayNamesItsDateAndTotals) {

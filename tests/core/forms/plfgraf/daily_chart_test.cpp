@@ -11,7 +11,7 @@ namespace {
 class DailyChart : public PlfgrafTest {
 protected:
     const Grafico& chart() {
-        form.VisualizzaGraficoGiornaliero(1);
+        form.VisualizzaGraficoGiornaliero({1});
         return form.MSChartg();
     }
     const std::vector<double>& staff() { return chart().serie.at(0).valori; }
@@ -64,7 +64,7 @@ TEST_F(DailyChart, HasAPlainTitleAndPlotAndNavyBars) {
 
 TEST_F(DailyChart, LegendNamesTheGivenPersonThoughEverybodyIsShown) {
     setHours({rigaGrafico("BI", "20060315", "0007:30")});
-    form.VisualizzaGraficoGiornaliero(2);
+    form.VisualizzaGraficoGiornaliero({2});
     EXPECT_EQ(form.MSChartg().serie.at(0).etichetta, "Verdi Ugo");
     EXPECT_THAT(form.MSChartg().serie.at(0).valori, ElementsAre(7.5, 0, 0));
 }
@@ -91,7 +91,7 @@ TEST_F(DailyChart, ScaleIsATenthAboveTheGreatestValue) {
 
 TEST_F(DailyChart, DivisionsBeyondSixteenBitsOverflow) {
     setHours({rigaGrafico("BI", "20060315", "9999900")});
-    EXPECT_THROW(form.VisualizzaGraficoGiornaliero(1), OverflowError);
+    EXPECT_THROW(form.VisualizzaGraficoGiornaliero({1}), OverflowError);
 }
 
 TEST_F(DailyChart, RecordsOfUnknownCodesAreNeverShownNorRead) {
@@ -103,7 +103,7 @@ TEST_F(DailyChart, RecordsOfUnknownCodesAreNeverShownNorRead) {
 
 TEST_F(DailyChart, ImpossibleHoursOfAKnownCodeOverflow) {
     setHours({rigaGrafico("RB", "20060315", "9e99900")});
-    EXPECT_THROW(form.VisualizzaGraficoGiornaliero(1), OverflowError);
+    EXPECT_THROW(form.VisualizzaGraficoGiornaliero({1}), OverflowError);
 }
 
 TEST_F(DailyChart, TheBlankCodeAfterTheLastPersonIsUnknown) {
@@ -139,7 +139,7 @@ TEST_F(DailyChart, WithOnePersonTheLegendIsTheBlankLastEntrys) {
 
 TEST_F(DailyChart, WithoutStaffTheLegendFails) {
     setStaff({});
-    EXPECT_THROW(form.VisualizzaGraficoGiornaliero(1), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoGiornaliero({1}), SubscriptError);
     EXPECT_EQ(form.visibile(), &form.MSChartg());
     EXPECT_EQ(form.MSChartg().numValori(), 0u);
 }
@@ -147,7 +147,7 @@ TEST_F(DailyChart, WithoutStaffTheLegendFails) {
 TEST_F(DailyChart, AnIndexOutsideTheStaffFailsAfterDataAndRowLabels) {
     setHours({rigaGrafico("BI", "20060315", "0007:30")});
     for (const std::int16_t collab : std::initializer_list<std::int16_t>{4, -1, INT16_MAX, INT16_MIN}) {
-        EXPECT_THROW(form.VisualizzaGraficoGiornaliero(collab), SubscriptError) << collab;
+        EXPECT_THROW(form.VisualizzaGraficoGiornaliero({collab}), SubscriptError) << collab;
     }
     const Grafico& grafico = form.MSChartg();
     EXPECT_THAT(grafico.serie.at(0).valori, ElementsAre(7.5, 0, 0));
@@ -173,14 +173,14 @@ TEST_F(DailyChart, TheTablesLastRecordLiesBeyondTheFileAndDoesNotCount) {
 }
 
 TEST_F(DailyChart, ItsHeadingSaysWhichDay) {
-    form.VisualizzaGraficoGiornaliero(1);
+    form.VisualizzaGraficoGiornaliero({1});
     EXPECT_EQ(form.MSChartg().intestazione, "Ore dei collaboratori - 15 marzo 2006");
 }
 
 TEST_F(DailyChart, AnErrorNamesFileRecordAndHours) {
     setHours({rigaGrafico("RB", "20060315", "0001:00"), rigaGrafico("RB", "20060314", "9e99900"),
               rigaGrafico("BI", "20060315", "9e99900")});
-    EXPECT_EQ(errorOf([&] { form.VisualizzaGraficoGiornaliero(1); }),
+    EXPECT_EQ(errorOf([&] { form.VisualizzaGraficoGiornaliero({1}); }),
               "wgrafici, record 3: le ore \"9e99900\" sono troppe");
 }
 

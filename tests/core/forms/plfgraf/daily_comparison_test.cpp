@@ -81,7 +81,7 @@ TEST_P(DailyChartOfARandomOffice, IsThatOfNestedLoops) {
     for (int round = 0; round < 50; ++round) {
         setStaff(office.staff());
         setHours(office.hours());
-        form.VisualizzaGraficoGiornaliero(1);
+        form.VisualizzaGraficoGiornaliero({1});
         const NestedLoops expected = nestedLoops(archivi, calendario);
         ASSERT_EQ(form.MSChartg().serie.at(0).valori, expected.valori) << "round " << round;
         ASSERT_EQ(form.MSChartg().asseY.Maximum, std::floor(expected.massimo + expected.massimo * 10 / 100));

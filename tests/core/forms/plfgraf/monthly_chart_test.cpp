@@ -12,7 +12,7 @@ class MonthlyChart : public PlfgrafTest {
 protected:
     /// The chart of Rossi Bruno, whose hours the records hold.
     const Grafico& chart() {
-        form.VisualizzaGraficoMensile(1);
+        form.VisualizzaGraficoMensile({1});
         return form.MSChartm();
     }
     const std::vector<double>& days() { return chart().serie.at(0).valori; }
@@ -36,7 +36,7 @@ TEST_F(MonthlyChart, LeavesOutOtherPeopleMonthsAndYears) {
 
 TEST_F(MonthlyChart, ComparesCodesByteForByte) {
     setHours({rigaGrafico("7 ", "20060315", "0004:00"), rigaGrafico(" 7", "20060316", "0004:00")});
-    form.VisualizzaGraficoMensile(2);
+    form.VisualizzaGraficoMensile({2});
     EXPECT_EQ(form.MSChartm().serie.at(0).valori, zerosBut(Giorni, {{15, 4}}));
 }
 
@@ -116,7 +116,7 @@ TEST_F(MonthlyChart, DivisionsBeyondSixteenBitsOverflow) {
     setHours({rigaGrafico("RB", "20060301", "2978900")}); // 32767.9
     EXPECT_EQ(top(), 32'767);
     setHours({rigaGrafico("RB", "20060302", "2979000")}); // 32769
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), OverflowError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), OverflowError);
     EXPECT_EQ(form.MSChartm().serie.at(0).valori.at(1), 29'790) << "the data was there already";
     EXPECT_EQ(form.MSChartm().asseY.Maximum, 32'769);
     EXPECT_EQ(form.MSChartm().asseY.MajorDivision, 32'767) << "the one before";
@@ -161,14 +161,14 @@ TEST_F(MonthlyChart, ADayWithABlankCounts) {
 TEST_F(MonthlyChart, ADayThatIsNoNumberIsATypeMismatch) {
     for (const std::string_view day : {"xx", "  ", "1x", "x1", "--", "1e"}) {
         setHours({rigaGrafico("RB", "200603" + std::string(day), "0001:00")});
-        EXPECT_THROW(form.VisualizzaGraficoMensile(1), TypeMismatchError) << "[" << day << "]";
+        EXPECT_THROW(form.VisualizzaGraficoMensile({1}), TypeMismatchError) << "[" << day << "]";
     }
 }
 
 TEST_F(MonthlyChart, ADayOutsideTheMonthIsASubscriptError) {
     for (const std::string_view day : {"00", "32", "99", "-1"}) {
         setHours({rigaGrafico("RB", "200603" + std::string(day), "0001:00")});
-        EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError) << day;
+        EXPECT_THROW(form.VisualizzaGraficoMensile({1}), SubscriptError) << day;
     }
 }
 
@@ -182,7 +182,7 @@ TEST_F(MonthlyChart, GarbledHoursAreZeroAndImpossibleOnesOverflow) {
     setHours({rigaGrafico("RB", "20060301", "???????"), rigaGrafico("RB", "20060302", "0003:00")});
     EXPECT_EQ(days(), zerosBut(Giorni, {{2, 3}}));
     setHours({rigaGrafico("RB", "20060301", "9e99900")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), OverflowError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), OverflowError);
 }
 
 TEST_F(MonthlyChart, AFailedScanKeepsTheDataThatWasShown) {
@@ -190,7 +190,7 @@ TEST_F(MonthlyChart, AFailedScanKeepsTheDataThatWasShown) {
     chart();
     show(2006, 4, 1);
     setHours({rigaGrafico("RB", "20060401", "0009:00"), rigaGrafico("RB", "20060432", "0009:00")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), SubscriptError);
     EXPECT_EQ(form.MSChartm().serie.at(0).valori, zerosBut(Giorni, {{1, 4}}));
     EXPECT_EQ(form.MSChartm().voci.at(0), "1 marzo");
     EXPECT_EQ(form.MSChartm().asseY.Maximum, 4);
@@ -198,7 +198,7 @@ TEST_F(MonthlyChart, AFailedScanKeepsTheDataThatWasShown) {
 
 TEST_F(MonthlyChart, AFailedFirstScanLeavesAnEmptyVisibleChart) {
     setHours({rigaGrafico("RB", "20060332", "0009:00")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), SubscriptError);
     EXPECT_EQ(form.visibile(), &form.MSChartm());
     EXPECT_TRUE(form.MSChartm().areaIncorniciata);
     EXPECT_EQ(form.MSChartm().TitleText, "");
@@ -209,7 +209,7 @@ TEST_F(MonthlyChart, AnIndexOutsideTheStaffFailsInTheScan) {
     setHours({rigaGrafico("RB", "20060301", "0004:00")});
     chart();
     for (const std::int16_t collab : std::initializer_list<std::int16_t>{4, -1, INT16_MAX, INT16_MIN}) {
-        EXPECT_THROW(form.VisualizzaGraficoMensile(collab), SubscriptError) << collab;
+        EXPECT_THROW(form.VisualizzaGraficoMensile({collab}), SubscriptError) << collab;
     }
     EXPECT_EQ(form.MSChartm().serie.at(0).valori, zerosBut(Giorni, {{1, 4}})) << "not replaced";
 }
@@ -218,14 +218,14 @@ TEST_F(MonthlyChart, WithoutRecordsAnIndexOutsideTheStaffFailsAtTheLegend) {
     setHours({rigaGrafico("RB", "20060301", "0004:00")});
     chart();
     setHours({});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(4), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({4}), SubscriptError);
     EXPECT_EQ(form.MSChartm().serie.at(0).valori, std::vector<double>(Giorni)) << "replaced";
     EXPECT_EQ(form.MSChartm().serie.at(0).etichetta, "Rossi Bruno") << "the one before";
 }
 
 TEST_F(MonthlyChart, TheBlankLastEntryOfTheStaffIsAnEntry) {
     setHours({rigaGrafico("  ", "20060301", "0004:00")});
-    form.VisualizzaGraficoMensile(3);
+    form.VisualizzaGraficoMensile({3});
     EXPECT_EQ(form.MSChartm().serie.at(0).valori, zerosBut(Giorni, {{1, 4}}));
     EXPECT_EQ(form.MSChartm().serie.at(0).etichetta, "");
 }
@@ -240,7 +240,7 @@ TEST_F(MonthlyChart, ANewBuildReplacesEverything) {
     setHours({rigaGrafico("RB", "20060301", "0010:00"), rigaGrafico("BI", "20060402", "0002:00")});
     chart();
     show(2006, 4, 30);
-    form.VisualizzaGraficoMensile(0);
+    form.VisualizzaGraficoMensile({0});
     const Grafico& grafico = form.MSChartm();
     EXPECT_EQ(grafico.serie.at(0).valori, zerosBut(Giorni, {{2, 2}}));
     EXPECT_EQ(grafico.serie.at(0).etichetta, "Bianchi Rosa");
@@ -254,9 +254,9 @@ TEST_F(MonthlyChart, ItsHeadingSaysWhoseHoursOfWhichMonth) {
     show(2004, 2, 29);
     setStaff({collaboratore("BI", std::string(50, 'W')), collaboratore("RB", ""), collaboratore("  ", "")});
     EXPECT_EQ(chart().intestazione, "Ore di RB - febbraio 2004");
-    form.VisualizzaGraficoMensile(0);
+    form.VisualizzaGraficoMensile({0});
     EXPECT_EQ(form.MSChartm().intestazione, "Ore di " + std::string(50, 'W') + " - febbraio 2004");
-    form.VisualizzaGraficoMensile(2);
+    form.VisualizzaGraficoMensile({2});
     EXPECT_EQ(form.MSChartm().intestazione, "Ore senza nome - febbraio 2004");
 }
 
@@ -264,7 +264,7 @@ TEST_F(MonthlyChart, AnErrorNamesFileRecordAndDay) {
     const RigaGrafico good = rigaGrafico("RB", "20060301", "0001:00");
     const auto fail = [&](const RigaGrafico& bad) {
         setHours({good, bad});
-        return errorOf([&] { form.VisualizzaGraficoMensile(1); });
+        return errorOf([&] { form.VisualizzaGraficoMensile({1}); });
     };
     EXPECT_EQ(fail(rigaGrafico("RB", "2006033x", "0001:00")),
               "wgrafici, record 2: il giorno \"3x\" non è un numero");
@@ -280,9 +280,9 @@ TEST_F(MonthlyChart, AnErrorNamesFileRecordAndDay) {
 
 TEST_F(MonthlyChart, ARecordsErrorKeepsItsClass) {
     setHours({rigaGrafico("RB", "2006033x", "0001:00")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), TypeMismatchError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), TypeMismatchError);
     setHours({rigaGrafico("RB", "20060332", "0001:00")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), SubscriptError);
 }
 
 } // namespace planner::test

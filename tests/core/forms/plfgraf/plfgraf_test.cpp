@@ -9,8 +9,8 @@ namespace {
 class ChartWindow : public PlfgrafTest {
 protected:
     void buildAll() {
-        form.VisualizzaGraficoMensile(1);
-        form.VisualizzaGraficoGiornaliero(1);
+        form.VisualizzaGraficoMensile({1});
+        form.VisualizzaGraficoGiornaliero({1});
         form.VisualizzaGraficoAnnuale();
     }
 };
@@ -26,15 +26,15 @@ TEST_F(ChartWindow, ShowsNothingBeforeAChartWasBuilt) {
 }
 
 TEST_F(ChartWindow, ShowsOnlyTheChartJustBuilt) {
-    form.VisualizzaGraficoMensile(1);
+    form.VisualizzaGraficoMensile({1});
     EXPECT_EQ(form.visibile(), &form.MSChartm());
-    form.VisualizzaGraficoGiornaliero(1);
+    form.VisualizzaGraficoGiornaliero({1});
     EXPECT_EQ(form.visibile(), &form.MSChartg());
     form.VisualizzaGraficoAnnuale();
     EXPECT_EQ(form.visibile(), &form.MSCharta());
     EXPECT_FALSE(form.MSChartm().Visible);
     EXPECT_FALSE(form.MSChartg().Visible);
-    form.VisualizzaGraficoMensile(0);
+    form.VisualizzaGraficoMensile({0});
     EXPECT_EQ(form.visibile(), &form.MSChartm());
     EXPECT_FALSE(form.MSCharta().Visible);
 }
@@ -45,7 +45,7 @@ TEST_F(ChartWindow, OptionsHaveTheirCaptions) {
 }
 
 TEST_F(ChartWindow, LinesAndPieBothGiveThePie) {
-    form.VisualizzaGraficoMensile(1);
+    form.VisualizzaGraficoMensile({1});
     for (const int option : {Linee, Torta}) {
         form.OptTipoGrafico_Click(option);
         EXPECT_EQ(form.OptTipoGrafico(), option);
@@ -57,7 +57,7 @@ TEST_F(ChartWindow, LinesAndPieBothGiveThePie) {
 }
 
 TEST_F(ChartWindow, AnotherIndexSelectsNothing) {
-    form.VisualizzaGraficoMensile(1);
+    form.VisualizzaGraficoMensile({1});
     form.OptTipoGrafico_Click(Torta);
     for (const int index : {-1, 3, INT_MAX, INT_MIN}) {
         form.OptTipoGrafico_Click(index);
@@ -75,24 +75,24 @@ TEST_F(ChartWindow, AClickChangesTheVisibleChartOnly) {
 }
 
 TEST_F(ChartWindow, TheKindStaysOnEachChartAcrossBuilds) {
-    form.VisualizzaGraficoMensile(1);
+    form.VisualizzaGraficoMensile({1});
     form.OptTipoGrafico_Click(Torta);
-    form.VisualizzaGraficoGiornaliero(1);
+    form.VisualizzaGraficoGiornaliero({1});
     EXPECT_EQ(form.MSChartg().tipo, TipoGrafico::Istogramma);
-    form.VisualizzaGraficoMensile(0);
+    form.VisualizzaGraficoMensile({0});
     EXPECT_EQ(form.MSChartm().tipo, TipoGrafico::Torta);
 }
 
 TEST_F(ChartWindow, AClickBeforeAnyChartOnlySelects) {
     form.OptTipoGrafico_Click(Torta);
     EXPECT_EQ(form.OptTipoGrafico(), Torta);
-    form.VisualizzaGraficoMensile(1);
+    form.VisualizzaGraficoMensile({1});
     EXPECT_EQ(form.MSChartm().tipo, TipoGrafico::Istogramma);
 }
 
 TEST_F(ChartWindow, AChartWithoutSeriesKeepsItsKind) {
     setHours({rigaGrafico("RB", "20060332", "0001:00")});
-    EXPECT_THROW(form.VisualizzaGraficoMensile(1), SubscriptError);
+    EXPECT_THROW(form.VisualizzaGraficoMensile({1}), SubscriptError);
     form.OptTipoGrafico_Click(Torta);
     EXPECT_EQ(form.MSChartm().tipo, TipoGrafico::Istogramma);
 }

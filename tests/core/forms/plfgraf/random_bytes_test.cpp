@@ -99,8 +99,8 @@ TEST_P(ChartsOfRandomBytes, AreSoundOrEndInARunTimeError) {
         setHours(records.hours());
         setStaff(records.staff());
         const std::int16_t collab = records.index();
-        for (const bool done : {builds([&] { form.VisualizzaGraficoMensile(collab); }),
-                                builds([&] { form.VisualizzaGraficoGiornaliero(collab); }),
+        for (const bool done : {builds([&] { form.VisualizzaGraficoMensile({collab}); }),
+                                builds([&] { form.VisualizzaGraficoGiornaliero({collab}); }),
                                 builds([&] { form.VisualizzaGraficoAnnuale(); })}) {
             ++(done ? built : failed);
         }

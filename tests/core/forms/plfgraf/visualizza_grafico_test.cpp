@@ -25,7 +25,7 @@ protected:
     bool choose(std::string_view tipo, std::int16_t collab) {
         bench.init(tipo, "20060315");
         bench.motore.LeggiDatiPerGrafici();
-        return visualizzaGrafico(form, bench.controlli.tipoVisibile, collab, bench.messaggi);
+        return visualizzaGrafico(form, bench.controlli.tipoVisibile, {collab}, bench.messaggi);
     }
 
     PlannerBench bench;
@@ -71,7 +71,7 @@ TEST_F(VisualizzaGrafico, OfTheYearlyPlannerNeedsNoSelection) {
 }
 
 TEST_F(VisualizzaGrafico, WithoutAKindOfPlannerIsNone) {
-    EXPECT_FALSE(visualizzaGrafico(form, std::nullopt, 0, bench.messaggi));
+    EXPECT_FALSE(visualizzaGrafico(form, std::nullopt, {0}, bench.messaggi));
     EXPECT_EQ(form.visibile(), nullptr);
     EXPECT_THAT(bench.messaggi.shown, IsEmpty());
 }
