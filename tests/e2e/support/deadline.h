@@ -8,7 +8,7 @@
 namespace planner::e2e {
 
 /// How long anything that must happen may take: far more than it needs, so that only a hang exceeds it.
-inline constexpr std::chrono::milliseconds Deadline{E2E_SANITIZED ? 60'000 : 20'000};
+inline constexpr std::chrono::milliseconds Deadline{E2E_SANITIZED ? 120'000 : 60'000};
 
 /// Looks again and again whether `condition` holds, until the deadline; only for what gives no event to wait
 /// for.
