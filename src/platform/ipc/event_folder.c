@@ -38,12 +38,15 @@ static bool isPrivate(int folder) {
 static int openPrivate(int parent, const char* name) {
     // A folder that is there already is as good: isPrivate() judges either.
     if (mkdirat(parent, name, 0700) != 0 && errno != EEXIST) {
-        return -1;
+        return -errno;
     }
     const int folder = openat(parent, name, O_DIRECTORY | O_NOFOLLOW | O_RDONLY | O_CLOEXEC);
-    if (folder >= 0 && !isPrivate(folder)) {
+    if (folder < 0) {
+        return -errno;
+    }
+    if (!isPrivate(folder)) {
         close(folder);
-        return -1;
+        return -EACCES;
     }
     return folder;
 }
@@ -53,7 +56,7 @@ static int openUnderTmp(void) {
     snprintf(name, sizeof name, "%s-%lu", FOLDER, (unsigned long)geteuid());
     const int parent = open("/tmp", O_DIRECTORY | O_RDONLY | O_CLOEXEC);
     if (parent < 0) {
-        return -1;
+        return -errno;
     }
     const int folder = openPrivate(parent, name);
     close(parent);
@@ -73,12 +76,13 @@ static int openEventFolder(void) {
 int lockEventFolder(void) {
     const int folder = openEventFolder();
     if (folder < 0) {
-        return -1;
+        return folder;
     }
     while (flock(folder, LOCK_EX) != 0) {
-        if (errno != EINTR) {
+        const int error = errno;
+        if (error != EINTR) {
             close(folder);
-            return -1;
+            return -error;
         }
     }
     return folder;

@@ -4,6 +4,7 @@
 
 #include "futex.h"
 
+#include <errno.h>
 #include <fcntl.h>
 #include <string.h>
 #include <sys/mman.h>
@@ -22,57 +23,64 @@ static bool isEventFile(const struct stat* status) {
 }
 
 // Takes over `descriptor`; closes it when the mapping fails.
-static bool mapEvent(int descriptor, EventObject* event) {
+static int mapEvent(int descriptor, EventObject* event) {
     void* state = mmap(NULL, sizeof(EventState), PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
     if (state == MAP_FAILED) {
+        const int error = errno;
         close(descriptor);
-        return false;
+        return error;
     }
     event->descriptor = descriptor;
     event->state = state;
-    return true;
+    return 0;
 }
 
-static OpenResult mapIfEvent(int descriptor, EventObject* event) {
+static int mapIfEvent(int descriptor, EventObject* event) {
     struct stat status;
     if (fstat(descriptor, &status) != 0 || !isEventFile(&status)) {
         close(descriptor);
         return EVENT_FOREIGN;
     }
-    if (!mapEvent(descriptor, event)) {
-        return EVENT_FAILED;
-    }
-    if (memcmp(event->state->magic, NEW_STATE.magic, sizeof NEW_STATE.magic) != 0) {
+    const int error = mapEvent(descriptor, event);
+    if (error == 0 && memcmp(event->state->magic, NEW_STATE.magic, sizeof NEW_STATE.magic) != 0) {
         closeEvent(event);
         return EVENT_FOREIGN;
     }
-    return EVENT_OPENED;
+    return error;
 }
 
-OpenResult openEvent(int folder, const char* file, EventObject* event) {
+int openEvent(int folder, const char* file, EventObject* event) {
     // Looked at before it is opened: opening a pipe or a device could already do something.
     struct stat status;
     if (fstatat(folder, file, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-        return errno == ENOENT ? EVENT_MISSING : EVENT_FAILED;
+        return errno;
     }
     if (!isEventFile(&status)) {
         return EVENT_FOREIGN;
     }
     const int descriptor = openat(folder, file, O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    return descriptor < 0 ? EVENT_FAILED : mapIfEvent(descriptor, event);
+    return descriptor < 0 ? errno : mapIfEvent(descriptor, event);
 }
 
-bool makeEvent(int folder, const char* file, EventObject* event) {
+// Written, not only sized: a full disk must show here and not at the first use of the mapping.
+static int writeNewState(int descriptor) {
+    const ssize_t written = write(descriptor, &NEW_STATE, sizeof NEW_STATE);
+    if (written != (ssize_t)sizeof NEW_STATE) {
+        return written < 0 ? errno : ENOSPC;
+    }
+    return fchmod(descriptor, 0600) == 0 ? 0 : errno;
+}
+
+int makeEvent(int folder, const char* file, EventObject* event) {
     const int descriptor = openat(folder, file, O_CREAT | O_EXCL | O_RDWR | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (descriptor < 0) {
-        return false;
+        return errno;
     }
-    // Written, not only sized: a full disk must show here and not at the first use of the mapping.
-    const bool written = write(descriptor, &NEW_STATE, sizeof NEW_STATE) == (ssize_t)sizeof NEW_STATE;
-    if (!written || fchmod(descriptor, 0600) != 0) {
+    const int error = writeNewState(descriptor);
+    if (error != 0) {
         close(descriptor);
         unlinkat(folder, file, 0);
-        return false;
+        return error;
     }
     return mapEvent(descriptor, event);
 }
@@ -96,9 +104,12 @@ bool hasOtherCreator(const EventObject* event) {
     return fcntl(event->descriptor, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
 }
 
-bool claimEvent(const EventObject* event) {
+int claimEvent(const EventObject* event) {
     struct flock lock = creatorLock(F_WRLCK);
-    return fcntl(event->descriptor, F_SETLK, &lock) == 0;
+    if (fcntl(event->descriptor, F_SETLK, &lock) == 0) {
+        return 0;
+    }
+    return errno == EAGAIN || errno == EACCES ? EADDRINUSE : errno;
 }
 
 void unclaimEvent(const EventObject* event) {

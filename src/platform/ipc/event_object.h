@@ -30,16 +30,19 @@ typedef struct {
     EventState* state;
 } EventObject;
 
-typedef enum { EVENT_OPENED, EVENT_MISSING, EVENT_FOREIGN, EVENT_FAILED } OpenResult;
+// Of openEvent(): something else stands there (not a regular file of this user alone, or not an
+// event).
+enum { EVENT_FOREIGN = -1 };
 
-// The functions that take `folder` need it locked (see event_folder.h).
+// The functions that take `folder` need it locked (see event_folder.h). Those that return an int return
+// 0, or the error number of what went wrong.
 
-// Opens the event in `file`. EVENT_FOREIGN: something else stands there (not a regular file of this
-// user alone, or not an event); it is neither followed nor read through.
-OpenResult openEvent(int folder, const char* file, EventObject* event);
+// Opens the event in `file`. ENOENT when nothing stands there; what is EVENT_FOREIGN is neither
+// followed nor read through.
+int openEvent(int folder, const char* file, EventObject* event);
 
-// Makes a new event, no signal pending, where nothing stands in `file`. False when it cannot.
-bool makeEvent(int folder, const char* file, EventObject* event);
+// Makes a new event, no signal pending, where nothing stands in `file`.
+int makeEvent(int folder, const char* file, EventObject* event);
 
 // Lets go of the event without changing it.
 void closeEvent(EventObject* event);
@@ -47,8 +50,8 @@ void closeEvent(EventObject* event);
 // Whether another process is the living creator of the event.
 bool hasOtherCreator(const EventObject* event);
 
-// Makes this process the creator until it lets go or ends; false when another process is.
-bool claimEvent(const EventObject* event);
+// Makes this process the creator until it lets go or ends; EADDRINUSE when another process is.
+int claimEvent(const EventObject* event);
 void unclaimEvent(const EventObject* event);
 
 // Marks the event as out of use, wakes all that wait on it, and only then frees its name: whoever

@@ -17,17 +17,18 @@ static bool take(_Atomic uint32_t* direction, uint32_t signal, uint32_t after) {
     return atomic_compare_exchange_strong(direction, &signal, after);
 }
 
-WaitResult waitAsCreator(const EventObject* event) {
+int waitAsCreator(const EventObject* event) {
     _Atomic uint32_t* direction = &event->state->toCreator;
     while (!take(direction, SIGNAL_PENDING, SIGNAL_NONE)) {
         if (atomic_load(direction) == SIGNAL_RETIRED) {
             return WAIT_RETIRED;
         }
-        if (!futexWait(direction, SIGNAL_NONE)) {
-            return WAIT_FAILED;
+        const int error = futexWait(direction, SIGNAL_NONE);
+        if (error != 0) {
+            return error;
         }
     }
-    return WAIT_TAKEN;
+    return 0;
 }
 
 static bool takeLast(const EventObject* event, uint64_t token) {
@@ -35,7 +36,7 @@ static bool takeLast(const EventObject* event, uint64_t token) {
            take(&event->state->toHost, SIGNAL_LAST, SIGNAL_RETIRED);
 }
 
-WaitResult waitAsHost(const EventObject* event, uint64_t token) {
+int waitAsHost(const EventObject* event, uint64_t token) {
     _Atomic uint32_t* direction = &event->state->toHost;
     while (!take(direction, SIGNAL_PENDING, SIGNAL_NONE)) {
         if (takeLast(event, token)) {
@@ -47,9 +48,10 @@ WaitResult waitAsHost(const EventObject* event, uint64_t token) {
         }
         // Seen as the last one here, a signal is this process's own: it sleeps until another takes it.
         const bool own = seen == SIGNAL_LAST && atomic_load(&event->state->author) == token;
-        if ((seen == SIGNAL_NONE || own) && !futexWait(direction, seen)) {
-            return WAIT_FAILED;
+        const int error = seen == SIGNAL_NONE || own ? futexWait(direction, seen) : 0;
+        if (error != 0) {
+            return error;
         }
     }
-    return WAIT_TAKEN;
+    return 0;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "event_table.h"
 
+#include "event_refusal.h"
+
 #include <pthread.h>
 #include <stdlib.h>
 #include <string.h>
@@ -116,6 +118,7 @@ uint64_t processToken(void) {
 // The child is another process: it has no part in what its parent created or waits for.
 static void startAnew(void) {
     dropAll();
+    forgetAllRefusals();
     table.token = 0;
     unlockTable();
 }
@@ -130,5 +133,6 @@ __attribute__((constructor)) static void guardForks(void) {
 __attribute__((destructor)) static void closeAll(void) {
     lockTable();
     dropAll();
+    forgetAllRefusals();
     unlockTable();
 }

@@ -6,17 +6,16 @@
 #include <limits.h>
 #include <linux/futex.h>
 #include <stdatomic.h>
-#include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// Sleeps while `*word` is `value`. May return early, so the caller looks again; false when the
-// system cannot do it at all, so that the caller does not spin.
-static inline bool futexWait(_Atomic uint32_t* word, uint32_t value) {
+// Sleeps while `*word` is `value`. May return early with 0, so the caller looks again; returns the
+// error number when the system cannot do it at all, so that the caller does not spin.
+static inline int futexWait(_Atomic uint32_t* word, uint32_t value) {
     const long result = syscall(SYS_futex, word, FUTEX_WAIT, value, NULL, NULL, 0);
-    return result == 0 || errno == EAGAIN || errno == EINTR;
+    return result == 0 || errno == EAGAIN || errno == EINTR ? 0 : errno;
 }
 
 // Wakes everyone who sleeps on `*word`, in every process.

@@ -5,6 +5,7 @@
 #include "TavTermIPC.h"
 
 #include <array>
+#include <cerrno>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/socket.h>
@@ -15,6 +16,11 @@ namespace {
 
 // A name of any length that a test uses, and the letter of the call before it.
 constexpr std::size_t MESSAGE_SIZE = 70000;
+
+struct Reply {
+    int result;
+    int error;
+};
 
 int make(Call what, const char* name) {
     switch (what) {
@@ -43,8 +49,10 @@ int serve(int socket) {
             return 0;
         }
         message.resize(static_cast<std::size_t>(length));
+        errno = 0;
         const int result = make(static_cast<Call>(message.front()), message.c_str() + 1);
-        if (::send(socket, &result, sizeof result, MSG_NOSIGNAL) != static_cast<ssize_t>(sizeof result)) {
+        const Reply reply{result, errno};
+        if (::send(socket, &reply, sizeof reply, MSG_NOSIGNAL) != static_cast<ssize_t>(sizeof reply)) {
             return 1;
         }
     }
@@ -94,12 +102,13 @@ bool Actor::hasResult(std::chrono::milliseconds timeout) {
 }
 
 int Actor::receive(std::chrono::milliseconds timeout) {
-    int result = -1;
+    Reply reply{-1, 0};
     if (!hasResult(timeout) ||
-        recv(m_socket.get(), &result, sizeof result, 0) != static_cast<ssize_t>(sizeof result)) {
+        recv(m_socket.get(), &reply, sizeof reply, 0) != static_cast<ssize_t>(sizeof reply)) {
         return -1;
     }
-    return result;
+    m_error = reply.error;
+    return reply.result;
 }
 
 int Actor::call(Call what, std::string_view name) {

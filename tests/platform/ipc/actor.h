@@ -50,6 +50,9 @@ public:
     void beginWait(std::string_view name) { send(Call::Wait, name); }
     int result() { return receive(DEADLINE); }
 
+    // What errno was after the call whose result came last: set to 0 before each call.
+    int error() const { return m_error; }
+
     // Whether the wait begun sleeps and is not released within the grace time.
     bool isWaiting();
     // The same without the grace time: whether it has come to sleep, still without a result.
@@ -71,6 +74,7 @@ private:
 
     Socket m_socket;
     Child m_child;
+    int m_error = 0;
 };
 
 } // namespace planner::ipctest
