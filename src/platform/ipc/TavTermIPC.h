@@ -21,8 +21,8 @@
 //   ESRCH         signal               there is no living creator to receive it
 //   ECANCELED     wait                 this process has removed the event
 //   EPERM         removal              this process has not created the event
-//   EACCES        every call but the   the folder of events is not the user's own, or open to others
-//                 removal
+//   EACCES        every call but the   the folder of events, or the one that XDG_RUNTIME_DIR names, is
+//                 removal              not the user's own, or open to others
 //   any other     every call but the   what the system said: no descriptors left (EMFILE), the disk is
 //                 removal              full (ENOSPC), a folder stands in the event's place (EISDIR) ...
 //
