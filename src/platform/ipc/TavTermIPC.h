@@ -19,7 +19,10 @@
 //   EADDRINUSE    creation             another living process has created the event
 //                 signal, wait         this process wanted to create it and was refused
 //   ESRCH         signal               there is no living creator to receive it
+//   EOWNERDEAD    wait                 the event's creator has died without removing it
 //   ECANCELED     wait                 this process has removed the event
+//   EIDRM         signal, wait         this process's own event was spoilt: its file was cut short, or
+//                                      marked as removed
 //   EPERM         removal              this process has not created the event
 //   EACCES        every call but the   the folder of events, or the one that XDG_RUNTIME_DIR names, is
 //                 removal              not the user's own, or open to others
@@ -45,8 +48,15 @@ int TvIpcCreazioneEvento(const char* nome);
 int TvIpcSetEvento(const char* nome);
 
 // Blocks, without a time limit and without using the processor, until the other side signals, and
-// takes that signal. Where nobody has created the event yet, waits for that too; a wait also
-// outlives the creator and goes on with the next one.
+// takes that signal. Where nobody has created the event yet, waits for that too, and after a removal
+// for the next creation.
+//
+// The host is told within a second, once, of the death of a creator that it has met: in this wait, or by
+// an earlier signal or wait. What that creator signalled before is taken first. Another one that has
+// taken the name over meanwhile is as good: the wait goes on with it.
+//
+// The creator's wait that is under way when another thread removes the event returns 1 if the host's
+// signal came before the removal, else 0.
 int TvIpcWaitEvento(const char* nome);
 
 // Removes the event; only its creator can. A signal that the other side has not taken yet is kept

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "event_object.h"
 
-#include "futex.h"
-
 #include <errno.h>
 #include <fcntl.h>
 #include <string.h>
@@ -35,18 +33,21 @@ static int mapEvent(int descriptor, EventObject* event) {
     return 0;
 }
 
-static int mapIfEvent(int descriptor, EventObject* event) {
+// Read, not looked at through a mapping: who knows what stands there.
+static bool holdsEvent(int descriptor) {
     struct stat status;
-    if (fstat(descriptor, &status) != 0 || !isEventFile(&status)) {
+    EventState state;
+    return fstat(descriptor, &status) == 0 && isEventFile(&status) &&
+           pread(descriptor, &state, sizeof state, 0) == (ssize_t)sizeof state &&
+           memcmp(state.magic, NEW_STATE.magic, sizeof state.magic) == 0;
+}
+
+static int mapIfEvent(int descriptor, EventObject* event) {
+    if (!holdsEvent(descriptor)) {
         close(descriptor);
         return EVENT_FOREIGN;
     }
-    const int error = mapEvent(descriptor, event);
-    if (error == 0 && memcmp(event->state->magic, NEW_STATE.magic, sizeof NEW_STATE.magic) != 0) {
-        closeEvent(event);
-        return EVENT_FOREIGN;
-    }
-    return error;
+    return mapEvent(descriptor, event);
 }
 
 int openEvent(int folder, const char* file, EventObject* event) {
@@ -92,44 +93,14 @@ void closeEvent(EventObject* event) {
     event->descriptor = -1;
 }
 
-// The creator is known by a record lock: the kernel drops it with the process, however that ends,
-// and a child does not inherit it. The price is that closing any descriptor of the file drops it
-// too, so a creator never opens its own event a second time.
-static struct flock creatorLock(short type) {
-    return (struct flock){.l_type = type, .l_whence = SEEK_SET, .l_start = 0, .l_len = 1};
+EventState* wholeState(const EventObject* event) {
+    // The cheapest call that tells the length; nothing reads on from there.
+    return lseek(event->descriptor, 0, SEEK_END) >= (off_t)sizeof(EventState) ? event->state : NULL;
 }
 
-bool hasOtherCreator(const EventObject* event) {
-    struct flock lock = creatorLock(F_WRLCK);
-    return fcntl(event->descriptor, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
-}
-
-int claimEvent(const EventObject* event) {
-    struct flock lock = creatorLock(F_WRLCK);
-    if (fcntl(event->descriptor, F_SETLK, &lock) == 0) {
-        return 0;
-    }
-    return errno == EAGAIN || errno == EACCES ? EADDRINUSE : errno;
-}
-
-void unclaimEvent(const EventObject* event) {
-    struct flock lock = creatorLock(F_UNLCK);
-    fcntl(event->descriptor, F_SETLK, &lock);
-}
-
-static bool standsIn(int folder, const char* file, const EventObject* event) {
+bool standsIn(int folder, const char* file, const EventObject* event) {
     struct stat named;
     struct stat held;
     return fstatat(folder, file, &named, AT_SYMLINK_NOFOLLOW) == 0 && fstat(event->descriptor, &held) == 0 &&
            named.st_dev == held.st_dev && named.st_ino == held.st_ino;
-}
-
-void retireEvent(int folder, const char* file, const EventObject* event) {
-    atomic_store(&event->state->toHost, SIGNAL_RETIRED);
-    atomic_store(&event->state->toCreator, SIGNAL_RETIRED);
-    futexWakeAll(&event->state->toHost);
-    futexWakeAll(&event->state->toCreator);
-    if (standsIn(folder, file, event)) {
-        unlinkat(folder, file, 0);
-    }
 }

@@ -12,8 +12,10 @@ enum {
     SIGNAL_PENDING = 1,
     // The object is out of use: whoever holds it looks its name up again.
     SIGNAL_RETIRED = 2,
-    // Removed by its creator with the signal to the host still pending.
-    SIGNAL_LAST = 3
+    // Removed with a signal that the other side had not taken yet.
+    SIGNAL_LAST = 3,
+    // Only to the host: like none, and hosts sleep that have met no creator. One that comes wakes them.
+    SIGNAL_VACANT = 4
 };
 
 // The content of an event's file. Each change is one atomic operation, so a process killed at any
@@ -47,13 +49,9 @@ int makeEvent(int folder, const char* file, EventObject* event);
 // Lets go of the event without changing it.
 void closeEvent(EventObject* event);
 
-// Whether another process is the living creator of the event.
-bool hasOtherCreator(const EventObject* event);
+// What the event's file holds, to be touched at once; null when the file has been cut short, where a touch
+// would end the process. To be asked anew after each sleep.
+EventState* wholeState(const EventObject* event);
 
-// Makes this process the creator until it lets go or ends; EADDRINUSE when another process is.
-int claimEvent(const EventObject* event);
-void unclaimEvent(const EventObject* event);
-
-// Marks the event as out of use, wakes all that wait on it, and only then frees its name: whoever
-// is killed half-way leaves a mark that the next one finds.
-void retireEvent(int folder, const char* file, const EventObject* event);
+// Whether `file` is still the name of the event.
+bool standsIn(int folder, const char* file, const EventObject* event);

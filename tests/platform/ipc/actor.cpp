@@ -124,6 +124,10 @@ bool Actor::isWaiting() {
     return sleeps() && !hasResult(GRACE);
 }
 
+bool Actor::staysWaiting() {
+    return sleeps() && !hasResult(LONG_GRACE);
+}
+
 void Actor::end() {
     send(Call::End, {});
     m_child.exitCode();

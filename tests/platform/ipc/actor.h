@@ -55,6 +55,8 @@ public:
 
     // Whether the wait begun sleeps and is not released within the grace time.
     bool isWaiting();
+    // The same for longer than a death takes to be noticed.
+    bool staysWaiting();
     // The same without the grace time: whether it has come to sleep, still without a result.
     bool sleeps();
 
@@ -62,6 +64,7 @@ public:
     void end();
     void kill() { m_child.kill(); }
     void stop() { m_child.stop(); }
+    void goOn() { m_child.goOn(); }
 
 private:
     int call(Call what, std::string_view name);
