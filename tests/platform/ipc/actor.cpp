@@ -3,9 +3,11 @@
 #include "actor.h"
 
 #include "TavTermIPC.h"
+#include "platform/ipc/event_watch.h"
 
 #include <array>
 #include <cerrno>
+#include <memory>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/socket.h>
@@ -22,7 +24,9 @@ struct Reply {
     int error;
 };
 
-int make(Call what, const char* name) {
+using Watch = std::unique_ptr<EventWatch>;
+
+int make(Call what, const char* name, Watch& watch) {
     switch (what) {
     case Call::Create:
         return TvIpcCreazioneEvento(name);
@@ -34,6 +38,13 @@ int make(Call what, const char* name) {
         return TvIpcRimozioneEvento(name);
     case Call::CountDescriptors:
         return openDescriptors();
+    case Call::BeginWatch:
+        watch = std::make_unique<EventWatch>(name);
+        return 1;
+    case Call::LastSignalTaken:
+        return watch->lastSignalTaken() ? 1 : 0;
+    case Call::OtherSideAlive:
+        return watch->otherSideAlive() ? 1 : 0;
     case Call::End:
         break;
     }
@@ -41,6 +52,7 @@ int make(Call what, const char* name) {
 }
 
 int serve(int socket) {
+    Watch watch;
     std::string message;
     for (;;) {
         message.resize(MESSAGE_SIZE);
@@ -50,7 +62,7 @@ int serve(int socket) {
         }
         message.resize(static_cast<std::size_t>(length));
         errno = 0;
-        const int result = make(static_cast<Call>(message.front()), message.c_str() + 1);
+        const int result = make(static_cast<Call>(message.front()), message.c_str() + 1, watch);
         const Reply reply{result, errno};
         if (::send(socket, &reply, sizeof reply, MSG_NOSIGNAL) != static_cast<ssize_t>(sizeof reply)) {
             return 1;

@@ -15,6 +15,9 @@ enum class Call : char {
     Wait = 'W',
     Remove = 'R',
     CountDescriptors = 'D',
+    BeginWatch = 'B',
+    LastSignalTaken = 'T',
+    OtherSideAlive = 'O',
     End = 'E'
 };
 
@@ -45,6 +48,11 @@ public:
     int wait(std::string_view name) { return call(Call::Wait, name); }
     int remove(std::string_view name) { return call(Call::Remove, name); }
     int descriptors() { return call(Call::CountDescriptors, {}); }
+
+    // A watch over an event of the actor's own, kept until the process ends.
+    int beginWatch(std::string_view name) { return call(Call::BeginWatch, name); }
+    int lastSignalTaken() { return call(Call::LastSignalTaken, {}); }
+    int otherSideAlive() { return call(Call::OtherSideAlive, {}); }
 
     // A wait in two steps: begin it, look whether it sleeps, get its result as above.
     void beginWait(std::string_view name) { send(Call::Wait, name); }
