@@ -30,7 +30,7 @@ Griglia::Griglia(int rows, int cols, int fixedRows, Colore sfondoBase)
     : m_rows(rows), m_cols(cols), m_fixedRows(fixedRows), m_sfondoBase(sfondoBase),
       m_cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols)),
       m_rowHeights(static_cast<std::size_t>(fixedRows) + 1, DefaultRowHeight),
-      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows), m_knownCols(cols) {}
+      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows) {}
 
 void Griglia::setRows(int rows) {
     const LockWindowUpdate lock(*this);
@@ -44,18 +44,6 @@ void Griglia::setRows(int rows) {
     m_dirty.include(m_fixedRows, 0);
     m_dirty.include(m_rows - 1, m_cols - 1);
     m_measuresChanged = true;
-}
-
-void Griglia::setCols(int cols) {
-    if (cols == m_cols) {
-        return;
-    }
-    const LockWindowUpdate lock(*this);
-    m_cols = std::max(cols, FixedCols());
-    m_fasce.clear();
-    m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
-    m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
-    m_corrente.colonna = std::min(m_corrente.colonna, m_cols - 1);
 }
 
 void Griglia::setCurrent(Casella casella) {
@@ -78,10 +66,6 @@ void Griglia::change(int row, int col, Change apply) {
     }
     m_dirty.include(row, col);
     notify();
-}
-
-void Griglia::setText(int row, int col, std::string_view text) {
-    change(row, col, [&](Cella& cell) { cell.testo = intern(text); });
 }
 
 void Griglia::setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana) {
@@ -206,7 +190,6 @@ void Griglia::setColWidth(int col, int twips) {
 void Griglia::setOsservatore(OsservatoreGriglia* osservatore) {
     m_osservatore = osservatore;
     m_knownRows = m_rows;
-    m_knownCols = m_cols;
     m_dirty = {};
     m_measuresChanged = false;
 }
@@ -238,11 +221,10 @@ void Griglia::notify() {
     if (m_locks > 0 || m_osservatore == nullptr) {
         return;
     }
-    const bool structure = m_rows != m_knownRows || m_cols != m_knownCols;
+    const bool structure = m_rows != m_knownRows;
     const AreaCelle area = m_dirty;
     const bool measures = m_measuresChanged;
     m_knownRows = m_rows;
-    m_knownCols = m_cols;
     m_dirty = {};
     m_measuresChanged = false;
     if (structure) {
