@@ -13,7 +13,7 @@ constexpr int MonthHeight = 700;
 
 void layOutMonth(const modpl& sessione, Griglia& flxa, int year, int month) {
     flxa.setCaption(month, 0, Ruolo::mese, nomeMese(month));
-    const int start = colonnaIniziale(primoGiornoSettimana(year, month));
+    const int start = colonnaPrimoGiorno(year, month);
     const int days = lunghezzaMese(sessione.GiorniMese, month);
     for (int day = 1; day <= days; ++day) {
         const int column = start + day - 1;

@@ -63,12 +63,9 @@ std::int16_t primoGiornoSettimana(int anno, int mese) {
     return static_cast<std::int16_t>(weekdayOf(*primo));
 }
 
-int colonnaIniziale(std::int16_t primoGiorno) {
-    return primoGiorno >= 2 ? primoGiorno - 1 : primoGiorno + 6;
-}
-
 int colonnaPrimoGiorno(int anno, int mese) {
-    return colonnaIniziale(primoGiornoSettimana(anno, mese));
+    const int primoGiorno = primoGiornoSettimana(anno, mese);
+    return primoGiorno >= 2 ? primoGiorno - 1 : primoGiorno + 6;
 }
 
 } // namespace planner

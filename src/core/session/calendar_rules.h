@@ -57,9 +57,7 @@ int lunghezzaMese(const TabellaGiorniMese& tabella, int mese);
 /// Weekday of the month's first day: 1 = Sunday ... 7 = Saturday.
 std::int16_t primoGiornoSettimana(int anno, int mese);
 
-/// The Monday-first column, 1 to 7, in which a month stands whose first day has the given weekday.
-int colonnaIniziale(std::int16_t primoGiorno);
-/// The same of a given month.
+/// The Monday-first column, 1 to 7, of the month's first day.
 int colonnaPrimoGiorno(int anno, int mese);
 
 } // namespace planner

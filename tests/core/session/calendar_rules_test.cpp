@@ -150,9 +150,11 @@ TEST(DayofweekTest, LooksAtTheFirstOfTheShownMonthWhateverTheDay) {
 }
 
 TEST(DayofweekTest, TheMonthStartsInItsWeekdaysMondayFirstColumn) {
-    EXPECT_EQ(colonnaIniziale(1), 7);
-    for (std::int16_t weekday = 2; weekday <= 7; ++weekday) {
-        EXPECT_EQ(colonnaIniziale(weekday), weekday - 1);
+    EXPECT_EQ(colonnaPrimoGiorno(2006, 1), 7);
+    // Months whose first days are a Monday, a Tuesday and so on to a Saturday.
+    const std::array months{5, 8, 2, 6, 9, 4};
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(colonnaPrimoGiorno(2006, months.at(static_cast<std::size_t>(column - 1))), column);
     }
 }
 
