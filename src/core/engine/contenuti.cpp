@@ -70,9 +70,7 @@ void Contenuti::LeggiDati() {
     m_fonti.sessione.letture.righe = trap(m_fonti.messaggi, "Errore su File :", path, [&] {
         readRighePlanner(m_fonti.files, path, m_fonti.sessione.archivi);
     });
-    // The weekday and the staff rows do not hang on this file: they hold without it too.
-    Dayofweek();
-    setGridRows();
+    setGridRows(); // the staff's: without the appointments too
 }
 
 void Contenuti::setGridRows() {
@@ -131,11 +129,6 @@ std::string Contenuti::EstraiCollaboratore(std::string_view codice) const {
                                         codice);
 }
 
-void Contenuti::Dayofweek() {
-    const Calendario& calendario = m_fonti.controlli.calendario;
-    m_fonti.sessione.PrimoGiornoSettimana = primoGiornoSettimana(calendario.Year(), calendario.Month());
-}
-
 void Contenuti::showgrid() {
     planner::showgrid(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.Flxm);
     markTodayMonthly(m_fonti.controlli.Flxm, m_fonti.controlli.calendario, m_fonti.orologio.today());
@@ -152,7 +145,6 @@ void Contenuti::PopolaGrid1() {
 }
 
 void Contenuti::PopolaGrid2() {
-    Dayofweek();
     markTodayDaily(m_fonti.controlli.flxg, m_fonti.controlli.calendario, m_fonti.orologio.today());
     announce(planner::PopolaGrid2(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.flxg,
                                   m_fonti.controlli.Toolbar1.dettagliato()));

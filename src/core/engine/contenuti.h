@@ -50,8 +50,8 @@ public:
     /// selected, not sorted.
     void PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const;
 
-    /// Weekday of the first day of the shown month, into the session.
-    void Dayofweek();
+    /// The weekday of the shown month's first day, 1 = Sunday.
+    std::int16_t Dayofweek() const { return m_fonti.controlli.PrimoGiornoSettimana(); }
 
     /// The grids of the three kinds: layout, fill, clear. A fill that had to leave records out says so once.
     void showgrid();

@@ -37,7 +37,6 @@ void showgrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {
     for (int month = 1; month <= 12; ++month) {
         layOutMonth(sessione, flxa, calendario.Year(), month);
     }
-    sessione.PrimoGiornoSettimana = primoGiornoSettimana(calendario.Year(), calendario.Month());
 }
 
 void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {

@@ -161,7 +161,7 @@ TEST_F(GiornalieraTest, AFillSetsTheWeekdayOfTheShownMonth) {
     bench.init("G", "20060315");
     bench.controlli.calendario.setValue(*makeDate(2006, 10, 20));
     bench.motore.PopolaGrid2();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 1);
+    EXPECT_EQ(bench.controlli.PrimoGiornoSettimana(), 1);
     EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20061020");
 }
 

@@ -142,11 +142,9 @@ TEST(DayofweekTest, AMonthThatBeginsOnASundayGives1) {
 TEST(DayofweekTest, LooksAtTheFirstOfTheShownMonthWhateverTheDay) {
     PlannerBench bench;
     bench.controlli.calendario.setValue(*makeDate(2006, 10, 31));
-    bench.motore.Dayofweek();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 1);
+    EXPECT_EQ(bench.motore.Dayofweek(), 1);
     bench.controlli.calendario.setValue(*makeDate(2006, 3, 15));
-    bench.motore.Dayofweek();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 4);
+    EXPECT_EQ(bench.motore.Dayofweek(), 4);
 }
 
 TEST(DayofweekTest, TheMonthStartsInItsWeekdaysMondayFirstColumn) {
