@@ -60,13 +60,9 @@ public:
     void PopolaGrid1();
     void PopolaGrid2();
     void PopolaGrid3();
-    void PulisciGrid1() {
-        planner::PulisciGrid1(m_fonti.controlli.Flxm, m_fonti.controlli.Toolbar1.dettagliato());
-    }
-    void PulisciGrid2() {
-        planner::PulisciGrid2(m_fonti.controlli.flxg, m_fonti.controlli.Toolbar1.dettagliato());
-    }
-    void PulisciGrid3() { planner::PulisciGrid3(m_fonti.controlli.flxa); }
+    void PulisciGrid1() { clearStaffRows(m_fonti.controlli.Flxm, m_fonti.controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid2() { clearStaffRows(m_fonti.controlli.flxg, m_fonti.controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid3() { clearRows(m_fonti.controlli.flxa); }
 
     /// Look-ups in the staff table; see session/staff.h.
     IndiceCollaboratore IndCollaboratore(std::string_view codice) const {

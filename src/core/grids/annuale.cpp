@@ -53,8 +53,4 @@ void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {
     flxa.setCaption(0, 0, Ruolo::anno, std::to_string(calendario.Year()));
 }
 
-void PulisciGrid3(Griglia& flxa) {
-    clearRows(flxa);
-}
-
 } // namespace planner

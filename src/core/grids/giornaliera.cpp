@@ -135,10 +135,4 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
     return esito;
 }
 
-void PulisciGrid2(Griglia& flxg, bool dettagliato) {
-    const Griglia::LockWindowUpdate lock(flxg);
-    clearRows(flxg);
-    setDataRowHeights(flxg, dettagliato);
-}
-
 } // namespace planner

@@ -65,6 +65,8 @@ bool CheckGiornoFestivo(Griglia& griglia, int row, int col, int giorno, int mese
 void clearRows(Griglia& griglia);
 /// Gives every data row the height of the detailed or the plain display.
 void setDataRowHeights(Griglia& griglia, bool dettagliato);
+/// Both, for a grid of the staff.
+void clearStaffRows(Griglia& griglia, bool dettagliato);
 
 /// What a fill could not show.
 struct EsitoRiempimento {

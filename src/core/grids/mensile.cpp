@@ -77,10 +77,4 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
     return esito;
 }
 
-void PulisciGrid1(Griglia& Flxm, bool dettagliato) {
-    const Griglia::LockWindowUpdate lock(Flxm);
-    clearRows(Flxm);
-    setDataRowHeights(Flxm, dettagliato);
-}
-
 } // namespace planner
