@@ -85,8 +85,7 @@ void PlcalWindow::connectGrid(GridView& grid) {
 void PlcalWindow::showMenu(const QPoint& globalPosition) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const Pulsante pulsante :
-         {Pulsante::consult, Pulsante::insimp, Pulsante::agenda, Pulsante::dettno, Pulsante::dettsi}) {
+    for (const Pulsante pulsante : PulsantiMenu) {
         QAction* action = m_Toolbar1->command(pulsante);
         if (action->isEnabled() && action->isVisible()) {
             menu->addAction(action);
