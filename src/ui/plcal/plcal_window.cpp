@@ -27,10 +27,9 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
       m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
-      m_panel(new DetailPanel(this)), m_grids{
-                                          makeGrid(TipoPlanner::Mensile, "Flxm", "Planner mensile"),
-                                          makeGrid(TipoPlanner::Giornaliero, "flxg", "Planner giornaliero"),
-                                          makeGrid(TipoPlanner::Annuale, "flxa", "Planner annuale")} {
+      m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
+                                              makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
+                                              makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
     setObjectName(QStringLiteral("plcal"));
     m_lbldescr->setObjectName(QStringLiteral("lbldescr"));
     m_lblcollab->setObjectName(QStringLiteral("lblcollab"));
@@ -43,13 +42,13 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     m_mezzanotte.setTimerType(Qt::VeryCoarseTimer);
 }
 
-GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view name, std::string_view spoken) {
+GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
     const auto frase = [this, tipo](Casella casella) {
         return casella.colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, casella.riga)
                                                       : fraseCella(m_controlli, m_sessione, tipo, casella);
     };
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
-    grid->setObjectName(fromUtf8(name));
+    grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
     return grid;
 }
