@@ -99,7 +99,6 @@ void PlcalWindow::aggiorna() {
     const PannelloDettagli& panel = m_form->pannello();
     m_lblcollab->setText(fromCp1252(panel.lblcollab));
     m_lblcollab->setVisible(panel.lblcollabVisibile);
-    m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
     m_panel->show(panel);
     m_stato->setText(fromUtf8(m_form->stato()));
     updateGrid();
@@ -165,6 +164,7 @@ void PlcalWindow::rinvia(std::function<void()> azione) {
 void PlcalWindow::mostra() {
     m_pressedHere = false;
     m_untouched = true;
+    m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();
