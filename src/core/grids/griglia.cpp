@@ -15,7 +15,8 @@ constexpr int DefaultColWidth = 350;
 
 } // namespace
 
-void AreaCelle::include(int riga, int colonna) {
+void AreaCelle::include(Casella casella) {
+    const auto [riga, colonna] = casella;
     if (empty()) {
         *this = {riga, colonna, riga, colonna};
         return;
@@ -41,8 +42,8 @@ void Griglia::setRows(int rows) {
     if (m_scelta.riga >= m_rows) {
         m_scelta = {Nessuna, Nessuna};
     }
-    m_dirty.include(m_fixedRows, 0);
-    m_dirty.include(m_rows - 1, m_cols - 1);
+    m_dirty.include({m_fixedRows, 0});
+    m_dirty.include({m_rows - 1, m_cols - 1});
     m_measuresChanged = true;
 }
 
@@ -64,7 +65,7 @@ void Griglia::change(int row, int col, Change apply) {
     if (cell == before) {
         return; // what looks as before needs no repainting
     }
-    m_dirty.include(row, col);
+    m_dirty.include({row, col});
     notify();
 }
 
@@ -119,12 +120,12 @@ void Griglia::scegli(Casella casella) {
     index(casella.riga, casella.colonna);
     scegliNessuna();
     m_scelta = casella;
-    m_dirty.include(casella.riga, casella.colonna);
+    m_dirty.include(casella);
 }
 
 void Griglia::scegliNessuna() {
     if (m_scelta.riga >= 0) {
-        m_dirty.include(m_scelta.riga, m_scelta.colonna);
+        m_dirty.include(m_scelta);
         m_scelta = {Nessuna, Nessuna};
         notify();
     }
@@ -132,8 +133,8 @@ void Griglia::scegliNessuna() {
 
 void Griglia::includeRow(int row) {
     if (row >= 0 && row < m_rows) {
-        m_dirty.include(row, FixedCols());
-        m_dirty.include(row, m_cols - 1);
+        m_dirty.include({row, FixedCols()});
+        m_dirty.include({row, m_cols - 1});
     }
 }
 
@@ -146,8 +147,8 @@ std::span<const FasciaImpegno> Griglia::fasce(int row) const {
 void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
     index(row, 0);
     m_fasce[row] = std::move(fasce);
-    m_dirty.include(row, 0);
-    m_dirty.include(row, m_cols - 1);
+    m_dirty.include({row, 0});
+    m_dirty.include({row, m_cols - 1});
     notify();
 }
 

@@ -38,7 +38,7 @@ struct AreaCelle {
     int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
 
     bool empty() const { return rigaMax < rigaMin || colonnaMax < colonnaMin; }
-    void include(int riga, int colonna);
+    void include(Casella casella);
 };
 
 /// Is told what changed in a grid.
