@@ -95,7 +95,7 @@ TEST(TotalsTest, BeyondTheTableNothingIsAddedAndNothingStands) {
 TEST(TotalsTest, ACategoryThatIsNoneIsASubscriptError) {
     const TabellaTotali totals(1);
     EXPECT_THROW(totals.at({0}, static_cast<Totale>(7)), SubscriptError);
-    EXPECT_THROW(totals.at({0}, static_cast<Totale>(-1)), SubscriptError);
+    EXPECT_THROW(totals.at({0}, static_cast<Totale>(UINT8_MAX)), SubscriptError);
 }
 
 TEST(TotalsTest, ARecordThatOverflowsOneTotalChangesNone) {
