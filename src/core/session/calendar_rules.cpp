@@ -26,6 +26,12 @@ std::string_view nomeMese(int mese) {
     return monthEntry(NomiMesi, mese);
 }
 
+std::string meseInFrase(int mese) {
+    std::string name(nomeMese(mese));
+    name.front() = static_cast<char>(name.front() - 'A' + 'a');
+    return name;
+}
+
 const Festivita* trovaFestivo(int giorno, int mese) {
     const auto found = std::find_if(Festivi.begin(), Festivi.end(), [&](const Festivita& festivo) {
         return festivo.giorno == giorno + 1 && festivo.mese == mese;

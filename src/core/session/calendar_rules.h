@@ -18,6 +18,8 @@ inline constexpr std::array<std::string_view, 12> NomiMesi{"Gennaio",   "Febbrai
 
 /// The name of month 1 to 12. Throws SubscriptError.
 std::string_view nomeMese(int mese);
+/// The same as it stands inside a sentence: "gennaio". Throws SubscriptError.
+std::string meseInFrase(int mese);
 
 /// A fixed public holiday.
 struct Festivita {

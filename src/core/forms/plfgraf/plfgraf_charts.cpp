@@ -21,22 +21,15 @@ constexpr Penna PennaBlu{{0, 0, 255}, 2};
 constexpr std::array<std::string_view, 12> MesiBrevi{"Gen", "Feb", "Mar", "Apr", "Mag", "Giu",
                                                      "Lug", "Ago", "Set", "Ott", "Nov", "Dic"};
 
-/// A month, 1 to 12, as it stands inside a sentence.
-std::string meseMinuscolo(int mese) {
-    std::string name(nomeMese(mese));
-    name.front() = static_cast<char>(name.front() - 'A' + 'a');
-    return name;
-}
-
 std::string voceGiorno(int giorno, const Calendario& calendario) {
     const std::string number = std::to_string(giorno);
     const bool exists = giorno <= lunghezzaMese(giorniMese(calendario.Year()), calendario.Month());
-    return exists ? number + " " + meseMinuscolo(calendario.Month()) : "giorno " + number;
+    return exists ? number + " " + meseInFrase(calendario.Month()) : "giorno " + number;
 }
 
 /// The month that the calendar shows, inside a sentence: "marzo 2006".
 std::string meseMostrato(const Calendario& calendario) {
-    return meseMinuscolo(calendario.Month()) + " " + std::to_string(calendario.Year());
+    return meseInFrase(calendario.Month()) + " " + std::to_string(calendario.Year());
 }
 
 std::string intestazioneMensile(const Collaboratore& collaboratore, const Calendario& calendario) {
@@ -99,7 +92,7 @@ void setEtichetteMesi(Grafico& grafico, const Calendario& calendario) {
     grafico.voci.clear();
     for (std::size_t month = 0; month < MesiBrevi.size(); ++month) {
         grafico.serie.at(month).etichetta = MesiBrevi.at(month);
-        grafico.voci.push_back(meseMinuscolo(static_cast<int>(month) + 1) + " " +
+        grafico.voci.push_back(meseInFrase(static_cast<int>(month) + 1) + " " +
                                std::to_string(calendario.Year()));
     }
 }
