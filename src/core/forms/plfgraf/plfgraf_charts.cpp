@@ -14,9 +14,7 @@ namespace {
 constexpr std::size_t GiorniGrafico = 31;
 constexpr std::size_t CaratteriLegenda = 30;
 constexpr std::string_view TitoloOre = "Ore";
-constexpr Penna PennaRossa{{255, 0, 0}, 4};
 constexpr Penna PennaNera{{0, 0, 0}, 4};
-constexpr Penna PennaBlu{{0, 0, 255}, 2};
 
 constexpr std::array<std::string_view, 12> MesiBrevi{"Gen", "Feb", "Mar", "Apr", "Mag", "Giu",
                                                      "Lug", "Ago", "Set", "Ott", "Nov", "Dic"};
@@ -97,7 +95,7 @@ void setEtichetteMesi(Grafico& grafico, const Calendario& calendario) {
     }
 }
 
-/// Headings, colour, scale and grid as the monthly and the daily chart have them.
+/// Headings, colour and scale as the monthly and the daily chart have them.
 void setAssi(Grafico& grafico, std::string_view titoloX, double massimo) {
     AsseOre& asse = grafico.asseY;
     asse.titolo = TitoloOre;
@@ -105,9 +103,6 @@ void setAssi(Grafico& grafico, std::string_view titoloX, double massimo) {
     grafico.asseX = titoloX;
     asse.Maximum = massimoConMargine(massimo);
     asse.MajorDivision = roundTo16Bit(asse.Maximum);
-    asse.MinorDivision = 1;
-    asse.PennaMajor = PennaRossa;
-    asse.PennaMinor = PennaBlu;
 }
 
 void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massimo) {
@@ -118,9 +113,7 @@ void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massi
     grafico.fontTitoliAssi = {"MS Sans Serif", 12, true};
     asse.Maximum = ArrotondaMassimo(massimo);
     asse.MajorDivision = divisions;
-    asse.MinorDivision = 1;
     asse.PennaMajor = PennaNera;
-    asse.PennaMinor = PennaBlu;
 }
 
 } // namespace
