@@ -11,7 +11,6 @@ namespace planner {
 
 namespace {
 
-constexpr std::size_t GiorniGrafico = 31;
 constexpr std::size_t CaratteriLegenda = 30;
 constexpr std::string_view TitoloOre = "Ore";
 constexpr Penna PennaNera{{0, 0, 0}, 4};
@@ -70,7 +69,7 @@ void setDodiciSerie(Grafico& grafico, const std::vector<double>& valori) {
 void setEtichetteGiorni(Grafico& grafico, const Calendario& calendario) {
     grafico.etichette.clear();
     grafico.voci.clear();
-    for (int giorno = 1; giorno <= static_cast<int>(GiorniGrafico); ++giorno) {
+    for (int giorno = 1; giorno <= static_cast<int>(GiorniMassimi); ++giorno) {
         grafico.etichette.push_back(std::to_string(giorno));
         grafico.voci.push_back(voceGiorno(giorno, calendario));
     }
