@@ -85,6 +85,9 @@ TEST(NomiMesiTest, AreTheTwelveItalianNames) {
     EXPECT_EQ(nomeMese(12), "Dicembre");
     EXPECT_THROW(nomeMese(0), SubscriptError);
     EXPECT_THROW(nomeMese(13), SubscriptError);
+    EXPECT_EQ(meseInFrase(1), "gennaio");
+    EXPECT_EQ(meseInFrase(12), "dicembre");
+    EXPECT_THROW(meseInFrase(0), SubscriptError);
 }
 
 class CheckGiornoFestivoTest : public testing::Test {
