@@ -3,6 +3,7 @@
 #include "ui/plfcollab/plfcollab_window.h"
 
 #include "forms/plfcollab/plfcollab.h"
+#include "forms/tasti.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
@@ -207,7 +208,7 @@ void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
     if (clickFocusedButton(*this, *event)) {
         return;
     }
-    if (event->key() == Qt::Key_Escape) {
+    if (virtualKey(*event) == TastoEscape) {
         m_form->unload();
     } else if (isEnter(*event)) {
         m_form->Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));
