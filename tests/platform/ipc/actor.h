@@ -40,6 +40,8 @@ private:
 class Actor {
 public:
     Actor();
+    // Ends the process in the ordinary way, or kills it when it is in a call.
+    ~Actor();
 
     // Each makes the call in the actor's process and gives its result; -1 when it hangs or the process
     // has gone.
@@ -86,6 +88,7 @@ private:
     Socket m_socket;
     Child m_child;
     int m_error = 0;
+    bool m_inCall = false;
 };
 
 } // namespace planner::ipctest
