@@ -63,6 +63,8 @@ public:
     // What errno was after the call whose result came last: set to 0 before each call.
     int error() const { return m_error; }
 
+    // Whether the wait begun has its result.
+    bool isReleased() { return hasResult(std::chrono::milliseconds(0)); }
     // Whether the wait begun sleeps and is not released within the grace time.
     bool isWaiting();
     // The same for longer than a death takes to be noticed.
