@@ -35,6 +35,11 @@ else()
     target_link_options(planner_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now,-z,noexecstack>)
 endif()
 
+if(PLANNER_COVERAGE)
+    target_compile_options(planner_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(planner_options INTERFACE --coverage)
+endif()
+
 include(CheckPIESupported)
 check_pie_supported()
 

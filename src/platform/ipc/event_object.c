@@ -33,19 +33,31 @@ static int mapEvent(int descriptor, EventObject* event) {
     return 0;
 }
 
-// Read, not looked at through a mapping: who knows what stands there.
-static bool holdsEvent(int descriptor) {
-    struct stat status;
+// Read, not looked at through a mapping: who knows what stands there. 0 for an event.
+static int checkContent(int descriptor) {
     EventState state;
-    return fstat(descriptor, &status) == 0 && isEventFile(&status) &&
-           pread(descriptor, &state, sizeof state, 0) == (ssize_t)sizeof state &&
-           memcmp(state.magic, NEW_STATE.magic, sizeof state.magic) == 0;
+    const ssize_t length = pread(descriptor, &state, sizeof state, 0);
+    if (length < 0) {
+        return errno;
+    }
+    const bool known =
+        length == (ssize_t)sizeof state && memcmp(state.magic, NEW_STATE.magic, sizeof state.magic) == 0;
+    return known ? 0 : EVENT_FOREIGN;
+}
+
+static int checkEvent(int descriptor) {
+    struct stat status;
+    if (fstat(descriptor, &status) != 0) {
+        return errno;
+    }
+    return isEventFile(&status) ? checkContent(descriptor) : EVENT_FOREIGN;
 }
 
 static int mapIfEvent(int descriptor, EventObject* event) {
-    if (!holdsEvent(descriptor)) {
+    const int result = checkEvent(descriptor);
+    if (result != 0) {
         close(descriptor);
-        return EVENT_FOREIGN;
+        return result;
     }
     return mapEvent(descriptor, event);
 }

@@ -124,8 +124,12 @@ uint64_t processToken(void) {
     return table.token;
 }
 
-// The child is another process: it has no part in what its parent created or waits for.
+// The child is another process: it has no part in what its parent created or waits for, and none of the
+// threads that were in a call.
 static void startAnew(void) {
+    for (EventHandle* handle = table.first; handle != NULL; handle = handle->next) {
+        handle->users = 1;
+    }
     dropAll();
     forgetAllRefusals();
     table.token = 0;

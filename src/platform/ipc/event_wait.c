@@ -12,7 +12,7 @@ enum { WAIT_GOES_ON = -3 };
 
 // How often a host looks whether the creator that it has met still lives: the kernel wakes nobody when a
 // record lock goes.
-static const struct timespec LIFE_CHECK = {.tv_nsec = 400 * 1000 * 1000};
+static const struct timespec LIFE_CHECK = {.tv_nsec = 400L * 1000 * 1000};
 
 static bool take(_Atomic uint32_t* direction, uint32_t signal, uint32_t after) {
     return atomic_compare_exchange_strong(direction, &signal, after);

@@ -103,7 +103,14 @@ Actor::Actor(const Ends& ends)
     ::close(ends.far);
 }
 
+Actor::~Actor() {
+    if (!m_inCall) {
+        end();
+    }
+}
+
 void Actor::send(Call what, std::string_view name) {
+    m_inCall = true;
     const std::string message = static_cast<char>(what) + std::string(name);
     ::send(m_socket.get(), message.data(), message.size(), MSG_NOSIGNAL);
 }
@@ -120,6 +127,7 @@ int Actor::receive(std::chrono::milliseconds timeout) {
         return -1;
     }
     m_error = reply.error;
+    m_inCall = false;
     return reply.result;
 }
 

@@ -40,6 +40,8 @@ private:
 class Actor {
 public:
     Actor();
+    // Ends the process in the ordinary way, or kills it when it is in a call.
+    ~Actor();
 
     // Each makes the call in the actor's process and gives its result; -1 when it hangs or the process
     // has gone.
@@ -61,6 +63,8 @@ public:
     // What errno was after the call whose result came last: set to 0 before each call.
     int error() const { return m_error; }
 
+    // Whether the wait begun has its result.
+    bool isReleased() { return hasResult(std::chrono::milliseconds(0)); }
     // Whether the wait begun sleeps and is not released within the grace time.
     bool isWaiting();
     // The same for longer than a death takes to be noticed.
@@ -86,6 +90,7 @@ private:
     Socket m_socket;
     Child m_child;
     int m_error = 0;
+    bool m_inCall = false;
 };
 
 } // namespace planner::ipctest

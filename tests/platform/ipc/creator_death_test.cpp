@@ -164,6 +164,17 @@ TEST_F(CreatorDeathTest, DeathIsToldThoughOtherEventsWereUsedMeanwhile) {
     expectDeathTold(host);
 }
 
+TEST_F(CreatorDeathTest, EventWhoseDeathHasBeenToldIsLetGo) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    planner.kill();
+    expectDeathTold(host);
+    const int before = host.descriptors();
+    ASSERT_EQ(next.create("A"), 1);
+    ASSERT_EQ(host.set("A"), 1);
+    EXPECT_EQ(host.descriptors(), before);
+}
+
 // Stopped, the host cannot look: when it goes on, another planner has taken the name over.
 TEST_F(CreatorDeathTest, WaitGoesOnWithACreatorThatTookTheNameOverMeanwhile) {
     ASSERT_EQ(planner.create("EV"), 1);

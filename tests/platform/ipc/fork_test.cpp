@@ -4,6 +4,7 @@
 #include "ipc_fixture.h"
 
 #include <array>
+#include <thread>
 #include <unistd.h>
 
 namespace planner::ipctest {
@@ -55,6 +56,24 @@ TEST_F(ForkTest, ChildThatEndsLeavesTheCreatorInPlace) {
         return refused == 0 && TvIpcSetEvento("EV") == 1 && TvIpcRimozioneEvento("EV") == 1 ? 0 : 1;
     });
     EXPECT_EQ(creator.exitCode(), 0);
+}
+
+// A thread waits meanwhile; it is not in the child, and neither is what it waits for.
+int forkBesideAWait() {
+    const int before = openDescriptors();
+    std::thread([] { TvIpcWaitEvento("EV"); }).detach();
+    TvIpcWaitEvento("NOW");
+    const int kept = inGrandChild([] { return openDescriptors(); });
+    return kept == before && openDescriptors() > before ? 0 : 1;
+}
+
+TEST_F(ForkTest, ChildKeepsNothingOfAWaitUnderWay) {
+    Actor planner;
+    Child process(forkBesideAWait);
+    ASSERT_TRUE(process.fallsAsleep(2));
+    ASSERT_EQ(planner.create("NOW"), 1);
+    ASSERT_EQ(planner.set("NOW"), 1);
+    EXPECT_EQ(process.exitCode(), 0);
 }
 
 // Forks a process that lives until the other end of the pipe is closed, and ends before it does.
