@@ -12,7 +12,7 @@
 
 #include <errno.h>
 
-// A process that waited as a host and now creates is the creator for all its threads: those that
+// A process that waited as a host and then creates is the creator for all its threads: those that
 // still wait must look again, or they would take the signals of their own side.
 static bool dropHostHandle(int folder, const char* file) {
     EventHandle* handle = findHandle(file);
