@@ -6,8 +6,13 @@
 #include "planner_host/errors.h"
 #include "planner_host/transit_file.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <cerrno>
+#include <string_view>
 #include <sys/eventfd.h>
+#include <system_error>
 #include <thread>
 
 namespace planner {
@@ -24,24 +29,45 @@ class AttesaEvento {
 public:
     explicit AttesaEvento(const std::string& evento) : m_state(std::make_shared<State>()) {
         std::thread([state = m_state, evento] {
-            state->failed = TvIpcWaitEvento(evento.c_str()) == 0;
+            state->error = TvIpcWaitEvento(evento.c_str()) == 0 ? errno : 0;
             ::eventfd_write(state->handle.get(), 1);
         }).detach();
     }
 
     int descriptor() const { return m_state->handle.get(); }
-    bool failed() const { return m_state->failed; }
+    /// Of the wait that has ended: the error number, 0 for a signal.
+    int error() const { return m_state->error; }
 
 private:
     struct State {
         FileDescriptor handle{::eventfd(0, EFD_CLOEXEC)};
-        std::atomic<bool> failed{false};
+        std::atomic<int> error{0};
     };
     std::shared_ptr<State> m_state;
 };
 
-[[noreturn]] void failEvent(const std::string& what, const std::string& evento) {
-    throw HostError(CodiceUscita::ErroreFile, what + " l'evento \"" + evento + "\"");
+struct Motivo {
+    int errore;
+    std::string_view testo;
+};
+
+constexpr std::array MotiviEvento{
+    Motivo{ESRCH, "nessun planner lo ha creato, o non c'è più"},
+    Motivo{EOWNERDEAD, "chi lo ha creato è finito senza rispondere"},
+    Motivo{EACCES, "la cartella degli eventi non è dell'utente, o è aperta ad altri"},
+    Motivo{ENAMETOOLONG, "il nome è troppo lungo"},
+    Motivo{EINVAL, "XDG_RUNTIME_DIR non è un percorso completo"},
+};
+
+std::string reason(int error) {
+    const auto found = std::find_if(MotiviEvento.begin(), MotiviEvento.end(),
+                                    [error](const Motivo& motivo) { return motivo.errore == error; });
+    return found == MotiviEvento.end() ? std::generic_category().message(error) : std::string(found->testo);
+}
+
+[[noreturn]] void failEvent(const std::string& what, const std::string& evento, int error) {
+    const CodiceUscita codice = error == EOWNERDEAD ? CodiceUscita::PlannerFallito : CodiceUscita::ErroreFile;
+    throw HostError(codice, what + " l'evento \"" + evento + "\": " + reason(error));
 }
 
 } // namespace
@@ -58,13 +84,9 @@ TransitRequest EventConversation::chiedi(const TransitRequest& richiesta) {
 }
 
 void EventConversation::announce() {
-    if (TvIpcSetEvento(dati().evento.c_str()) != 0) {
-        return;
+    if (TvIpcSetEvento(dati().evento.c_str()) == 0) {
+        fail("impossibile segnalare", errno);
     }
-    if (planner().waitForEnd(TempoUltimaRisposta)) {
-        failWithoutAnswer();
-    }
-    failEvent("impossibile segnalare", dati().evento);
 }
 
 void EventConversation::waitForAnswer() {
@@ -76,9 +98,17 @@ void EventConversation::waitForAnswer() {
     if (sveglia != Sveglia::Pronto) {
         failWithoutAnswer();
     }
-    if (attesa.failed()) {
-        failEvent("impossibile aspettare", dati().evento);
+    if (attesa.error() != 0) {
+        fail("impossibile aspettare", attesa.error());
     }
+}
+
+void EventConversation::fail(const std::string& what, int error) {
+    const bool gone = error == ESRCH || error == EOWNERDEAD;
+    if (gone && planner().waitForEnd(TempoUltimaRisposta)) {
+        failWithoutAnswer();
+    }
+    failEvent(what, dati().evento, error);
 }
 
 void EventConversation::congeda() {

@@ -19,6 +19,7 @@ public:
 private:
     void announce();
     void waitForAnswer();
+    [[noreturn]] void fail(const std::string& what, int error);
 };
 
 } // namespace planner

@@ -9,8 +9,11 @@
 //                          e  answers "E", then ends with exit code 7
 //                          x  answers eleven characters that are no answer
 //                          r  answers "D" and spoils the host's own fields
+//                          k  is killed, without an answer
+//                          v  answers "D", removes its event, and gives no further answer
 //                          w  says "waiting" and gives no answer; says "ended gently" when asked to end
-//   FAKE_PLANNER_DIARY   a file that gets one line per request
+//   FAKE_PLANNER_BEHIND  when set, a child plays the planner, and this process lives on when the child is
+//   gone FAKE_PLANNER_DIARY   a file that gets one line per request
 #include "TavTermIPC.h"
 #include "host/transit_request.h"
 
@@ -21,6 +24,7 @@
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <sys/prctl.h>
 #include <thread>
 #include <unistd.h>
 
@@ -37,6 +41,7 @@ struct Script {
     std::size_t next = 0;
 
     char take() { return next < letters.size() ? letters[next++] : 'E'; }
+    char last() const { return next == 0 ? ' ' : letters[next - 1]; }
 };
 
 std::string environment(const char* name) {
@@ -68,10 +73,13 @@ void writeDiary(const TransitRequest& record, const std::filesystem::path& folde
 
 void answer(TransitRequest& record, char letter) {
     const std::string day(record.valret.view().substr(0, 8));
-    const bool named = std::string_view("ACDITr").find(letter) != std::string_view::npos;
+    const bool named = std::string_view("ACDITrv").find(letter) != std::string_view::npos;
     record.collab.assign(named ? "RB" : "");
     if (letter == 'r') {
         record.riservato1.assign("spoiled");
+        letter = 'D';
+    }
+    if (letter == 'v') {
         letter = 'D';
     }
     record.valret.assign(
@@ -99,6 +107,9 @@ bool serve(Script& script, const std::filesystem::path& transit, int& exitCode) 
     if (letter == '!') {
         std::exit(DiesExit);
     }
+    if (letter == 'k') {
+        std::raise(SIGKILL);
+    }
     if (letter == 'w') {
         waitForEver();
     }
@@ -114,6 +125,10 @@ int runWithEvent(Script& script, const std::filesystem::path& transit, const cha
     TvIpcCreazioneEvento(event);
     while (goOn) {
         TvIpcSetEvento(event);
+        if (script.last() == 'v') {
+            TvIpcRimozioneEvento(event);
+            waitForEver();
+        }
         TvIpcWaitEvento(event);
         goOn = serve(script, transit, exitCode);
     }
@@ -147,6 +162,10 @@ int main(int argc, char** argv) {
     if (argc != 4 || std::string_view(argv[2]).size() != 1) {
         return UsageExit;
     }
+    if (std::getenv("FAKE_PLANNER_BEHIND") != nullptr && fork() != 0) {
+        waitForEver();
+    }
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     const std::filesystem::path transit = argv[1];
     const std::string_view event = argv[3];
     Script script{environment("FAKE_PLANNER_SCRIPT")};

@@ -15,12 +15,14 @@ HostTest::HostTest() {
 RunResult HostTest::host(const std::string& script, std::vector<std::string> options,
                          const std::string& interruptAfter) {
     options.insert(options.begin(), {"--planner", FAKE_PLANNER_FILE});
+    std::map<std::string, std::string> environment = {{"FAKE_PLANNER_SCRIPT", script},
+                                                      {"FAKE_PLANNER_DIARY", (folder() / "diary").string()},
+                                                      {"TMPDIR", temporaryParent().string()},
+                                                      {"XDG_RUNTIME_DIR", runtimeFolder().string()}};
+    environment.insert(m_variables.begin(), m_variables.end());
     return run({.program = PLANNER_HOST_FILE,
                 .arguments = options,
-                .environment = {{"FAKE_PLANNER_SCRIPT", script},
-                                {"FAKE_PLANNER_DIARY", (folder() / "diary").string()},
-                                {"TMPDIR", temporaryParent().string()},
-                                {"XDG_RUNTIME_DIR", runtimeFolder().string()}},
+                .environment = environment,
                 .interruptAfter = interruptAfter});
 }
 

@@ -6,6 +6,7 @@
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,9 @@ protected:
     RunResult host(const std::string& script, std::vector<std::string> options,
                    const std::string& interruptAfter = {});
 
+    /// Sets a variable of the fake planner's for the runs to come.
+    void setVariable(const std::string& name, const std::string& value) { m_variables[name] = value; }
+
     /// What the planner was asked, one line per request.
     std::vector<std::string> diary() const;
 
@@ -32,6 +36,7 @@ protected:
 
 private:
     test::TempFolder m_folder;
+    std::map<std::string, std::string> m_variables;
 };
 
 /// The same in both ways of talking to the planner; the parameter is the value of --modo.

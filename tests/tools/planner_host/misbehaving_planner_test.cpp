@@ -30,6 +30,13 @@ TEST_P(MisbehavingPlanner, ThatDiesLaterIsNoticed) {
     EXPECT_EQ(diary().size(), 3u);
 }
 
+TEST_P(MisbehavingPlanner, ThatIsKilledIsNoticed) {
+    const RunResult result = hostInMode("Dk");
+    EXPECT_TRUE(result.inTime);
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("finito senza rispondere (chiuso dal segnale 9)"));
+}
+
 TEST_P(MisbehavingPlanner, ThatEndsBadlyAfterItsLastAnswerIsNoticed) {
     const RunResult result = hostInMode("e");
     EXPECT_EQ(result.exitCode, 2);
@@ -65,6 +72,40 @@ TEST_P(MisbehavingPlanner, ThatCannotBeStartedIsNamed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, MisbehavingPlanner, testing::Values("evento", "polling"));
+
+// The process that was started lives on, the one that plays the planner does not.
+TEST_F(HostTest, ThePlannersDeathBehindALauncherIsNoticed) {
+    setVariable("FAKE_PLANNER_BEHIND", "1");
+    const RunResult result = host("Dk", {"--collaboratori", "2", "--evento", "prova"});
+    EXPECT_TRUE(result.inTime);
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors,
+                HasSubstr("impossibile aspettare l'evento \"prova\": chi lo ha creato è finito"));
+}
+
+TEST_F(HostTest, ASignalThatNobodyCanReceiveIsSaid) {
+    const RunResult result = host("v", {"--collaboratori", "2", "--evento", "prova"});
+    EXPECT_TRUE(result.inTime);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors, HasSubstr("impossibile segnalare l'evento \"prova\": nessun planner"));
+}
+
+TEST_F(HostTest, AFolderOfEventsThatIsOpenToOthersIsSaid) {
+    const std::filesystem::path events = runtimeFolder() / "tavterm-ipc";
+    std::filesystem::create_directory(events);
+    std::filesystem::permissions(events, std::filesystem::perms::all);
+    const RunResult result = host("w", {"--collaboratori", "2", "--evento", "prova"});
+    EXPECT_TRUE(result.inTime);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors,
+                HasSubstr("impossibile aspettare l'evento \"prova\": la cartella degli eventi"));
+}
+
+TEST_F(HostTest, AnEventNameThatIsTooLongIsSaid) {
+    const RunResult result = host("w", {"--collaboratori", "2", "--evento", std::string(300, 'n')});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors, HasSubstr("il nome è troppo lungo"));
+}
 
 TEST_F(HostTest, AMarkerThatIsThereAlreadyIsLeftAlone) {
     const std::filesystem::path marker = folder() / "LockPl.lck";
