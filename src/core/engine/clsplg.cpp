@@ -92,9 +92,12 @@ void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const
     m_finestra.load();
     m_fonti.controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
     const DateRichiesta dates =
-        readRequestDates(m_fonti.controlli.tipoVisibile, date, m_fonti.orologio.today(), m_fonti.messaggi);
+        readRequestDates(m_fonti.controlli.tipoVisibile, date, m_fonti.orologio.today());
     m_fonti.controlli.calendario.setValue(dates.mostrata);
     m_fonti.sessione.periodo = dates.periodo;
+    if (!dates.guaio.empty()) {
+        m_fonti.messaggi.critical(dates.guaio); // with the day set: the program may be ended in the message
+    }
     setToolbarForKind();
     LeggiCollab();
     m_fonti.sessione.IndiceRichiesto =
