@@ -32,7 +32,7 @@ private:
     QtEventPump m_eventi;
     modpl m_sessione;
     ControlliPlcal m_controlli;
-    Contenuti m_contenuti{{m_sessione, m_controlli, m_files, m_messaggi, m_orologio}};
+    Contenuti m_contenuti{m_sessione, m_controlli, m_files, m_messaggi, m_orologio};
     PlannerWindows m_finestre{m_sessione, m_controlli, m_contenuti, m_messaggi};
 };
 

@@ -23,6 +23,17 @@ void PlannerBench::serve(WPlannerCall& call) {
                     call.collab, call.valret, call.Windowcaption, call.planrichiesto);
 }
 
+void PlannerBench::serveAndClose(std::string_view tipo, std::string_view modo, std::string_view tipocall,
+                                 std::string_view planrichiesto) {
+    WPlannerCall call = richiestaMensile();
+    call.tipoplanner = tipo;
+    call.Windowcaption = std::string(modo) + std::string(20, ' ');
+    call.tipocall = tipocall;
+    call.planrichiesto = planrichiesto;
+    eventi.actions.push_back(answers("20060315  E"));
+    serve(call);
+}
+
 WPlannerCall PlannerBench::richiestaMensile() {
     return {"M",           "20060101",           "20061231", std::string(Cartella) + "\\", " ", "  ",
             "00000000   ", std::string(21, ' '), " "};

@@ -44,6 +44,9 @@ struct PlannerBench {
 
     /// Serves a whole request; the user's actions come from `eventi`. The in/out texts come back in `call`.
     void serve(WPlannerCall& call);
+    /// Serves a request of the given flags whose user closes at once.
+    void serveAndClose(std::string_view tipo, std::string_view modo = " ", std::string_view tipocall = " ",
+                       std::string_view planrichiesto = " ");
     /// The request that `serve` passes on: monthly, 2006, no incoming day.
     static WPlannerCall richiestaMensile();
 

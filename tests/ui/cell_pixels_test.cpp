@@ -170,7 +170,7 @@ TEST_P(CellPixels, TextHasTheColourOfItsCell) {
 }
 
 TEST_P(CellPixels, TextStandsInTheMiddleOrAtTheLeft) {
-    griglia.setText(FirstRow, 3, "I");
+    griglia.setCaption(FirstRow, 3, Ruolo::casella, "I");
     const QRectF leftPart(0, 0, CellSize.width() / 3.0, CellSize.height() - 1.0);
     const QRectF middle(CellSize.width() / 3.0, 0, CellSize.width() / 3.0, CellSize.height() - 1.0);
     EXPECT_FALSE(paint(FirstRow, 3).any(leftPart, isDark));
@@ -187,7 +187,7 @@ TEST_P(CellPixels, TodayHasAFrameInsideItsLines) {
 }
 
 TEST_P(CellPixels, TodaysFrameStandsOnHeadersToo) {
-    griglia.setText(1, 3, "1");
+    griglia.setCaption(1, 3, Ruolo::casella, "1");
     griglia.setCellToday(1, 3, true);
     const Painted cell = paint(1, 3);
     expectFrame(cell, Today);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "archive/fixed_text.h"
 #include "forms/plcal/gesti.h"
+#include "support/panel_labels.h"
 #include "ui/plcal/grid_corner.h"
 #include "window_bench.h"
 
@@ -129,7 +130,7 @@ protected:
 
     Stato stato() {
         const bool totals = GetParam().tipo == TipoPlanner::Annuale
-                                ? !bench.finestra.pannello()["prat"].testo.empty()
+                                ? !etichetta(bench.finestra.pannello(), "prat").testo.empty()
                                 : bench.finestra.pannello().lblcollabVisibile;
         return {bench.shownDay(),
                 bench.griglia().Row(),

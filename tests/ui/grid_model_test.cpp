@@ -30,15 +30,15 @@ struct GridModelTest : testing::Test {
 TEST_F(GridModelTest, FixedRowsAndTheFirstColumnAreHeadersNotData) {
     EXPECT_EQ(model.rowCount(), 4);
     EXPECT_EQ(model.columnCount(), 3);
-    griglia.setText(0, 1, "L");
-    griglia.setText(1, 1, "6");
-    griglia.setText(2, 0, "Nicol\xF2");
+    griglia.setCaption(0, 1, Ruolo::casella, "L");
+    griglia.setCaption(1, 1, Ruolo::casella, "6");
+    griglia.setCaption(2, 0, Ruolo::casella, "Nicol\xF2");
     EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("L 6"));
     EXPECT_EQ(model.headerData(0, Qt::Vertical, Qt::DisplayRole).toString(), QStringLiteral("Nicolò"));
 }
 
 TEST_F(GridModelTest, ACellsTextAndColoursAreThoseOfTheGrid) {
-    griglia.setText(3, 2, "x");
+    griglia.setCaption(3, 2, Ruolo::casella, "x");
     griglia.setCellHoliday(3, 2);
     const QModelIndex index = model.index(1, 1);
     EXPECT_EQ(index.data(Qt::DisplayRole).toString(), QStringLiteral("x"));
@@ -63,8 +63,8 @@ TEST_F(GridModelTest, OneChangedCellIsAnnouncedAloneAndOnce) {
 TEST_F(GridModelTest, AFillIsAnnouncedOnceWhenItsLockGoes) {
     {
         const Griglia::LockWindowUpdate lock(griglia);
-        griglia.setText(2, 1, "a");
-        griglia.setText(5, 3, "b");
+        griglia.setCaption(2, 1, Ruolo::casella, "a");
+        griglia.setCaption(5, 3, Ruolo::casella, "b");
         EXPECT_EQ(changes.size(), 0);
     }
     ASSERT_EQ(changes.size(), 1);
@@ -86,10 +86,10 @@ TEST_F(GridModelTest, AnotherNumberOfRowsResetsTheModel) {
 
 TEST_F(GridModelTest, HeadersAreAnnouncedApartFromData) {
     QSignalSpy headers(&model, &GridModel::headersChanged);
-    griglia.setText(3, 2, "data");
+    griglia.setCaption(3, 2, Ruolo::casella, "data");
     EXPECT_EQ(headers.size(), 0);
-    griglia.setText(3, 0, "name");
-    griglia.setText(0, 2, "day");
+    griglia.setCaption(3, 0, Ruolo::casella, "name");
+    griglia.setCaption(0, 2, Ruolo::casella, "day");
     EXPECT_EQ(headers.size(), 2);
     EXPECT_EQ(changes.size(), 1);
 }

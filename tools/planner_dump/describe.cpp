@@ -77,22 +77,16 @@ Json describeCells(const Griglia& griglia) {
     return cells;
 }
 
-const Griglia& gridOf(const ControlliPlcal& controlli, TipoPlanner tipo) {
-    return tipo == TipoPlanner::Mensile       ? controlli.Flxm
-           : tipo == TipoPlanner::Giornaliero ? controlli.flxg
-                                              : controlli.flxa;
-}
-
 Json describeGrid(const ControlliPlcal& controlli) {
-    if (!controlli.tipoVisibile) {
+    const Griglia* griglia = controlli.grigliaVisibile();
+    if (griglia == nullptr) {
         return nullptr;
     }
-    const Griglia& griglia = gridOf(controlli, *controlli.tipoVisibile);
     return {{"nome", controlli.nomeGrigliaVisibile()},
-            {"righe", griglia.Rows()},
-            {"colonne", griglia.Cols()},
-            {"righeFisse", griglia.FixedRows()},
-            {"celle", describeCells(griglia)}};
+            {"righe", griglia->Rows()},
+            {"colonne", griglia->Cols()},
+            {"righeFisse", griglia->FixedRows()},
+            {"celle", describeCells(*griglia)}};
 }
 
 Json describeButtons(const StatoToolbar& toolbar) {

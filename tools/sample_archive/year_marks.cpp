@@ -102,7 +102,7 @@ std::vector<MesePlanner> creaMesi(int anno, const std::vector<RigaPlanner>& righ
         if (work(giorno) < thresholds.at(month)) {
             continue;
         }
-        const int column = colonnaIniziale(primoGiornoSettimana(anno, monthOf(data))) + dayOf(data) - 1;
+        const int column = colonnaPrimoGiorno(anno, monthOf(data)) + dayOf(data) - 1;
         MesePlanner& mese = mesi.at(month);
         mese.segni.at(static_cast<std::size_t>(column - 1)).assign("*");
         mese.testi.at(static_cast<std::size_t>(column - 1)).assign(cellText(giorno));

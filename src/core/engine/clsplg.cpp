@@ -41,21 +41,21 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
                       const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                       std::string& valret, std::string& Windowcaption, std::string& planrichiesto) {
     openSession(blanksForNuls(Windowcaption), PathArchivi);
-    m_fonti.sessione.tipocall = blanksForNuls(tipocall);
-    m_fonti.sessione.planrichiesto = blanksForNuls(planrichiesto);
+    m_sessione.tipocall = blanksForNuls(tipocall);
+    m_sessione.planrichiesto = blanksForNuls(planrichiesto);
     setUp(blanksForNuls(tipoplanner),
           {blanksForNuls(std::string(slice(valret, 0, 8))), blanksForNuls(startdate), blanksForNuls(enddate)},
           blanksForNuls(collab));
-    m_fonti.controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
-    m_fonti.controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
+    m_controlli.Toolbar1.setEnabled(Pulsante::agenda, tipocall != "A");
+    m_controlli.Toolbar1.setEnabled(Pulsante::grafici, planrichiesto != "S");
     m_finestra.show();
     m_finestra.bringToFront();
-    while (!m_fonti.sessione.FinePlanner) {
+    while (!m_sessione.FinePlanner) {
         m_eventi.waitAndProcess();
     }
-    collab = m_fonti.sessione.collab;
-    valret = m_fonti.sessione.valret;
-    if (m_fonti.sessione.risposta('E') || m_fonti.sessione.risposta('F')) {
+    collab = m_sessione.collab;
+    valret = m_sessione.valret;
+    if (m_sessione.risposta('E') || m_sessione.risposta('F')) {
         m_finestra.hide();
     } else {
         m_finestra.unload();
@@ -63,12 +63,12 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
 }
 
 void clsplg::chiusura(std::string& collab, std::string& valret) const {
-    collab = m_fonti.sessione.collab;
-    valret = m_fonti.controlli.calendario.testoRisposta() + collab + "E";
+    collab = m_sessione.collab;
+    valret = m_controlli.calendario.testoRisposta() + collab + "E";
 }
 
 void clsplg::openSession(const std::string& Windowcaption, const std::string& PathArchivi) {
-    modpl& s = m_fonti.sessione;
+    modpl& s = m_sessione;
     s.ModoFinestra = slice(Windowcaption, 0, 1);
     s.TitoloFinestra = slice(Windowcaption, 1, 20);
     s.FlagFinestra = upperCase(lastChars(Windowcaption, 1));
@@ -90,39 +90,38 @@ void clsplg::Init_planner(const std::string& chiave, const std::string& startdat
 
 void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const std::string& collab) {
     m_finestra.load();
-    m_fonti.controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
-    const DateRichiesta dates =
-        readRequestDates(m_fonti.controlli.tipoVisibile, date, m_fonti.orologio.today());
-    m_fonti.controlli.calendario.setValue(dates.mostrata);
-    m_fonti.sessione.periodo = dates.periodo;
+    m_controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
+    const DateRichiesta dates = readRequestDates(m_controlli.tipoVisibile, date, m_orologio.today());
+    m_controlli.calendario.setValue(dates.mostrata);
+    m_sessione.periodo = dates.periodo;
     if (!dates.guaio.empty()) {
-        m_fonti.messaggi.critical(dates.guaio); // with the day set: the program may be ended in the message
+        m_messaggi.critical(dates.guaio); // with the day set: the program may be ended in the message
     }
     setToolbarForKind();
     LeggiCollab();
-    m_fonti.sessione.IndiceRichiesto =
-        trim(collab).empty() ? IndiceCollaboratore{} : m_fonti.sessione.indiceCodici.trova(collab);
-    runCommand(m_fonti.messaggi, [&] { fillForKind(tipoplanner, collab); });
+    m_sessione.IndiceRichiesto =
+        trim(collab).empty() ? IndiceCollaboratore{} : m_sessione.indiceCodici.trova(collab);
+    runCommand(m_messaggi, [&] { fillForKind(tipoplanner, collab); });
 }
 
 void clsplg::fillForKind(std::string_view tipoplanner, const std::string& collab) {
-    if (!m_fonti.controlli.tipoVisibile) {
-        m_fonti.messaggi.critical("Richiesta non valida: il tipo di planner \"" +
-                                  utf8FromCp1252(tipoplanner) + "\" non è M, G o A.");
-        m_fonti.controlli.Caption = ControlliPlcal::CaptionIniziale;
-        m_fonti.controlli.lbldescr.clear();
+    if (!m_controlli.tipoVisibile) {
+        m_messaggi.critical("Richiesta non valida: il tipo di planner \"" + utf8FromCp1252(tipoplanner) +
+                            "\" non è M, G o A.");
+        m_controlli.Caption = ControlliPlcal::CaptionIniziale;
+        m_controlli.lbldescr.clear();
         return;
     }
     prepara(collab);
-    m_fonti.sessione.CalendarioAttivo = true;
+    m_sessione.CalendarioAttivo = true;
 }
 
 void clsplg::setToolbarForKind() {
-    const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli);
-    const bool dettagliato = tipo == nullptr || tipo->dettagliato(m_fonti.sessione.ModoFinestra);
-    StatoToolbar& toolbar = m_fonti.controlli.Toolbar1;
+    const RegoleTipo* tipo = regoleVisibili(m_controlli);
+    const bool dettagliato = tipo == nullptr || tipo->dettagliato(m_sessione.ModoFinestra);
+    StatoToolbar& toolbar = m_controlli.Toolbar1;
     toolbar.reset(dettagliato);
-    m_fonti.sessione.LivelloDettaglio = dettagliato ? 4 : 1;
+    m_sessione.LivelloDettaglio = dettagliato ? 4 : 1;
     if (tipo == nullptr || !tipo->perCollaboratore) {
         for (const Pulsante pulsante : {Pulsante::dettno, Pulsante::dettsi, Pulsante::coll}) {
             toolbar.setEnabled(pulsante, false);

@@ -26,7 +26,7 @@ struct Ambiente {
 class clsplg : public Contenuti, public Motore {
 public:
     explicit clsplg(const Ambiente& a)
-        : Contenuti({a.sessione, a.controlli, a.files, a.messaggi, a.orologio}), m_finestra(a.finestra),
+        : Contenuti(a.sessione, a.controlli, a.files, a.messaggi, a.orologio), m_finestra(a.finestra),
           m_eventi(a.eventi) {}
 
     void WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,

@@ -29,8 +29,8 @@ bool trap(MessageBoxes& messaggi, std::string_view wording, const std::string& p
 } // namespace
 
 void Contenuti::prepara(const std::string& collab) {
-    if (const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli)) {
-        m_fonti.controlli.Caption = tipo->Caption;
+    if (const RegoleTipo* tipo = regoleVisibili(m_controlli)) {
+        m_controlli.Caption = tipo->Caption;
         (this->*tipo->pulisci)();
         (this->*tipo->leggi)();
         (this->*tipo->disponi)();
@@ -40,12 +40,12 @@ void Contenuti::prepara(const std::string& collab) {
 }
 
 void Contenuti::rinnova() {
-    const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli);
+    const RegoleTipo* tipo = regoleVisibili(m_controlli);
     tipo != nullptr && tipo->unGiorno ? ricompila() : prepara();
 }
 
 void Contenuti::ricompila() {
-    if (const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli)) {
+    if (const RegoleTipo* tipo = regoleVisibili(m_controlli)) {
         (this->*tipo->pulisci)();
         setGridRows();
         (this->*tipo->popola)();
@@ -53,73 +53,67 @@ void Contenuti::ricompila() {
 }
 
 void Contenuti::segnaOggi() {
-    if (const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli)) {
-        tipo->segnaOggi(m_fonti.controlli.*tipo->griglia, m_fonti.controlli.calendario,
-                        m_fonti.orologio.today());
+    if (const RegoleTipo* tipo = regoleVisibili(m_controlli)) {
+        tipo->segnaOggi(m_controlli.*tipo->griglia, m_controlli.calendario, m_orologio.today());
     }
 }
 
 void Contenuti::Let_planner(const std::string& collab) {
-    if (const RegoleTipo* tipo = regoleVisibili(m_fonti.controlli)) {
-        m_fonti.controlli.lbldescr = tipo->titolo(m_fonti.sessione, m_fonti.controlli.calendario, collab);
+    if (const RegoleTipo* tipo = regoleVisibili(m_controlli)) {
+        m_controlli.lbldescr = tipo->titolo(m_sessione, m_controlli.calendario, collab);
     }
 }
 
 void Contenuti::LeggiDati() {
-    const std::string path = m_fonti.sessione.percorso(FileRighe);
-    m_fonti.sessione.letture.righe = trap(m_fonti.messaggi, "Errore su File :", path, [&] {
-        readRighePlanner(m_fonti.files, path, m_fonti.sessione.archivi);
-    });
-    // The weekday and the staff rows do not hang on this file: they hold without it too.
-    Dayofweek();
-    setGridRows();
+    const std::string path = m_sessione.percorso(FileRighe);
+    m_sessione.letture.righe = trap(m_messaggi, "Errore su File :", path,
+                                    [&] { readRighePlanner(m_files, path, m_sessione.archivi); });
+    setGridRows(); // the staff's: without the appointments too
 }
 
 void Contenuti::setGridRows() {
-    m_fonti.controlli.Flxm.setRows(righeMensile(m_fonti.sessione.archivi.NumCollab));
-    m_fonti.controlli.flxg.setRows(righeGiornaliera(m_fonti.sessione.archivi.NumCollab));
+    m_controlli.Flxm.setRows(righeMensile(m_sessione.archivi.NumCollab));
+    m_controlli.flxg.setRows(righeGiornaliera(m_sessione.archivi.NumCollab));
 }
 
 void Contenuti::LeggiDatiAnnuali() {
-    const std::string path = m_fonti.sessione.percorso(FileAnnuale);
-    m_fonti.sessione.letture.annuale = trap(m_fonti.messaggi, "Errore su File :", path, [&] {
-        readPlannerAnnuale(m_fonti.files, path, m_fonti.sessione.archivi);
-        m_fonti.controlli.calendario.setValue(
-            dateFromTexts("01", "01", m_fonti.sessione.archivi.PlannerAnnuale.front().anno.view()));
+    const std::string path = m_sessione.percorso(FileAnnuale);
+    m_sessione.letture.annuale = trap(m_messaggi, "Errore su File :", path, [&] {
+        readPlannerAnnuale(m_files, path, m_sessione.archivi);
+        m_controlli.calendario.setValue(
+            dateFromTexts("01", "01", m_sessione.archivi.PlannerAnnuale.front().anno.view()));
     });
 }
 
 void Contenuti::leggiAnnoMostrato() {
-    const Data mostrata = m_fonti.controlli.calendario.Value();
+    const Data mostrata = m_controlli.calendario.Value();
     LeggiDatiAnnuali();
-    m_fonti.controlli.calendario.setValue(mostrata);
+    m_controlli.calendario.setValue(mostrata);
 }
 
 bool Contenuti::LeggiCollab() {
-    bool& read = m_fonti.sessione.letture.collaboratori;
+    bool& read = m_sessione.letture.collaboratori;
     read = true;
     try {
-        readCollaboratori(m_fonti.files, m_fonti.sessione.percorso(FileCollaboratori),
-                          m_fonti.sessione.archivi);
+        readCollaboratori(m_files, m_sessione.percorso(FileCollaboratori), m_sessione.archivi);
     } catch (const RuntimeError&) {
         read = false;
     }
-    m_fonti.sessione.indiceCodici = IndiceCodici(m_fonti.sessione.archivi.Collaboratori);
+    m_sessione.indiceCodici = IndiceCodici(m_sessione.archivi.Collaboratori);
     return read;
 }
 
 void Contenuti::LeggiDatiPerGrafici() {
-    const std::string path = m_fonti.sessione.percorso(FileGrafici);
-    m_fonti.sessione.letture.grafici = trap(m_fonti.messaggi, "Errore sul File :", path, [&] {
-        readRigheGrafici(m_fonti.files, path, m_fonti.sessione.archivi);
-    });
+    const std::string path = m_sessione.percorso(FileGrafici);
+    m_sessione.letture.grafici = trap(m_messaggi, "Errore sul File :", path,
+                                      [&] { readRigheGrafici(m_files, path, m_sessione.archivi); });
 }
 
 void Contenuti::PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const {
     List_Prenotazione.svuota();
-    const std::vector<Collaboratore>& staff = m_fonti.sessione.archivi.Collaboratori;
+    const std::vector<Collaboratore>& staff = m_sessione.archivi.Collaboratori;
     // The table's last element lies beyond the file's end.
-    const auto count = std::min(static_cast<std::size_t>(m_fonti.sessione.archivi.NumCollab), staff.size());
+    const auto count = std::min(static_cast<std::size_t>(m_sessione.archivi.NumCollab), staff.size());
     for (const Collaboratore& collaboratore : std::span(staff).first(count)) {
         List_Prenotazione.aggiungi(collaboratore.codice.view(), collaboratore.nome.view(),
                                    collaboratore.mansione.view());
@@ -127,44 +121,37 @@ void Contenuti::PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const {
 }
 
 std::string Contenuti::EstraiCollaboratore(std::string_view codice) const {
-    return planner::EstraiCollaboratore(m_fonti.sessione.archivi.Collaboratori, m_fonti.sessione.indiceCodici,
-                                        codice);
-}
-
-void Contenuti::Dayofweek() {
-    const Calendario& calendario = m_fonti.controlli.calendario;
-    m_fonti.sessione.PrimoGiornoSettimana = primoGiornoSettimana(calendario.Year(), calendario.Month());
+    return planner::EstraiCollaboratore(m_sessione.archivi.Collaboratori, m_sessione.indiceCodici, codice);
 }
 
 void Contenuti::showgrid() {
-    planner::showgrid(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.Flxm);
-    markTodayMonthly(m_fonti.controlli.Flxm, m_fonti.controlli.calendario, m_fonti.orologio.today());
+    planner::showgrid(m_sessione, m_controlli.calendario, m_controlli.Flxm);
+    markTodayMonthly(m_controlli.Flxm, m_controlli.calendario, m_orologio.today());
 }
 
 void Contenuti::showgrid3() {
-    planner::showgrid3(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.flxa);
-    markTodayYearly(m_fonti.controlli.flxa, m_fonti.controlli.calendario, m_fonti.orologio.today());
+    planner::showgrid3(m_sessione, m_controlli.calendario, m_controlli.flxa);
+    markTodayYearly(m_controlli.flxa, m_controlli.calendario, m_orologio.today());
 }
 
 void Contenuti::PopolaGrid1() {
-    announce(planner::PopolaGrid1(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.Flxm,
-                                  m_fonti.controlli.Toolbar1.dettagliato()));
+    announce(planner::PopolaGrid1(m_sessione, m_controlli.calendario, m_controlli.Flxm,
+                                  m_controlli.Toolbar1.dettagliato()));
 }
 
 void Contenuti::PopolaGrid2() {
-    Dayofweek();
-    markTodayDaily(m_fonti.controlli.flxg, m_fonti.controlli.calendario, m_fonti.orologio.today());
-    announce(planner::PopolaGrid2(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.flxg,
-                                  m_fonti.controlli.Toolbar1.dettagliato()));
+    markTodayDaily(m_controlli.flxg, m_controlli.calendario, m_orologio.today());
+    announce(planner::PopolaGrid2(m_sessione, m_controlli.calendario, m_controlli.flxg,
+                                  m_controlli.Toolbar1.dettagliato()));
 }
 
 void Contenuti::PopolaGrid3() {
-    planner::PopolaGrid3(m_fonti.sessione, m_fonti.controlli.calendario, m_fonti.controlli.flxa);
+    planner::PopolaGrid3(m_sessione, m_controlli.calendario, m_controlli.flxa);
 }
 
 void Contenuti::announce(const EsitoRiempimento& esito) {
     if (esito.scartate > 0) {
-        m_fonti.messaggi.critical(esito.messaggio());
+        m_messaggi.critical(esito.messaggio());
     }
 }
 

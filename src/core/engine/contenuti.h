@@ -14,15 +14,10 @@ namespace planner {
 /// controls, so that any number of these may share them.
 class Contenuti {
 public:
-    struct Fonti {
-        modpl& sessione;
-        ControlliPlcal& controlli;
-        FileSystem& files;
-        MessageBoxes& messaggi;
-        const Clock& orologio;
-    };
-
-    explicit Contenuti(const Fonti& fonti) : m_fonti(fonti) {}
+    Contenuti(modpl& sessione, ControlliPlcal& controlli, FileSystem& files, MessageBoxes& messaggi,
+              const Clock& orologio)
+        : m_sessione(sessione), m_controlli(controlli), m_messaggi(messaggi), m_orologio(orologio),
+          m_files(files) {}
 
     /// Reads the archive of the visible kind, and lays its grid out, fills and titles it. Nothing without a
     /// visible grid, as with the next two.
@@ -50,36 +45,37 @@ public:
     /// selected, not sorted.
     void PopolaListaCollab(ListaCollaboratori& List_Prenotazione) const;
 
-    /// Weekday of the first day of the shown month, into the session.
-    void Dayofweek();
+    /// The weekday of the shown month's first day, 1 = Sunday.
+    std::int16_t Dayofweek() const { return m_controlli.PrimoGiornoSettimana(); }
 
     /// The grids of the three kinds: layout, fill, clear. A fill that had to leave records out says so once.
     void showgrid();
-    void showgrid2() { planner::showgrid2(m_fonti.controlli.flxg); }
+    void showgrid2() { planner::showgrid2(m_controlli.flxg); }
     void showgrid3();
     void PopolaGrid1();
     void PopolaGrid2();
     void PopolaGrid3();
-    void PulisciGrid1() {
-        planner::PulisciGrid1(m_fonti.controlli.Flxm, m_fonti.controlli.Toolbar1.dettagliato());
-    }
-    void PulisciGrid2() {
-        planner::PulisciGrid2(m_fonti.controlli.flxg, m_fonti.controlli.Toolbar1.dettagliato());
-    }
-    void PulisciGrid3() { planner::PulisciGrid3(m_fonti.controlli.flxa); }
+    void PulisciGrid1() { clearStaffRows(m_controlli.Flxm, m_controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid2() { clearStaffRows(m_controlli.flxg, m_controlli.Toolbar1.dettagliato()); }
+    void PulisciGrid3() { clearRows(m_controlli.flxa); }
 
     /// Look-ups in the staff table; see session/staff.h.
     IndiceCollaboratore IndCollaboratore(std::string_view codice) const {
-        return m_fonti.sessione.indiceCodici.IndCollaboratore(codice);
+        return m_sessione.indiceCodici.IndCollaboratore(codice);
     }
     std::string EstraiCollaboratore(std::string_view codice) const;
 
 protected:
-    Fonti m_fonti;
+    modpl& m_sessione;
+    ControlliPlcal& m_controlli;
+    MessageBoxes& m_messaggi;
+    const Clock& m_orologio;
 
 private:
     void setGridRows();
     void announce(const EsitoRiempimento& esito);
+
+    FileSystem& m_files;
 };
 
 } // namespace planner

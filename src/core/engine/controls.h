@@ -16,9 +16,6 @@ namespace planner {
 /// The kinds of planner; the letter is the one of the request.
 enum class TipoPlanner : char { Mensile = 'M', Giornaliero = 'G', Annuale = 'A' };
 
-/// The kind that a request's letter names; nothing for any other text.
-std::optional<TipoPlanner> tipoPlanner(std::string_view lettera);
-
 /// What the planner window's controls hold, as plain data: the engine writes it, the window shows it. Texts
 /// are Windows-1252.
 struct ControlliPlcal {
@@ -37,6 +34,10 @@ struct ControlliPlcal {
     std::string tipoplanner() const;
     /// The shown day of the session.
     Data DataSessione() const { return calendario.Value(); }
+    /// The weekday of the shown month's first day, 1 = Sunday.
+    std::int16_t PrimoGiornoSettimana() const {
+        return primoGiornoSettimana(calendario.Year(), calendario.Month());
+    }
     /// The grid of a kind.
     Griglia& griglia(TipoPlanner tipo);
     const Griglia& griglia(TipoPlanner tipo) const;

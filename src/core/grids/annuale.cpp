@@ -13,7 +13,7 @@ constexpr int MonthHeight = 700;
 
 void layOutMonth(const modpl& sessione, Griglia& flxa, int year, int month) {
     flxa.setCaption(month, 0, Ruolo::mese, nomeMese(month));
-    const int start = colonnaIniziale(primoGiornoSettimana(year, month));
+    const int start = colonnaPrimoGiorno(year, month);
     const int days = lunghezzaMese(sessione.GiorniMese, month);
     for (int day = 1; day <= days; ++day) {
         const int column = start + day - 1;
@@ -37,7 +37,6 @@ void showgrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {
     for (int month = 1; month <= 12; ++month) {
         layOutMonth(sessione, flxa, calendario.Year(), month);
     }
-    sessione.PrimoGiornoSettimana = primoGiornoSettimana(calendario.Year(), calendario.Month());
 }
 
 void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {
@@ -52,10 +51,6 @@ void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa) {
         }
     }
     flxa.setCaption(0, 0, Ruolo::anno, std::to_string(calendario.Year()));
-}
-
-void PulisciGrid3(Griglia& flxa) {
-    clearRows(flxa);
 }
 
 } // namespace planner

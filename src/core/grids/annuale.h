@@ -17,7 +17,4 @@ void showgrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa);
 /// Marks the days of the yearly table, and writes the year into the corner.
 void PopolaGrid3(modpl& sessione, const Calendario& calendario, Griglia& flxa);
 
-/// Empties the data rows.
-void PulisciGrid3(Griglia& flxa);
-
 } // namespace planner

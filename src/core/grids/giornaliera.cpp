@@ -16,12 +16,11 @@ namespace {
 constexpr int NameWidth = 2377; // twips
 constexpr int QuarterWidth = 350;
 constexpr int HeaderHeight = 500;
-constexpr int QuartersPerHour = 4;
 constexpr int MinutesPerQuarter = 15;
 
 void writeQuarter(Griglia& flxg, int column) {
-    const int hour = (column - 1) / QuartersPerHour;
-    const int quarter = (column - 1) % QuartersPerHour;
+    const int hour = (column - 1) / QuartiOra;
+    const int quarter = (column - 1) % QuartiOra;
     flxg.setColWidth(column, QuarterWidth);
     flxg.setCaption(0, column, quarter == 0 ? Ruolo::ora : Ruolo::minuti,
                     std::to_string(quarter == 0 ? hour : quarter * MinutesPerQuarter));
@@ -69,7 +68,7 @@ IntervalloColonne colonneImpegno(const RigaPlanner& riga) {
         return {0, 0};
     }
     const int minute = std::max(numberUpTo(riga.minutoInizio.view(), 59), 0);
-    const int first = hour * QuartersPerHour + minute / MinutesPerQuarter + 1;
+    const int first = hour * QuartiOra + minute / MinutesPerQuarter + 1;
     return {first, std::min(first + slots - 1, ColonneQuarti)};
 }
 
@@ -133,12 +132,6 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
     setBars(flxg, bars);
     flxg.setCurrent({PrimaRigaGiornaliera, 1});
     return esito;
-}
-
-void PulisciGrid2(Griglia& flxg, bool dettagliato) {
-    const Griglia::LockWindowUpdate lock(flxg);
-    clearRows(flxg);
-    setDataRowHeights(flxg, dettagliato);
 }
 
 } // namespace planner

@@ -19,9 +19,6 @@ void showgrid2(Griglia& flxg);
 /// run-time error are left out and counted.
 EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato);
 
-/// Empties the data rows.
-void PulisciGrid2(Griglia& flxg, bool dettagliato);
-
 /// Orders a row's bars from left to right and gives each a lane: bars that overlap, directly or through
 /// others, share the row's height, and no two in one lane touch the same column.
 void assegnaCorsie(std::vector<FasciaImpegno>& fasce);

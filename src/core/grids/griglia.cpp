@@ -15,7 +15,8 @@ constexpr int DefaultColWidth = 350;
 
 } // namespace
 
-void AreaCelle::include(int riga, int colonna) {
+void AreaCelle::include(Casella casella) {
+    const auto [riga, colonna] = casella;
     if (empty()) {
         *this = {riga, colonna, riga, colonna};
         return;
@@ -30,7 +31,7 @@ Griglia::Griglia(int rows, int cols, int fixedRows, Colore sfondoBase)
     : m_rows(rows), m_cols(cols), m_fixedRows(fixedRows), m_sfondoBase(sfondoBase),
       m_cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols)),
       m_rowHeights(static_cast<std::size_t>(fixedRows) + 1, DefaultRowHeight),
-      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows), m_knownCols(cols) {}
+      m_colWidths(static_cast<std::size_t>(cols), DefaultColWidth), m_knownRows(rows) {}
 
 void Griglia::setRows(int rows) {
     const LockWindowUpdate lock(*this);
@@ -41,21 +42,9 @@ void Griglia::setRows(int rows) {
     if (m_scelta.riga >= m_rows) {
         m_scelta = {Nessuna, Nessuna};
     }
-    m_dirty.include(m_fixedRows, 0);
-    m_dirty.include(m_rows - 1, m_cols - 1);
+    m_dirty.include({m_fixedRows, 0});
+    m_dirty.include({m_rows - 1, m_cols - 1});
     m_measuresChanged = true;
-}
-
-void Griglia::setCols(int cols) {
-    if (cols == m_cols) {
-        return;
-    }
-    const LockWindowUpdate lock(*this);
-    m_cols = std::max(cols, FixedCols());
-    m_fasce.clear();
-    m_cells.assign(static_cast<std::size_t>(m_rows) * static_cast<std::size_t>(m_cols), Cella{});
-    m_colWidths.resize(static_cast<std::size_t>(m_cols), DefaultColWidth);
-    m_corrente.colonna = std::min(m_corrente.colonna, m_cols - 1);
 }
 
 void Griglia::setCurrent(Casella casella) {
@@ -76,12 +65,8 @@ void Griglia::change(int row, int col, Change apply) {
     if (cell == before) {
         return; // what looks as before needs no repainting
     }
-    m_dirty.include(row, col);
+    m_dirty.include({row, col});
     notify();
-}
-
-void Griglia::setText(int row, int col, std::string_view text) {
-    change(row, col, [&](Cella& cell) { cell.testo = intern(text); });
 }
 
 void Griglia::setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana) {
@@ -135,12 +120,12 @@ void Griglia::scegli(Casella casella) {
     index(casella.riga, casella.colonna);
     scegliNessuna();
     m_scelta = casella;
-    m_dirty.include(casella.riga, casella.colonna);
+    m_dirty.include(casella);
 }
 
 void Griglia::scegliNessuna() {
     if (m_scelta.riga >= 0) {
-        m_dirty.include(m_scelta.riga, m_scelta.colonna);
+        m_dirty.include(m_scelta);
         m_scelta = {Nessuna, Nessuna};
         notify();
     }
@@ -148,8 +133,8 @@ void Griglia::scegliNessuna() {
 
 void Griglia::includeRow(int row) {
     if (row >= 0 && row < m_rows) {
-        m_dirty.include(row, FixedCols());
-        m_dirty.include(row, m_cols - 1);
+        m_dirty.include({row, FixedCols()});
+        m_dirty.include({row, m_cols - 1});
     }
 }
 
@@ -162,8 +147,8 @@ std::span<const FasciaImpegno> Griglia::fasce(int row) const {
 void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
     index(row, 0);
     m_fasce[row] = std::move(fasce);
-    m_dirty.include(row, 0);
-    m_dirty.include(row, m_cols - 1);
+    m_dirty.include({row, 0});
+    m_dirty.include({row, m_cols - 1});
     notify();
 }
 
@@ -206,7 +191,6 @@ void Griglia::setColWidth(int col, int twips) {
 void Griglia::setOsservatore(OsservatoreGriglia* osservatore) {
     m_osservatore = osservatore;
     m_knownRows = m_rows;
-    m_knownCols = m_cols;
     m_dirty = {};
     m_measuresChanged = false;
 }
@@ -238,11 +222,10 @@ void Griglia::notify() {
     if (m_locks > 0 || m_osservatore == nullptr) {
         return;
     }
-    const bool structure = m_rows != m_knownRows || m_cols != m_knownCols;
+    const bool structure = m_rows != m_knownRows;
     const AreaCelle area = m_dirty;
     const bool measures = m_measuresChanged;
     m_knownRows = m_rows;
-    m_knownCols = m_cols;
     m_dirty = {};
     m_measuresChanged = false;
     if (structure) {

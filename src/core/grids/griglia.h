@@ -38,16 +38,16 @@ struct AreaCelle {
     int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
 
     bool empty() const { return rigaMax < rigaMin || colonnaMax < colonnaMin; }
-    void include(int riga, int colonna);
+    void include(Casella casella);
 };
 
 /// Is told what changed in a grid.
 class OsservatoreGriglia {
 public:
     virtual ~OsservatoreGriglia() = default;
-    /// Number of rows or columns changed, and with them anything else.
+    /// The number of rows changed, and with it anything else.
     virtual void strutturaCambiata() = 0;
-    /// Cells changed, or row heights and column widths while the numbers stayed.
+    /// Cells changed, or row heights and column widths while that number stayed.
     virtual void celleCambiate(const AreaCelle& area, bool misure) = 0;
 };
 
@@ -67,8 +67,6 @@ public:
 
     /// Drops rows at the end, or adds new and empty ones. Never fewer than the fixed rows.
     void setRows(int rows);
-    /// Changes the number of columns; every cell becomes new and empty when it differs.
-    void setCols(int cols);
 
     Casella corrente() const { return m_corrente; }
     int Row() const { return m_corrente.riga; }
@@ -81,7 +79,6 @@ public:
     const Cella& cella(Casella c) const { return cella(c.riga, c.colonna); }
     std::string_view TextMatrix(int row, int col) const { return m_texts[cella(row, col).testo]; }
     std::string_view TextMatrix(Casella c) const { return TextMatrix(c.riga, c.colonna); }
-    void setText(int row, int col, std::string_view text);
     /// Makes the cell one of the role with the text, of no holiday and not marked.
     void setCaption(int row, int col, Ruolo ruolo, std::string_view text, bool fineSettimana = false);
     void setCellHoliday(int row, int col);
@@ -161,7 +158,7 @@ private:
     int m_locks = 0;
     AreaCelle m_dirty;
     bool m_measuresChanged = false;
-    int m_knownRows = 0, m_knownCols = 0; // what the observer was last told
+    int m_knownRows = 0; // what the observer was last told
 };
 
 } // namespace planner

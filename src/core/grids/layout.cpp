@@ -39,6 +39,12 @@ void setDataRowHeights(Griglia& griglia, bool dettagliato) {
     griglia.setDataRowHeight(dettagliato ? AltezzaDettagliata : AltezzaNonDettagliata);
 }
 
+void clearStaffRows(Griglia& griglia, bool dettagliato) {
+    const Griglia::LockWindowUpdate lock(griglia);
+    clearRows(griglia);
+    setDataRowHeights(griglia, dettagliato);
+}
+
 void EsitoRiempimento::annota(const std::string& causa) {
     if (scartate++ == 0) {
         primaCausa = causa;

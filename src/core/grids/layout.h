@@ -17,6 +17,7 @@ namespace planner {
 inline constexpr int ColonneGiorni = 37;
 /// Quarter-hour columns of the daily grid.
 inline constexpr int ColonneQuarti = 96;
+inline constexpr int QuartiOra = 4;
 /// Monthly and daily grids have rows to spare below the staff, for the unassigned row and for looks.
 inline constexpr int RigheInPiu = 10;
 
@@ -31,6 +32,11 @@ inline constexpr std::array<std::string_view, 7> LettereGiorni{"L", "M", "M", "G
 /// True for the Saturday and Sunday columns, counted from 1.
 constexpr bool isWeekendColumn(int column) {
     return (column - 1) % 7 >= 5;
+}
+
+/// True for the last column of a week, in the daily grid of an hour; for the names too.
+inline bool finisceGruppo(const Griglia& griglia, int colonna) {
+    return colonna % (griglia.Cols() == ColonneQuarti + 1 ? QuartiOra : 7) == 0;
 }
 
 /// Rows of the monthly grid and of the daily grid for a staff table with the given upper bound.
@@ -65,6 +71,8 @@ bool CheckGiornoFestivo(Griglia& griglia, int row, int col, int giorno, int mese
 void clearRows(Griglia& griglia);
 /// Gives every data row the height of the detailed or the plain display.
 void setDataRowHeights(Griglia& griglia, bool dettagliato);
+/// Both, for a grid of the staff.
+void clearStaffRows(Griglia& griglia, bool dettagliato);
 
 /// What a fill could not show.
 struct EsitoRiempimento {

@@ -45,7 +45,7 @@ void showgrid(modpl& sessione, const Calendario& calendario, Griglia& Flxm) {
     sessione.GiorniMese = giorniMese(calendario.Year());
     layOutColumns(Flxm);
     writeWeekdayLetters(Flxm);
-    const int start = colonnaIniziale(primoGiornoSettimana(calendario.Year(), calendario.Month()));
+    const int start = colonnaPrimoGiorno(calendario.Year(), calendario.Month());
     const int days = lunghezzaMese(sessione.GiorniMese, calendario.Month());
     for (int day = 1; day <= days; ++day) {
         writeDay(Flxm, start + day - 1, day, calendario.Month());
@@ -75,12 +75,6 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
     });
     Flxm.setCurrent({PrimaRigaMensile, 1});
     return esito;
-}
-
-void PulisciGrid1(Griglia& Flxm, bool dettagliato) {
-    const Griglia::LockWindowUpdate lock(Flxm);
-    clearRows(Flxm);
-    setDataRowHeights(Flxm, dettagliato);
 }
 
 } // namespace planner

@@ -21,7 +21,4 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
 /// The first column of the header whose day number is exactly 1. Throws SubscriptError when it has none.
 int columnOfFirstDay(const Griglia& Flxm);
 
-/// Empties the data rows.
-void PulisciGrid1(Griglia& Flxm, bool dettagliato);
-
 } // namespace planner

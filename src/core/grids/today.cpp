@@ -6,14 +6,23 @@
 
 namespace planner {
 
+namespace {
+
+/// Marks the column of today in the row, if the row shows the given month; no other column stays marked.
+void markRow(Griglia& griglia, int row, int anno, int mese, Data oggi) {
+    const bool shownMonth = anno == yearOf(oggi) && mese == monthOf(oggi);
+    const int todays = shownMonth ? colonnaPrimoGiorno(anno, mese) + dayOf(oggi) - 1 : 0;
+    for (int column = 1; column <= ColonneGiorni; ++column) {
+        griglia.setCellToday(row, column, column == todays);
+    }
+}
+
+} // namespace
+
 void markTodayMonthly(Griglia& Flxm, const Calendario& calendario, Data oggi) {
     const Griglia::LockWindowUpdate lock(Flxm);
-    const bool shownMonth = calendario.Month() == monthOf(oggi) && calendario.Year() == yearOf(oggi);
-    const std::string day = std::to_string(dayOf(oggi));
-    for (int column = 1; column <= ColonneGiorni; ++column) {
-        const bool today = shownMonth && Flxm.TextMatrix(1, column) == day;
-        Flxm.setCellToday(0, column, today);
-        Flxm.setCellToday(1, column, today);
+    for (int row = 0; row < Flxm.FixedRows(); ++row) {
+        markRow(Flxm, row, calendario.Year(), calendario.Month(), oggi);
     }
 }
 
@@ -23,12 +32,8 @@ void markTodayDaily(Griglia& flxg, const Calendario& calendario, Data oggi) {
 
 void markTodayYearly(Griglia& flxa, const Calendario& calendario, Data oggi) {
     const Griglia::LockWindowUpdate lock(flxa);
-    const std::string day = std::to_string(dayOf(oggi));
     for (int month = 1; month <= 12; ++month) {
-        const bool shownMonth = calendario.Year() == yearOf(oggi) && month == monthOf(oggi);
-        for (int column = 1; column <= ColonneGiorni; ++column) {
-            flxa.setCellToday(month, column, shownMonth && flxa.TextMatrix(month, column) == day);
-        }
+        markRow(flxa, month, calendario.Year(), month, oggi);
     }
 }
 

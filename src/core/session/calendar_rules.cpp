@@ -26,6 +26,12 @@ std::string_view nomeMese(int mese) {
     return monthEntry(NomiMesi, mese);
 }
 
+std::string meseInFrase(int mese) {
+    std::string name(nomeMese(mese));
+    name.front() = static_cast<char>(name.front() - 'A' + 'a');
+    return name;
+}
+
 const Festivita* trovaFestivo(int giorno, int mese) {
     const auto found = std::find_if(Festivi.begin(), Festivi.end(), [&](const Festivita& festivo) {
         return festivo.giorno == giorno + 1 && festivo.mese == mese;
@@ -63,12 +69,9 @@ std::int16_t primoGiornoSettimana(int anno, int mese) {
     return static_cast<std::int16_t>(weekdayOf(*primo));
 }
 
-int colonnaIniziale(std::int16_t primoGiorno) {
-    return primoGiorno >= 2 ? primoGiorno - 1 : primoGiorno + 6;
-}
-
 int colonnaPrimoGiorno(int anno, int mese) {
-    return colonnaIniziale(primoGiornoSettimana(anno, mese));
+    const int primoGiorno = primoGiornoSettimana(anno, mese);
+    return primoGiorno >= 2 ? primoGiorno - 1 : primoGiorno + 6;
 }
 
 } // namespace planner

@@ -18,6 +18,8 @@ inline constexpr std::array<std::string_view, 12> NomiMesi{"Gennaio",   "Febbrai
 
 /// The name of month 1 to 12. Throws SubscriptError.
 std::string_view nomeMese(int mese);
+/// The same as it stands inside a sentence: "gennaio". Throws SubscriptError.
+std::string meseInFrase(int mese);
 
 /// A fixed public holiday.
 struct Festivita {
@@ -57,9 +59,7 @@ int lunghezzaMese(const TabellaGiorniMese& tabella, int mese);
 /// Weekday of the month's first day: 1 = Sunday ... 7 = Saturday.
 std::int16_t primoGiornoSettimana(int anno, int mese);
 
-/// The Monday-first column, 1 to 7, in which a month stands whose first day has the given weekday.
-int colonnaIniziale(std::int16_t primoGiorno);
-/// The same of a given month.
+/// The Monday-first column, 1 to 7, of the month's first day.
 int colonnaPrimoGiorno(int anno, int mese);
 
 } // namespace planner

@@ -25,11 +25,6 @@ int parseDigits(std::string_view text) {
     return complete ? number : -1;
 }
 
-std::string pad(int number, std::size_t width) {
-    std::string text = std::to_string(number);
-    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
-}
-
 } // namespace
 
 std::optional<Data> makeDate(int anno, int mese, int giorno) {
@@ -64,11 +59,16 @@ std::optional<Data> parseDate(std::string_view yyyymmdd) {
 }
 
 std::string formatDate(Data data) {
-    return pad(yearOf(data), 4) + pad(monthOf(data), 2) + pad(dayOf(data), 2);
+    return padded(yearOf(data), 4) + padded(monthOf(data), 2) + padded(dayOf(data), 2);
+}
+
+std::string padded(int number, std::size_t width) {
+    std::string text = std::to_string(number);
+    return text.size() < width ? std::string(width - text.size(), '0') + text : text;
 }
 
 std::string twoDigits(int number) {
-    return pad(number, 2);
+    return padded(number, 2);
 }
 
 int yearOf(Data data) {

@@ -26,7 +26,8 @@ std::optional<Data> parseDate(std::string_view yyyymmdd);
 /// The day as yyyymmdd.
 std::string formatDate(Data data);
 
-/// The number in at least two digits, with leading zero.
+/// The number, not negative, in at least `width` digits, with leading zeros.
+std::string padded(int number, std::size_t width);
 std::string twoDigits(int number);
 
 int yearOf(Data data);

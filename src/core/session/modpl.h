@@ -47,8 +47,7 @@ struct modpl {
     std::string FlagFinestra;   // "B": reduced window
 
     TabellaGiorniMese GiorniMese = giorniMese(2001);
-    PeriodoSessione periodo;               // that the host asked for
-    std::int16_t PrimoGiornoSettimana = 1; // of the shown month; 1 = Sunday
+    PeriodoSessione periodo; // that the host asked for
 
     Archivi archivi;
     LettureArchivi letture;

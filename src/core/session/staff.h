@@ -13,7 +13,6 @@
 namespace planner {
 
 /// An index into the staff table, or none. No row of a grid: `grids/layout.h` leads from one to the other.
-/// other.
 struct IndiceCollaboratore {
     int valore = -1; // negative for none
 

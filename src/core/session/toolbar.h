@@ -45,6 +45,10 @@ inline constexpr std::array PulsantiToolbar{
     DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
 };
 
+/// The buttons whose commands the grids' menu repeats, in its order.
+inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pulsante::agenda,
+                                         Pulsante::dettno, Pulsante::dettsi};
+
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.
 constexpr std::optional<Pulsante> gemello(Pulsante pulsante) {
     return pulsante == Pulsante::dettno   ? std::optional(Pulsante::dettsi)

@@ -35,14 +35,12 @@ void TabellaTotali::aggiungi(IndiceCollaboratore indice, const ValoriContatori& 
     totals = sums;
 }
 
-std::int16_t TabellaTotali::at(IndiceCollaboratore indice, int categoria) const {
-    if (categoria < 0 || static_cast<std::size_t>(categoria) >= CategorieTotali.size()) {
+std::int16_t TabellaTotali::at(IndiceCollaboratore indice, Totale totale) const {
+    const auto categoria = static_cast<std::size_t>(totale);
+    if (categoria >= CategorieTotali.size()) {
         throw SubscriptError();
     }
-    if (!contiene(indice)) {
-        return 0;
-    }
-    return m_righe[static_cast<std::size_t>(indice.valore)][static_cast<std::size_t>(categoria)];
+    return contiene(indice) ? m_righe[static_cast<std::size_t>(indice.valore)][categoria] : std::int16_t{0};
 }
 
 } // namespace planner

@@ -66,11 +66,8 @@ public:
         return indice.presente() && indice.valore <= upperBound();
     }
 
-    /// 0 for an index beyond the table. Throws SubscriptError for a category that is none.
-    std::int16_t at(IndiceCollaboratore indice, int categoria) const;
-    std::int16_t at(IndiceCollaboratore indice, Totale totale) const {
-        return at(indice, static_cast<int>(totale));
-    }
+    /// 0 for an index beyond the table. Throws SubscriptError for a total that is none.
+    std::int16_t at(IndiceCollaboratore indice, Totale totale) const;
 
     int upperBound() const { return static_cast<int>(m_righe.size()) - 1; }
     const std::vector<Riga>& righe() const { return m_righe; }

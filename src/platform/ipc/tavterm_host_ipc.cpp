@@ -26,7 +26,11 @@ EsitoEvento called(int (*operation)(const char*), const std::string& nome) {
 } // namespace
 
 EsitoEvento TavTermHostIpc::TvIpcCreazioneEvento(const std::string& nome) {
-    return called(&::TvIpcCreazioneEvento, nome);
+    EsitoEvento esito = called(&::TvIpcCreazioneEvento, nome);
+    if (!esito && !m_osservato) {
+        m_osservato.emplace(nome);
+    }
+    return esito;
 }
 
 EsitoEvento TavTermHostIpc::TvIpcSetEvento(const std::string& nome) {
@@ -34,7 +38,9 @@ EsitoEvento TavTermHostIpc::TvIpcSetEvento(const std::string& nome) {
 }
 
 EsitoEvento TavTermHostIpc::TvIpcRimozioneEvento(const std::string& nome) {
-    return called(&::TvIpcRimozioneEvento, nome);
+    EsitoEvento esito = called(&::TvIpcRimozioneEvento, nome);
+    m_osservato.reset();
+    return esito;
 }
 
 EsitoEvento TavTermHostIpc::TvIpcWaitEvento(const std::string& nome) {
@@ -62,14 +68,6 @@ EsitoEvento TavTermHostIpc::waitBesideEvents(const std::string& nome) {
 bool TavTermHostIpc::interrompiAttesa(const std::string& nome) {
     TvIpcRimozioneEvento(nome);
     return m_attesa.valid() && m_attesa.wait_for(EndOfWait) == std::future_status::ready && !m_attesa.get();
-}
-
-bool TavTermHostIpc::rispostaPresa() const {
-    return true;
-}
-
-bool TavTermHostIpc::ospiteVivo() const {
-    return true;
 }
 
 } // namespace planner

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/ipc/event_watch.h"
 #include "ports/event_pump.h"
 #include "ports/host_ipc.h"
 
 #include <future>
+#include <optional>
 
 namespace planner {
 
@@ -20,14 +22,15 @@ public:
     EsitoEvento TvIpcWaitEvento(const std::string& nome) override;
     EsitoEvento TvIpcRimozioneEvento(const std::string& nome) override;
     bool interrompiAttesa(const std::string& nome) override;
-    bool rispostaPresa() const override;
-    bool ospiteVivo() const override;
+    bool rispostaPresa() const override { return !m_osservato || m_osservato->lastSignalTaken(); }
+    bool ospiteVivo() const override { return !m_osservato || m_osservato->otherSideAlive(); }
 
 private:
     EsitoEvento waitBesideEvents(const std::string& nome);
 
     EventPump& m_eventi;
     std::future<EsitoEvento> m_attesa;
+    std::optional<EventWatch> m_osservato; // while this process owns the event
 };
 
 } // namespace planner

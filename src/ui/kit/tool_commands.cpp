@@ -49,8 +49,13 @@ void fitPictures(QToolBar& bar, int height) {
 }
 
 QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
+    const QList<QAction*> before = bar.actions();
+    if (!before.isEmpty() && before.last()->data().toInt() + 1 < command.position) {
+        bar.addSeparator();
+    }
     const QString caption = fromUtf8(command.caption);
     QAction* action = bar.addAction(qtIcon(command.picture), caption);
+    action->setData(command.position);
     action->setObjectName(command.name);
     action->setIconText(buttonText(caption));
     action->setToolTip(captionWithKeys(caption, {QKeySequence(fromUtf8(command.keys))}));

@@ -13,6 +13,7 @@ namespace planner {
 
 /// A command of a toolbar.
 struct ToolCommand {
+    int position; // counted from 1 with the separators
     QString name; // of the action
     std::string_view caption;
     std::string_view picture;
@@ -26,7 +27,8 @@ void setUpToolBar(QToolBar& bar);
 /// fit into `height` pixels.
 void fitPictures(QToolBar& bar, int height);
 
-/// Adds a button, reached by Tab too, whose tool tip tells its keys. Whether the keys work everywhere in the
+/// Adds a button, reached by Tab too, whose tool tip tells its keys, and a separator before it where its
+/// position leaves one out. Whether the keys work everywhere in the
 /// window is the caller's to say.
 QAction* addToolCommand(QToolBar& bar, const ToolCommand& command);
 

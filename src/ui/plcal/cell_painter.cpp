@@ -18,16 +18,9 @@ constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
 constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
 constexpr QRgb TodayColor = qRgb(0, 110, 60);
 constexpr int TextMargin = 4;
-constexpr int QuartersPerHour = 4;
 
 int pictureSide(const QRect& rect) {
     return std::min({rect.width() - 3, rect.height() - 2, 64});
-}
-
-/// A day column's right line is stronger at the end of a week, a quarter's at the end of an hour.
-bool endsGroup(const Griglia& griglia, int col) {
-    const int group = griglia.Cols() == ColonneQuarti + 1 ? QuartersPerHour : 7;
-    return col == 0 || col % group == 0;
 }
 
 /// Above and below the bars of a row: no more than a low row can spare.
@@ -188,7 +181,7 @@ void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia
     painter.fillRect(bottomLine(rect),
                      QColor(casella.riga < griglia.FixedRows() ? StrongLineColor : LineColor));
     painter.fillRect(rightLine(rect),
-                     QColor(endsGroup(griglia, casella.colonna) ? StrongLineColor : LineColor));
+                     QColor(finisceGruppo(griglia, casella.colonna) ? StrongLineColor : LineColor));
 }
 
 } // namespace planner

@@ -19,13 +19,9 @@ CommandBar::CommandBar(QWidget* parent) : QToolBar(parent) {
 }
 
 void CommandBar::addCommand(const DescrizionePulsante& described) {
-    const bool afterSeparator = m_comandi.empty() || static_cast<int>(described.posizione) >
-                                                         static_cast<int>(m_comandi.back().pulsante) + 1;
-    if (afterSeparator && !m_comandi.empty()) {
-        addSeparator();
-    }
-    QAction* action = addToolCommand(
-        *this, {fromUtf8(described.chiave), described.didascalia, described.chiave, described.scorciatoia});
+    QAction* action =
+        addToolCommand(*this, {static_cast<int>(described.posizione), fromUtf8(described.chiave),
+                               described.didascalia, described.chiave, described.scorciatoia});
     action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
     action->setAutoRepeat(false); // a held key is not to reach the next request
     connect(action, &QAction::triggered, this, [this, &described] {

@@ -38,17 +38,19 @@ DetailPanel::DetailPanel(QWidget* parent) : QObject(parent) {
         number->setForegroundRole(QPalette::Text);
         number->setObjectName(fromUtf8(etichetta.nome));
         number->setAlignment(Qt::AlignCenter);
-        m_coppie.push_back({&etichetta, caption, box, number});
+        m_coppie.push_back({caption, box, number});
     }
 }
 
 void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta, const Scala& scala) {
-    for (const Coppia& coppia : m_coppie) {
-        const bool visible = totaleVisibile(*coppia.etichetta, tipo, varianteRidotta);
+    for (std::size_t i = 0; i < m_coppie.size(); ++i) {
+        const EtichettaTotale& etichetta = EtichetteTotali.at(i);
+        const Coppia& coppia = m_coppie[i];
+        const bool visible = totaleVisibile(etichetta, tipo, varianteRidotta);
         coppia.didascalia->setVisible(visible);
         coppia.riquadro->setVisible(visible);
-        const Rettangolo caption = posizioneDidascalia(*coppia.etichetta, varianteRidotta);
-        const Rettangolo number = posizioneNumero(*coppia.etichetta, varianteRidotta);
+        const Rettangolo caption = posizioneDidascalia(etichetta, varianteRidotta);
+        const Rettangolo number = posizioneNumero(etichetta, varianteRidotta);
         coppia.didascalia->setGeometry(qtRect(pixels(caption, scala)));
         coppia.riquadro->setGeometry(qtRect(pixels(number, scala)));
         coppia.numero->setGeometry(coppia.riquadro->rect());
@@ -56,13 +58,14 @@ void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta,
 }
 
 void DetailPanel::show(const PannelloDettagli& contents) {
-    for (const Coppia& coppia : m_coppie) {
-        const StatoEtichetta& state = contents[coppia.etichetta->nome];
+    for (std::size_t i = 0; i < m_coppie.size(); ++i) {
+        const StatoEtichetta& state = contents.totali.at(i);
         const QString number = fromUtf8(state.testo);
-        coppia.numero->setVisible(state.visibile);
-        coppia.numero->setText(number);
-        coppia.numero->setAccessibleName(fromUtf8(coppia.etichetta->didascalia) + QStringLiteral(": ") +
-                                         (number.isEmpty() ? QStringLiteral("0") : number));
+        QLabel* label = m_coppie[i].numero;
+        label->setVisible(state.visibile);
+        label->setText(number);
+        label->setAccessibleName(fromUtf8(EtichetteTotali.at(i).didascalia) + QStringLiteral(": ") +
+                                 (number.isEmpty() ? QStringLiteral("0") : number));
     }
 }
 

@@ -14,7 +14,6 @@ class QWidget;
 namespace planner {
 
 enum class TipoPlanner : char;
-struct EtichettaTotale;
 struct PannelloDettagli;
 struct Scala;
 
@@ -32,12 +31,11 @@ public:
 
 private:
     struct Coppia {
-        const EtichettaTotale* etichetta;
         QLabel* didascalia;
         QFrame* riquadro; // stays in sight when there is no number to show
         QLabel* numero;
     };
-    std::vector<Coppia> m_coppie;
+    std::vector<Coppia> m_coppie; // by place in `EtichetteTotali`
 };
 
 } // namespace planner

@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/grid_header.h"
 
-#include "ui/kit/text.h"
+#include "ui/kit/controls.h"
 #include "ui/plcal/grid_model.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <numeric>
 
@@ -57,12 +55,8 @@ void GridHeader::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 bool GridHeader::viewportEvent(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return QHeaderView::viewportEvent(event);
-    }
-    const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), viewport());
-    return true;
+    return showToolTip(*event, *viewport(), [this](QPoint position) { return toolTipAt(position); }) ||
+           QHeaderView::viewportEvent(event);
 }
 
 QString GridHeader::toolTipAt(const QPoint& position) const {

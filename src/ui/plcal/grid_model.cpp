@@ -11,8 +11,7 @@
 namespace planner {
 
 GridModel::GridModel(Griglia& griglia, Frase frase, QObject* parent)
-    : QAbstractTableModel(parent), m_griglia(griglia), m_frase(std::move(frase)), m_rows(griglia.Rows()),
-      m_cols(griglia.Cols()) {
+    : QAbstractTableModel(parent), m_griglia(griglia), m_frase(std::move(frase)), m_rows(griglia.Rows()) {
     m_griglia.setOsservatore(this);
 }
 
@@ -25,7 +24,7 @@ QModelIndex GridModel::index(int row, int column, const QModelIndex& parent) con
     // column + identifier. Where rows are wider than 16 cells, cells would share places, thousands of them
     // one; giving back an office of 500 would take minutes. The identifier makes the rows lie apart.
     constexpr quintptr hashedRow = 16;
-    const auto apart = static_cast<quintptr>(std::max(m_cols, 0));
+    const auto apart = static_cast<quintptr>(m_griglia.Cols());
     return hasIndex(row, column, parent)
                ? createIndex(row, column,
                              static_cast<quintptr>(row) * (apart > hashedRow ? apart - hashedRow : 0))
@@ -37,7 +36,7 @@ int GridModel::rowCount(const QModelIndex& parent) const {
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : std::max(m_cols - Griglia::FixedCols(), 0);
+    return parent.isValid() ? 0 : m_griglia.Cols() - Griglia::FixedCols();
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
@@ -95,7 +94,6 @@ QString GridModel::columnTitle(int col) const {
 void GridModel::strutturaCambiata() {
     beginResetModel();
     m_rows = m_griglia.Rows();
-    m_cols = m_griglia.Cols();
     endResetModel();
     Q_EMIT measuresChanged();
     Q_EMIT headersChanged();

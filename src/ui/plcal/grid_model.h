@@ -53,7 +53,7 @@ private:
 
     Griglia& m_griglia;
     Frase m_frase;
-    int m_rows, m_cols; // what the views know
+    int m_rows; // what the views know
 };
 
 } // namespace planner

@@ -17,16 +17,16 @@ namespace planner {
 
 namespace {
 
-std::vector<int> columnWidths(const Griglia& griglia) {
-    std::vector<int> twips(static_cast<std::size_t>(griglia.Cols()));
-    std::generate(twips.begin(), twips.end(), [&, col = 0]() mutable { return griglia.ColWidth(col++); });
-    return twips;
+/// What `sizeOf` gives for each of the rows or columns, counted from 0.
+template <typename SizeOf>
+std::vector<int> sizes(int count, SizeOf sizeOf) {
+    std::vector<int> all(static_cast<std::size_t>(count));
+    std::generate(all.begin(), all.end(), [&, next = 0]() mutable { return sizeOf(next++); });
+    return all;
 }
 
-std::vector<int> rowHeights(const Griglia& griglia) {
-    std::vector<int> twips(static_cast<std::size_t>(griglia.Rows()));
-    std::generate(twips.begin(), twips.end(), [&, row = 0]() mutable { return griglia.RowHeight(row++); });
-    return twips;
+std::vector<int> columnWidths(const Griglia& griglia) {
+    return sizes(griglia.Cols(), [&](int col) { return griglia.ColWidth(col); });
 }
 
 /// The factor that makes lengths just fit into `available` pixels.
@@ -58,8 +58,8 @@ float GridView::rowScale() const {
     }
     // The twelve months fill the grid as long as they stay near their designed height.
     constexpr float smallest = 0.85F;
-    return std::max(fittingScale(height() - 2 * frameWidth(), rowHeights(griglia())),
-                    m_scala.ScalaY * smallest);
+    const auto rows = sizes(griglia().Rows(), [this](int row) { return griglia().RowHeight(row); });
+    return std::max(fittingScale(height() - 2 * frameWidth(), rows), m_scala.ScalaY * smallest);
 }
 
 void GridView::applyMeasures() {
@@ -74,9 +74,8 @@ void GridView::applyMeasures() {
 
 void GridView::applyRowMeasures() {
     const float scale = rowScale();
-    std::vector<int> header(static_cast<std::size_t>(griglia().FixedRows()));
-    std::generate(header.begin(), header.end(),
-                  [&, row = 0]() mutable { return pixels(griglia().RowHeight(row++), scale); });
+    const auto header =
+        sizes(griglia().FixedRows(), [&](int row) { return pixels(griglia().RowHeight(row), scale); });
     m_columns->setThickness(header);
     m_corner->setRowHeights(header);
     if (griglia().Rows() > griglia().FixedRows()) { // all data rows are of one height

@@ -27,10 +27,9 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
       m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
-      m_panel(new DetailPanel(this)), m_grids{
-                                          makeGrid(TipoPlanner::Mensile, "Flxm", "Planner mensile"),
-                                          makeGrid(TipoPlanner::Giornaliero, "flxg", "Planner giornaliero"),
-                                          makeGrid(TipoPlanner::Annuale, "flxa", "Planner annuale")} {
+      m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
+                                              makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
+                                              makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
     setObjectName(QStringLiteral("plcal"));
     m_lbldescr->setObjectName(QStringLiteral("lbldescr"));
     m_lblcollab->setObjectName(QStringLiteral("lblcollab"));
@@ -43,13 +42,13 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     m_mezzanotte.setTimerType(Qt::VeryCoarseTimer);
 }
 
-GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view name, std::string_view spoken) {
+GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
     const auto frase = [this, tipo](Casella casella) {
         return casella.colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, casella.riga)
                                                       : fraseCella(m_controlli, m_sessione, tipo, casella);
     };
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
-    grid->setObjectName(fromUtf8(name));
+    grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
     return grid;
 }
@@ -85,8 +84,7 @@ void PlcalWindow::connectGrid(GridView& grid) {
 void PlcalWindow::showMenu(const QPoint& globalPosition) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const Pulsante pulsante :
-         {Pulsante::consult, Pulsante::insimp, Pulsante::agenda, Pulsante::dettno, Pulsante::dettsi}) {
+    for (const Pulsante pulsante : PulsantiMenu) {
         QAction* action = m_Toolbar1->command(pulsante);
         if (action->isEnabled() && action->isVisible()) {
             menu->addAction(action);
@@ -101,7 +99,6 @@ void PlcalWindow::aggiorna() {
     const PannelloDettagli& panel = m_form->pannello();
     m_lblcollab->setText(fromCp1252(panel.lblcollab));
     m_lblcollab->setVisible(panel.lblcollabVisibile);
-    m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
     m_panel->show(panel);
     m_stato->setText(fromUtf8(m_form->stato()));
     updateGrid();
@@ -167,6 +164,7 @@ void PlcalWindow::rinvia(std::function<void()> azione) {
 void PlcalWindow::mostra() {
     m_pressedHere = false;
     m_untouched = true;
+    m_panel->arrange(m_controlli.tipoVisibile, m_sessione.varianteRidotta(), m_scala);
     showMaximized();
     if (GridView* grid = visibleGrid()) {
         grid->setFocus();

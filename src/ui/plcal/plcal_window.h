@@ -58,7 +58,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    GridView* makeGrid(TipoPlanner tipo, std::string_view name, std::string_view spoken);
+    GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);

@@ -3,6 +3,7 @@
 #include "ui/plfcollab/plfcollab_window.h"
 
 #include "forms/plfcollab/plfcollab.h"
+#include "forms/tasti.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
@@ -62,20 +63,15 @@ QToolBar* PlfcollabWindow::makeToolbar() {
     bar->setObjectName(QStringLiteral("Toolbar_pren"));
     bar->setAccessibleName(QStringLiteral("Comandi"));
     setUpToolBar(*bar);
-    int next = static_cast<int>(ComandiCollab.front().posizione);
     for (const DescrizioneComandoCollab& described : ComandiCollab) {
-        if (static_cast<int>(described.posizione) > next) {
-            bar->addSeparator();
-        }
         addCommand(*bar, described);
-        next = static_cast<int>(described.posizione) + 1;
     }
     return bar;
 }
 
 void PlfcollabWindow::addCommand(QToolBar& bar, const DescrizioneComandoCollab& described) {
     const int indice = static_cast<int>(described.posizione);
-    QAction* action = addToolCommand(bar, {QStringLiteral("Toolbar_pren_") + QString::number(indice),
+    QAction* action = addToolCommand(bar, {indice, QStringLiteral("Toolbar_pren_") + QString::number(indice),
                                            described.didascalia, described.immagine, described.scorciatoia});
     if (described.posizione != ComandoCollab::conferma) { // Enter is for the button that has the focus, first
         action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
@@ -207,7 +203,7 @@ void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
     if (clickFocusedButton(*this, *event)) {
         return;
     }
-    if (event->key() == Qt::Key_Escape) {
+    if (virtualKey(*event) == TastoEscape) {
         m_form->unload();
     } else if (isEnter(*event)) {
         m_form->Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));

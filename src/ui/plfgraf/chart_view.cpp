@@ -3,6 +3,7 @@
 #include "ui/plfgraf/chart_view.h"
 
 #include "ui/plfgraf/chart_model.h"
+#include "ui/plfgraf/chart_shapes.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -28,11 +29,11 @@ void ChartView::setReserved(const QRect& area) {
 }
 
 void ChartView::refresh() {
-    const ChartArea reserved{static_cast<double>(m_reserved.x()), static_cast<double>(m_reserved.y()),
-                             static_cast<double>(m_reserved.width()),
-                             static_cast<double>(m_reserved.height())};
-    const ChartSize size{static_cast<double>(viewport()->width()), static_cast<double>(viewport()->height())};
-    m_layout = layoutChart(m_grafico, size, reserved, m_painter.measure());
+    const QSizeF size = viewport()->size();
+    const QRectF reserved = m_reserved;
+    m_layout =
+        layoutChart(m_grafico, {size.width(), size.height()},
+                    {reserved.x(), reserved.y(), reserved.width(), reserved.height()}, m_painter.measure());
     m_picture = QPixmap();
     m_hovered = QModelIndex();
     point();
@@ -47,12 +48,12 @@ QRect ChartView::visualRect(const QModelIndex& index) const {
     if (!index.isValid()) {
         return {};
     }
-    const ChartArea area = areaOf(m_layout, static_cast<std::size_t>(index.row()));
-    return QRectF(area.x, area.y, area.width, area.height).toAlignedRect();
+    return rectOf(areaOf(m_layout, static_cast<std::size_t>(index.row()))).toAlignedRect();
 }
 
 QModelIndex ChartView::indexAt(const QPoint& point) const {
-    const auto number = valueAt(m_layout, {static_cast<double>(point.x()), static_cast<double>(point.y())});
+    const QPointF place = point;
+    const auto number = valueAt(m_layout, {place.x(), place.y()});
     return number ? model()->index(static_cast<int>(*number), 0) : QModelIndex();
 }
 

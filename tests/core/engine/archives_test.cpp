@@ -38,7 +38,7 @@ TEST_F(ArchivesTest, LeggiDatiReadsTheAppointments) {
 TEST_F(ArchivesTest, LeggiDatiShowsTheSessionDateAndItsMonthsFirstWeekday) {
     bench.motore.LeggiDati();
     EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20061020");
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 1);
+    EXPECT_EQ(bench.controlli.PrimoGiornoSettimana(), 1);
 }
 
 TEST_F(ArchivesTest, LeggiDatiGivesTheGridsTheStaffsRowsAndTenToSpare) {

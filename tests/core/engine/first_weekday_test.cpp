@@ -20,7 +20,7 @@ protected:
         for (int month = 1; month <= 12; ++month) {
             bench.controlli.calendario.setValue(makeDate(2006, month, day).value());
             bench.motore.LeggiDati();
-            EXPECT_EQ(bench.sessione.PrimoGiornoSettimana,
+            EXPECT_EQ(bench.controlli.PrimoGiornoSettimana(),
                       FirstWeekdays.at(static_cast<std::size_t>(month - 1)))
                 << "month " << month;
         }

@@ -39,7 +39,7 @@ TEST_F(TroublesTest, AFillSkipsABadRecordGoesOnAndSaysSoOnceAtItsEnd) {
     EXPECT_EQ(picture(3, 3), 10);
     EXPECT_EQ(picture(3, 4), 10);
     EXPECT_EQ(picture(3, 5), 10);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 0), 3);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::scadenze), 3);
 }
 
 TEST_F(TroublesTest, OneBadRecordIsSaidInTheSingular) {
@@ -54,8 +54,8 @@ TEST_F(TroublesTest, ACounterThatOverflowsSkipsTheRecordWhole) {
                     riga("RB", "20060302", {{2, "00001"}, {11, "00001"}}),
                     riga("RB", "20060303", {{2, "00002"}})});
     bench.init("M", "20060315");
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 1), 6);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 6), 32767);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::pratiche), 6);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::altro), 32767);
     EXPECT_EQ(picture(3, 3), 11);
     EXPECT_EQ(picture(3, 4), 0);
     EXPECT_EQ(picture(3, 5), 11);
@@ -68,9 +68,9 @@ TEST_F(TroublesTest, TheDailyFillSkipsAnOverflowWholeToo) {
                     conOrario(riga("BI", "20060315", {{1, "00001"}}), "09", "00", "9999900"),
                     conOrario(riga("7 ", "20060315", {{1, "00001"}}), "09", "00", "0000100")});
     bench.init("G", "20060315");
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({0}, 0), 0);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 0), 0);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({2}, 0), 1);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({0}, Totale::scadenze), 0);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::scadenze), 0);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({2}, Totale::scadenze), 1);
     EXPECT_EQ(bench.controlli.flxg.cella(1, 37), Cella{});
     EXPECT_EQ(bench.controlli.flxg.cella(2, 37), Cella{});
     EXPECT_THAT(texts(), SizeIs(1));

@@ -12,18 +12,6 @@ using testing::ElementsAre;
 /// A request of a kind that does not exist opens a window without a grid.
 class UnknownKindTest : public testing::Test {
 protected:
-    /// Serves a request whose user closes at once.
-    void serve(std::string_view tipo, std::string_view modo = " ", std::string_view tipocall = " ",
-               std::string_view planrichiesto = " ") {
-        WPlannerCall call = PlannerBench::richiestaMensile();
-        call.tipoplanner = tipo;
-        call.Windowcaption = std::string(modo) + std::string(20, ' ');
-        call.tipocall = tipocall;
-        call.planrichiesto = planrichiesto;
-        bench.eventi.actions.push_back(bench.answers("20060315  E"));
-        bench.serve(call);
-    }
-
     std::vector<std::string_view> keys(bool (StatoToolbar::*has)(Pulsante) const) const {
         std::vector<std::string_view> found;
         for (const DescrizionePulsante& button : PulsantiToolbar) {
@@ -42,7 +30,7 @@ protected:
 TEST_F(UnknownKindTest, WhatNeedsAGridCannotBePressed) {
     for (const std::string_view tipo : {"?", " ", "m", "X"}) {
         for (const std::string_view modo : {" ", "N"}) {
-            serve(tipo, modo);
+            bench.serveAndClose(tipo, modo);
             EXPECT_THAT(usable(),
                         ElementsAre("exit", "filtri", "agenda", "consult", "insimp", "grafici", "info"))
                 << tipo << modo;
@@ -52,7 +40,7 @@ TEST_F(UnknownKindTest, WhatNeedsAGridCannotBePressed) {
 
 TEST_F(UnknownKindTest, OfTheDetailButtonsOneIsInSight) {
     for (const std::string_view modo : {" ", "N"}) {
-        serve("?", modo);
+        bench.serveAndClose("?", modo);
         EXPECT_THAT(inSight(), ElementsAre("exit", "coll", "filtri", "agenda", "consult", "insimp", "dettno",
                                            "grafici", "info"))
             << modo;
@@ -60,20 +48,20 @@ TEST_F(UnknownKindTest, OfTheDetailButtonsOneIsInSight) {
 }
 
 TEST_F(UnknownKindTest, TheRequestDisablesAgendaAndChartsAsInEveryKind) {
-    serve("?", " ", "A", "S");
+    bench.serveAndClose("?", " ", "A", "S");
     EXPECT_THAT(usable(), ElementsAre("exit", "filtri", "consult", "insimp", "info"));
 }
 
 TEST_F(UnknownKindTest, TheNextRequestOfAKindHasItsOwnButtonsAgain) {
-    serve("?");
-    serve("M");
+    bench.serveAndClose("?");
+    bench.serveAndClose("M");
     EXPECT_THAT(usable(), ElementsAre("exit", "coll", "filtri", "agenda", "consult", "insimp", "dettno",
                                       "grafici", "info"));
 }
 
 TEST_F(UnknownKindTest, NothingOfTheKindBeforeStaysOnTheButtons) {
-    serve("M", "N", "A", "S");
-    serve("?");
+    bench.serveAndClose("M", "N", "A", "S");
+    bench.serveAndClose("?");
     EXPECT_THAT(usable(), ElementsAre("exit", "filtri", "agenda", "consult", "insimp", "grafici", "info"));
     EXPECT_EQ(bench.controlli.grigliaVisibile(), nullptr);
 }

@@ -114,7 +114,7 @@ TEST_F(AnnualeTest, TheShownDayStaysThroughTheWalkAroundTheYear) {
     bench.putAnnuale(annoPlanner("2006"));
     bench.init("A", "20060831", "20060101");
     EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20060831");
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 3);
+    EXPECT_EQ(bench.controlli.PrimoGiornoSettimana(), 3);
     bench.motore.showgrid3();
     EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20060831");
 }

@@ -100,7 +100,7 @@ TEST_F(GiornalieraTest, AnEntryWithoutValidStartHourHasItsPictureBesideTheName) 
 TEST_F(GiornalieraTest, AnEntryOfConcludedWorkOnlyHasNoPictureButItsColour) {
     fill({conOrario(riga("RB", "20060315", {{9, "1"}}), "09", "00", "0000030"), RigaPlanner{}});
     EXPECT_EQ(elencoRiga(flxg, 2), "0 \"Rossi Bruno\" | 37-38 =");
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 4), 1);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::scadenzeConcluse), 1);
 }
 
 TEST_F(GiornalieraTest, ThePictureIsChosenAsInTheMonthlyGrid) {
@@ -118,16 +118,16 @@ TEST_F(GiornalieraTest, OnlyRecordsOfTheShownDayAreTaken) {
           conOrario(riga("RB", "20060415", {{1, "1"}}), "09", "00", "0000100"),
           conOrario(riga("RB", "20050315", {{1, "1"}}), "09", "00", "0000100")});
     EXPECT_EQ(elencoRiga(flxg, 2), "0 \"Rossi Bruno\"");
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, 0), 0);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1}, Totale::scadenze), 0);
 }
 
 TEST_F(GiornalieraTest, TotalsAreByRowLessOne) {
     fill({conOrario(riga("RB", "20060315", {{1, "2"}}), "09", "00", "0000100"),
           conOrario(riga("RB", "20060315", {{5, "3"}}), "15", "00", "0000100"),
           riga("BI", "20060315", {{2, "1"}}), riga("ZZ", "20060315", {{8, "4"}})});
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({2 - 1}, 0), 5);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1 - 1}, 1), 1);
-    EXPECT_EQ(bench.sessione.TotaliImpegni.at({4 - 1}, 2), 4);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({2 - 1}, Totale::scadenze), 5);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({1 - 1}, Totale::pratiche), 1);
+    EXPECT_EQ(bench.sessione.TotaliImpegni.at({4 - 1}, Totale::impegniVari), 4);
 }
 
 TEST_F(GiornalieraTest, ARowShowsAllItsEntries) {
@@ -161,7 +161,7 @@ TEST_F(GiornalieraTest, AFillSetsTheWeekdayOfTheShownMonth) {
     bench.init("G", "20060315");
     bench.controlli.calendario.setValue(*makeDate(2006, 10, 20));
     bench.motore.PopolaGrid2();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 1);
+    EXPECT_EQ(bench.controlli.PrimoGiornoSettimana(), 1);
     EXPECT_EQ(bench.controlli.calendario.testoRisposta(), "20061020");
 }
 

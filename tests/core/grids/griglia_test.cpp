@@ -45,14 +45,14 @@ TEST_F(GrigliaTest, KeepsWhatACellHolds) {
 
 TEST_F(GrigliaTest, TextsMayBeAnyBytes) {
     const std::string bytes("a\0\xFF", 3);
-    griglia.setText(1, 1, bytes);
+    griglia.setCaption(1, 1, Ruolo::casella, bytes);
     EXPECT_EQ(griglia.TextMatrix(1, 1), bytes);
 }
 
 TEST_F(GrigliaTest, TextsStayAsManyMoreAreWritten) {
-    griglia.setText(1, 1, "first");
+    griglia.setCaption(1, 1, Ruolo::casella, "first");
     for (int i = 0; i < 10000; ++i) {
-        griglia.setText(2, 2, std::to_string(i));
+        griglia.setCaption(2, 2, Ruolo::casella, std::to_string(i));
     }
     EXPECT_EQ(griglia.TextMatrix(1, 1), "first");
     EXPECT_EQ(griglia.TextMatrix(2, 2), "9999");
@@ -62,7 +62,7 @@ TEST_F(GrigliaTest, ACellOutsideIsASubscriptError) {
     for (const auto& [row, column] : std::vector<std::pair<int, int>>{{-1, 0}, {4, 0}, {0, -1}, {0, 3}}) {
         EXPECT_THROW(griglia.cella(row, column), SubscriptError);
         EXPECT_THROW(griglia.TextMatrix(row, column), SubscriptError);
-        EXPECT_THROW(griglia.setText(row, column, "x"), SubscriptError);
+        EXPECT_THROW(griglia.setCaption(row, column, Ruolo::casella, "x"), SubscriptError);
         EXPECT_THROW(griglia.setCellPicture(row, column, 1), SubscriptError);
         EXPECT_THROW(griglia.setCurrent({row, column}), SubscriptError);
     }
@@ -73,8 +73,8 @@ TEST_F(GrigliaTest, ACellOutsideIsASubscriptError) {
 }
 
 TEST_F(GrigliaTest, FewerRowsAndBackMakesTheRowsNewAndEmpty) {
-    griglia.setText(0, 1, "header");
-    griglia.setText(2, 1, "data");
+    griglia.setCaption(0, 1, Ruolo::casella, "header");
+    griglia.setCaption(2, 1, Ruolo::casella, "data");
     griglia.setRowHeight(2, 1200);
     griglia.setRows(1);
     griglia.setRows(4);
@@ -90,22 +90,11 @@ TEST_F(GrigliaTest, NeverHasFewerRowsThanTheFixedOnes) {
     EXPECT_EQ(griglia.Rows(), 1);
 }
 
-TEST_F(GrigliaTest, AnotherNumberOfColumnsEmptiesTheGridAndTheSameNumberDoesNot) {
-    griglia.setText(1, 1, "x");
-    griglia.setCols(3);
-    EXPECT_EQ(griglia.TextMatrix(1, 1), "x");
-    griglia.setCols(5);
-    EXPECT_EQ(griglia.Cols(), 5);
-    EXPECT_EQ(griglia.cella(1, 1), Cella{});
-    EXPECT_EQ(griglia.cella(3, 4), Cella{});
-}
-
 TEST_F(GrigliaTest, TheCurrentCellStaysInsideAShrinkingGrid) {
     griglia.setCurrent({3, 2});
     griglia.setRows(2);
     EXPECT_EQ(griglia.Row(), 1);
-    griglia.setCols(2);
-    EXPECT_EQ(griglia.Col(), 1);
+    EXPECT_EQ(griglia.Col(), 2);
 }
 
 TEST_F(GrigliaTest, UncolouredCellsLookLikeTheirPartOfTheGrid) {
@@ -157,7 +146,7 @@ protected:
 };
 
 TEST_F(GrigliaObserverTest, IsToldOfEachChange) {
-    griglia.setText(1, 2, "x");
+    griglia.setCaption(1, 2, Ruolo::casella, "x");
     griglia.setRowHeight(1, 500);
     EXPECT_THAT(observer.told, ElementsAre("1,2-1,2", "0,0--1,-1 measures"));
 }
@@ -165,7 +154,7 @@ TEST_F(GrigliaObserverTest, IsToldOfEachChange) {
 TEST_F(GrigliaObserverTest, IsToldOnceOfAllThatHappenedUnderALock) {
     {
         const Griglia::LockWindowUpdate outer(griglia);
-        griglia.setText(1, 2, "x");
+        griglia.setCaption(1, 2, Ruolo::casella, "x");
         {
             const Griglia::LockWindowUpdate inner(griglia);
             griglia.setCellPicture(3, 1, 1);
@@ -178,9 +167,9 @@ TEST_F(GrigliaObserverTest, IsToldOnceOfAllThatHappenedUnderALock) {
 TEST_F(GrigliaObserverTest, IsToldNothingOfWhatChangedBeforeItCame) {
     griglia.setOsservatore(nullptr);
     griglia.setRows(9);
-    griglia.setText(3, 2, "x");
+    griglia.setCaption(3, 2, Ruolo::casella, "x");
     griglia.setOsservatore(&observer);
-    griglia.setText(1, 1, "x");
+    griglia.setCaption(1, 1, Ruolo::casella, "x");
     EXPECT_THAT(observer.told, ElementsAre("1,1-1,1"));
 }
 
@@ -192,22 +181,21 @@ TEST_F(GrigliaObserverTest, IsToldNothingWhenNothingChangedUnderALock) {
     EXPECT_THAT(observer.told, IsEmpty());
 }
 
-TEST_F(GrigliaObserverTest, IsToldOfRowsAndColumnsOnlyWhenTheirNumberChanged) {
+TEST_F(GrigliaObserverTest, IsToldOfRowsOnlyWhenTheirNumberChanged) {
     griglia.setRows(6);
     {
         const Griglia::LockWindowUpdate lock(griglia);
         griglia.setRows(2);
         griglia.setRows(6);
     }
-    griglia.setCols(9);
-    EXPECT_THAT(observer.told, ElementsAre("structure", "1,0-5,2 measures", "structure"));
+    EXPECT_THAT(observer.told, ElementsAre("structure", "1,0-5,2 measures"));
 }
 
 TEST_F(GrigliaObserverTest, IsToldEvenWhenAFillEndsWithAnError) {
     try {
         const Griglia::LockWindowUpdate lock(griglia);
-        griglia.setText(1, 1, "x");
-        griglia.setText(99, 1, "x");
+        griglia.setCaption(1, 1, Ruolo::casella, "x");
+        griglia.setCaption(99, 1, Ruolo::casella, "x");
     } catch (const SubscriptError&) {
     }
     EXPECT_THAT(observer.told, ElementsAre("1,1-1,1"));

@@ -17,7 +17,7 @@ protected:
         bench.init("M", giorno);
     }
     int picture(int row, int column) const { return Flxm.cella(row, column).immagine; }
-    int total(int index, int category) const { return bench.sessione.TotaliImpegni.at({index}, category); }
+    int total(int index, Totale totale) const { return bench.sessione.TotaliImpegni.at({index}, totale); }
 
     PlannerBench bench;
     const Griglia& Flxm = bench.controlli.Flxm;
@@ -86,13 +86,13 @@ TEST_F(MensileFillTest, ABlankOrUnknownStaffCodeIsShownAsUnassigned) {
     fill({riga("  ", "20060301", {{1, "1"}}), riga("ZZ", "20060302", {{1, "1"}}), RigaPlanner{}});
     EXPECT_EQ(picture(5, 3), 10);
     EXPECT_EQ(picture(5, 4), 10);
-    EXPECT_EQ(total(3, 0), 2);
+    EXPECT_EQ(total(3, Totale::scadenze), 2);
 }
 
 TEST_F(MensileFillTest, OnlyTheShownMonthAndYearAreTaken) {
     fill({riga("RB", "20060215", {{1, "1"}}), riga("RB", "20060415", {{1, "1"}}),
           riga("RB", "20050315", {{1, "1"}}), riga("RB", "20070315", {{1, "1"}})});
-    EXPECT_EQ(total(1, 0), 0);
+    EXPECT_EQ(total(1, Totale::scadenze), 0);
     for (int column = 1; column <= 37; ++column) {
         EXPECT_EQ(picture(3, column), 0) << column;
     }
@@ -119,12 +119,12 @@ TEST_F(MensileFillTest, TheTableElementBeyondTheFilesEndIsNeverLookedAt) {
 TEST_F(MensileFillTest, TotalsAddUpOverTheMonthAndStartAnewWithEachFill) {
     fill({riga("RB", "20060301", {{1, "2"}, {9, "1"}}), riga("RB", "20060302", {{5, "3"}, {10, "4"}}),
           riga("BI", "20060303", {{8, "1"}})});
-    EXPECT_EQ(total(1, 0), 5);
-    EXPECT_EQ(total(1, 4), 1);
-    EXPECT_EQ(total(1, 5), 4);
-    EXPECT_EQ(total(0, 2), 1);
+    EXPECT_EQ(total(1, Totale::scadenze), 5);
+    EXPECT_EQ(total(1, Totale::scadenzeConcluse), 1);
+    EXPECT_EQ(total(1, Totale::praticheConcluse), 4);
+    EXPECT_EQ(total(0, Totale::impegniVari), 1);
     bench.motore.PopolaGrid1();
-    EXPECT_EQ(total(1, 0), 5);
+    EXPECT_EQ(total(1, Totale::scadenze), 5);
 }
 
 TEST_F(MensileFillTest, TotalsAreSizedByTheAppointmentsNotByTheStaff) {
@@ -136,9 +136,9 @@ TEST_F(MensileFillTest, TotalsAreSizedByTheAppointmentsNotByTheStaff) {
 TEST_F(MensileFillTest, ConcludedEntriesCountButDoNotMarkTheDay) {
     fill({riga("RB", "20060315", {{3, "1"}, {4, "2"}, {9, "3"}, {10, "4"}, {11, "5"}})});
     EXPECT_EQ(picture(3, 17), 0);
-    EXPECT_EQ(total(1, 4), 4);
-    EXPECT_EQ(total(1, 5), 6);
-    EXPECT_EQ(total(1, 6), 5);
+    EXPECT_EQ(total(1, Totale::scadenzeConcluse), 4);
+    EXPECT_EQ(total(1, Totale::praticheConcluse), 6);
+    EXPECT_EQ(total(1, Totale::altro), 5);
 }
 
 TEST_F(MensileFillTest, OfTwoRecordsOfOneDayTheLaterPictureStays) {

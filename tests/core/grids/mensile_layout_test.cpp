@@ -12,7 +12,6 @@ protected:
     /// Lays the month out as a move to it does.
     void show(int year, int month, int day = 1) {
         bench.controlli.calendario.setValue(*makeDate(year, month, day));
-        bench.motore.Dayofweek();
         bench.motore.showgrid();
     }
     std::string_view dayNumber(int column) const { return Flxm.TextMatrix(1, column); }
@@ -103,7 +102,6 @@ TEST_F(MensileLayoutTest, AMoveToAnotherMonthLeavesNothingOfTheOneBefore) {
     show(2006, 3);
     PlannerBench fresh;
     fresh.controlli.calendario.setValue(*makeDate(2006, 3, 1));
-    fresh.motore.Dayofweek();
     fresh.motore.showgrid();
     for (int row = 0; row <= 1; ++row) {
         for (int column = 0; column <= 37; ++column) {

@@ -43,6 +43,17 @@ TEST(LayoutTest, SaturdaysAndSundaysStandInTheirColumns) {
     }
 }
 
+TEST(LayoutTest, DaysStandInWeeksAndQuartersInHours) {
+    const Griglia days(2, ColonneGiorni + 1, 1, Colore::bianco);
+    const Griglia quarters(2, ColonneQuarti + 1, 1, Colore::bianco);
+    for (int column = 1; column <= 37; ++column) {
+        EXPECT_EQ(finisceGruppo(days, column), column % 7 == 0) << column;
+        EXPECT_EQ(finisceGruppo(quarters, column), column % 4 == 0) << column;
+    }
+    EXPECT_TRUE(finisceGruppo(days, 0));
+    EXPECT_TRUE(finisceGruppo(quarters, 0));
+}
+
 TEST(LayoutTest, WeekdayLettersRepeatEverySevenColumns) {
     const std::string_view letters = "LMMGVSD";
     Griglia griglia(2, 38, 1, Colore::bianco);

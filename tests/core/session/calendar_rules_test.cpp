@@ -85,6 +85,9 @@ TEST(NomiMesiTest, AreTheTwelveItalianNames) {
     EXPECT_EQ(nomeMese(12), "Dicembre");
     EXPECT_THROW(nomeMese(0), SubscriptError);
     EXPECT_THROW(nomeMese(13), SubscriptError);
+    EXPECT_EQ(meseInFrase(1), "gennaio");
+    EXPECT_EQ(meseInFrase(12), "dicembre");
+    EXPECT_THROW(meseInFrase(0), SubscriptError);
 }
 
 class CheckGiornoFestivoTest : public testing::Test {
@@ -142,17 +145,17 @@ TEST(DayofweekTest, AMonthThatBeginsOnASundayGives1) {
 TEST(DayofweekTest, LooksAtTheFirstOfTheShownMonthWhateverTheDay) {
     PlannerBench bench;
     bench.controlli.calendario.setValue(*makeDate(2006, 10, 31));
-    bench.motore.Dayofweek();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 1);
+    EXPECT_EQ(bench.motore.Dayofweek(), 1);
     bench.controlli.calendario.setValue(*makeDate(2006, 3, 15));
-    bench.motore.Dayofweek();
-    EXPECT_EQ(bench.sessione.PrimoGiornoSettimana, 4);
+    EXPECT_EQ(bench.motore.Dayofweek(), 4);
 }
 
 TEST(DayofweekTest, TheMonthStartsInItsWeekdaysMondayFirstColumn) {
-    EXPECT_EQ(colonnaIniziale(1), 7);
-    for (std::int16_t weekday = 2; weekday <= 7; ++weekday) {
-        EXPECT_EQ(colonnaIniziale(weekday), weekday - 1);
+    EXPECT_EQ(colonnaPrimoGiorno(2006, 1), 7);
+    // Months whose first days are a Monday, a Tuesday and so on to a Saturday.
+    const std::array months{5, 8, 2, 6, 9, 4};
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(colonnaPrimoGiorno(2006, months.at(static_cast<std::size_t>(column - 1))), column);
     }
 }
 

@@ -58,13 +58,7 @@ protected:
     /// Serves a request whose user closes at once, and returns the toolbar that he saw.
     StatoToolbar serve(std::string_view tipo, std::string_view modo, std::string_view tipocall = " ",
                        std::string_view planrichiesto = " ") {
-        WPlannerCall call = PlannerBench::richiestaMensile();
-        call.tipoplanner = tipo;
-        call.Windowcaption = std::string(modo) + std::string(20, ' ');
-        call.tipocall = tipocall;
-        call.planrichiesto = planrichiesto;
-        bench.eventi.actions.push_back(bench.answers("20060315  E"));
-        bench.serve(call);
+        bench.serveAndClose(tipo, modo, tipocall, planrichiesto);
         return bench.controlli.Toolbar1;
     }
 

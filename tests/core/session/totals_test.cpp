@@ -75,7 +75,7 @@ TEST(TotalsTest, ANewTableIsAllZeroWithIndicesUpToItsBound) {
     EXPECT_EQ(totals.upperBound(), 3);
     for (int index = 0; index <= 3; ++index) {
         for (int category = 0; category <= 6; ++category) {
-            EXPECT_EQ(totals.at({index}, category), 0);
+            EXPECT_EQ(totals.at({index}, static_cast<Totale>(category)), 0);
         }
     }
 }
@@ -85,7 +85,7 @@ TEST(TotalsTest, BeyondTheTableNothingIsAddedAndNothingStands) {
     const auto values = valoriContatori(riga("RB", "20060315", {{1, "00007"}}));
     for (const int index : {2, -1, 32767}) {
         totals.aggiungi({index}, values);
-        EXPECT_EQ(totals.at({index}, 0), 0) << index;
+        EXPECT_EQ(totals.at({index}, Totale::scadenze), 0) << index;
         EXPECT_FALSE(totals.contiene({index})) << index;
     }
     EXPECT_EQ(totals.righe(), TabellaTotali(1).righe());
@@ -94,8 +94,8 @@ TEST(TotalsTest, BeyondTheTableNothingIsAddedAndNothingStands) {
 
 TEST(TotalsTest, ACategoryThatIsNoneIsASubscriptError) {
     const TabellaTotali totals(1);
-    EXPECT_THROW(totals.at({0}, 7), SubscriptError);
-    EXPECT_THROW(totals.at({0}, -1), SubscriptError);
+    EXPECT_THROW(totals.at({0}, static_cast<Totale>(7)), SubscriptError);
+    EXPECT_THROW(totals.at({0}, static_cast<Totale>(UINT8_MAX)), SubscriptError);
 }
 
 TEST(TotalsTest, ARecordThatOverflowsOneTotalChangesNone) {
@@ -106,7 +106,7 @@ TEST(TotalsTest, ARecordThatOverflowsOneTotalChangesNone) {
                  OverflowError);
     EXPECT_EQ(totals.righe(), before);
     totals.aggiungi({0}, valoriContatori(riga("RB", "20060315", {{11, "00767"}})));
-    EXPECT_EQ(totals.at({0}, 6), 32767);
+    EXPECT_EQ(totals.at({0}, Totale::altro), 32767);
 }
 
 TEST(TotalsTest, TheSumOfTwoCountersOverflowsToo) {

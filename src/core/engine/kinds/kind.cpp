@@ -23,19 +23,19 @@ int RegoleTipo::colonnaGiorno(const Calendario& calendario, int colonna) const {
                     : colonnaPrimoGiorno(calendario.Year(), calendario.Month()) + calendario.Day() - 1;
 }
 
+std::optional<TipoPlanner> tipoPlanner(std::string_view lettera) {
+    const RegoleTipo* found = findKind([&](const RegoleTipo* each) {
+        return lettera.size() == 1 && lettera.front() == static_cast<char>(each->tipo);
+    });
+    return found == nullptr ? std::nullopt : std::optional(found->tipo);
+}
+
 const RegoleTipo& regole(TipoPlanner tipo) {
     return *findKind([&](const RegoleTipo* each) { return each->tipo == tipo; });
 }
 
 const RegoleTipo* regoleVisibili(const ControlliPlcal& controlli) {
     return controlli.tipoVisibile ? &regole(*controlli.tipoVisibile) : nullptr;
-}
-
-std::optional<TipoPlanner> tipoPlanner(std::string_view lettera) {
-    const RegoleTipo* found = findKind([&](const RegoleTipo* each) {
-        return lettera.size() == 1 && lettera.front() == static_cast<char>(each->tipo);
-    });
-    return found == nullptr ? std::nullopt : std::optional(found->tipo);
 }
 
 } // namespace planner

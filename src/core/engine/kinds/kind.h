@@ -67,6 +67,8 @@ const RegoleTipo& mensile();
 const RegoleTipo& giornaliero();
 const RegoleTipo& annuale();
 
+/// The kind that a request's letter names; nothing for any other text.
+std::optional<TipoPlanner> tipoPlanner(std::string_view lettera);
 /// The rules of a kind.
 const RegoleTipo& regole(TipoPlanner tipo);
 /// The rules of the visible grid's kind; null when none is visible.

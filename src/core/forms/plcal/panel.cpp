@@ -2,20 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/panel.h"
 
-#include "ports/runtime_errors.h"
-
 #include <cmath>
 
 namespace planner {
-
-const StatoEtichetta& PannelloDettagli::operator[](std::string_view nome) const {
-    for (std::size_t i = 0; i < EtichetteTotali.size(); ++i) {
-        if (EtichetteTotali[i].nome == nome) {
-            return totali[i];
-        }
-    }
-    throw SubscriptError();
-}
 
 void PannelloDettagli::nascondiTotali() {
     lblcollab.clear();

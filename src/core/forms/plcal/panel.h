@@ -21,9 +21,6 @@ struct PannelloDettagli {
     bool lblcollabVisibile = false;
     std::array<StatoEtichetta, EtichetteTotali.size()> totali;
 
-    /// The label of the given name. Throws SubscriptError when there is none.
-    const StatoEtichetta& operator[](std::string_view nome) const;
-
     /// Shows the totals of the staff member with the index, deadlines only where the window has them.
     void mostraTotali(const TabellaTotali& tabella, IndiceCollaboratore indice, bool varianteRidotta);
     /// Empties and hides the labels of the monthly and daily panel.

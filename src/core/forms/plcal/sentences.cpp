@@ -18,12 +18,6 @@ namespace {
 constexpr std::array<std::string_view, 7> NomiGiorni{"domenica", "lunedì",  "martedì", "mercoledì",
                                                      "giovedì",  "venerdì", "sabato"};
 
-std::string lowerFirst(std::string_view text) {
-    std::string lower(text);
-    lower.front() = static_cast<char>(lower.front() - 'A' + 'a');
-    return lower;
-}
-
 std::string join(const std::vector<std::string>& parts) {
     std::string joined;
     for (const std::string& part : parts) {
@@ -112,7 +106,7 @@ bool isShown(const ControlliPlcal& controlli, TipoPlanner tipo, Casella casella)
 
 std::string dataEstesa(Data data) {
     return std::string(NomiGiorni.at(static_cast<std::size_t>(weekdayOf(data) - 1))) + " " +
-           std::to_string(dayOf(data)) + " " + lowerFirst(nomeMese(monthOf(data))) + " " +
+           std::to_string(dayOf(data)) + " " + meseInFrase(monthOf(data)) + " " +
            std::to_string(yearOf(data));
 }
 

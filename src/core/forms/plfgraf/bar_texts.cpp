@@ -5,6 +5,7 @@
 #include "forms/plfgraf/chart_texts.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace planner {
 
@@ -31,19 +32,13 @@ double widestOf(const ChartLayoutTask& task, ChartTextRole role, const std::vect
     return widest;
 }
 
-void measureLabels(const ChartLayoutTask& task, double slotWidth, BarTexts& texts) {
-    const double limit = task.body.height * MostRoom;
-    const double widest = widestOf(task, ChartTextRole::axisLabel, texts.labels, limit);
-    texts.labelsUpwards = widest + ChartGap > slotWidth;
-    texts.below = texts.labelsUpwards ? widest : task.lineHeight(ChartTextRole::axisLabel);
-}
-
-void measureValues(const ChartLayoutTask& task, double slotWidth, BarTexts& texts) {
+/// Whether the texts have to stand upright, to have `gap` between them in slots that wide, and their room.
+std::pair<bool, double> standOf(const ChartLayoutTask& task, ChartTextRole role,
+                                const std::vector<std::string>& texts, double gap, double slotWidth) {
     // Impossible hours from a file have a hundred digits: they turn no other value.
-    const double limit = task.body.height * MostRoom;
-    const double widest = widestOf(task, ChartTextRole::value, texts.values, limit);
-    texts.valuesUpwards = widest + ValueDistance > slotWidth;
-    texts.above = (texts.valuesUpwards ? widest : task.lineHeight(ChartTextRole::value)) + 2 * ValueDistance;
+    const double widest = widestOf(task, role, texts, task.body.height * MostRoom);
+    const bool upwards = widest + gap > slotWidth;
+    return {upwards, upwards ? widest : task.lineHeight(role)};
 }
 
 /// A text as it stands with the middle of its lower edge at `foot`.
@@ -101,8 +96,11 @@ BarTexts measureBarTexts(const ChartLayoutTask& task, double slotWidth) {
         texts.labels.push_back(utf8FromCp1252(task.grafico.etichetta(number)));
         texts.values.push_back(value == Zero ? "" : value);
     }
-    measureLabels(task, slotWidth, texts);
-    measureValues(task, slotWidth, texts);
+    std::tie(texts.labelsUpwards, texts.below) =
+        standOf(task, ChartTextRole::axisLabel, texts.labels, ChartGap, slotWidth);
+    std::tie(texts.valuesUpwards, texts.above) =
+        standOf(task, ChartTextRole::value, texts.values, ValueDistance, slotWidth);
+    texts.above += 2 * ValueDistance;
     return texts;
 }
 

@@ -11,32 +11,22 @@ namespace planner {
 
 namespace {
 
-constexpr std::size_t GiorniGrafico = 31;
 constexpr std::size_t CaratteriLegenda = 30;
 constexpr std::string_view TitoloOre = "Ore";
-constexpr Penna PennaRossa{{255, 0, 0}, 4};
 constexpr Penna PennaNera{{0, 0, 0}, 4};
-constexpr Penna PennaBlu{{0, 0, 255}, 2};
 
 constexpr std::array<std::string_view, 12> MesiBrevi{"Gen", "Feb", "Mar", "Apr", "Mag", "Giu",
                                                      "Lug", "Ago", "Set", "Ott", "Nov", "Dic"};
 
-/// A month, 1 to 12, as it stands inside a sentence.
-std::string meseMinuscolo(int mese) {
-    std::string name(nomeMese(mese));
-    name.front() = static_cast<char>(name.front() - 'A' + 'a');
-    return name;
-}
-
 std::string voceGiorno(int giorno, const Calendario& calendario) {
     const std::string number = std::to_string(giorno);
     const bool exists = giorno <= lunghezzaMese(giorniMese(calendario.Year()), calendario.Month());
-    return exists ? number + " " + meseMinuscolo(calendario.Month()) : "giorno " + number;
+    return exists ? number + " " + meseInFrase(calendario.Month()) : "giorno " + number;
 }
 
 /// The month that the calendar shows, inside a sentence: "marzo 2006".
 std::string meseMostrato(const Calendario& calendario) {
-    return meseMinuscolo(calendario.Month()) + " " + std::to_string(calendario.Year());
+    return meseInFrase(calendario.Month()) + " " + std::to_string(calendario.Year());
 }
 
 std::string intestazioneMensile(const Collaboratore& collaboratore, const Calendario& calendario) {
@@ -79,7 +69,7 @@ void setDodiciSerie(Grafico& grafico, const std::vector<double>& valori) {
 void setEtichetteGiorni(Grafico& grafico, const Calendario& calendario) {
     grafico.etichette.clear();
     grafico.voci.clear();
-    for (int giorno = 1; giorno <= static_cast<int>(GiorniGrafico); ++giorno) {
+    for (int giorno = 1; giorno <= static_cast<int>(GiorniMassimi); ++giorno) {
         grafico.etichette.push_back(std::to_string(giorno));
         grafico.voci.push_back(voceGiorno(giorno, calendario));
     }
@@ -99,12 +89,12 @@ void setEtichetteMesi(Grafico& grafico, const Calendario& calendario) {
     grafico.voci.clear();
     for (std::size_t month = 0; month < MesiBrevi.size(); ++month) {
         grafico.serie.at(month).etichetta = MesiBrevi.at(month);
-        grafico.voci.push_back(meseMinuscolo(static_cast<int>(month) + 1) + " " +
+        grafico.voci.push_back(meseInFrase(static_cast<int>(month) + 1) + " " +
                                std::to_string(calendario.Year()));
     }
 }
 
-/// Headings, colour, scale and grid as the monthly and the daily chart have them.
+/// Headings, colour and scale as the monthly and the daily chart have them.
 void setAssi(Grafico& grafico, std::string_view titoloX, double massimo) {
     AsseOre& asse = grafico.asseY;
     asse.titolo = TitoloOre;
@@ -112,9 +102,6 @@ void setAssi(Grafico& grafico, std::string_view titoloX, double massimo) {
     grafico.asseX = titoloX;
     asse.Maximum = massimoConMargine(massimo);
     asse.MajorDivision = roundTo16Bit(asse.Maximum);
-    asse.MinorDivision = 1;
-    asse.PennaMajor = PennaRossa;
-    asse.PennaMinor = PennaBlu;
 }
 
 void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massimo) {
@@ -125,9 +112,7 @@ void setAssiAnnuali(Grafico& grafico, const Calendario& calendario, double massi
     grafico.fontTitoliAssi = {"MS Sans Serif", 12, true};
     asse.Maximum = ArrotondaMassimo(massimo);
     asse.MajorDivision = divisions;
-    asse.MinorDivision = 1;
     asse.PennaMajor = PennaNera;
-    asse.PennaMinor = PennaBlu;
 }
 
 } // namespace

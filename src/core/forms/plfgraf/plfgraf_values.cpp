@@ -17,23 +17,22 @@ namespace planner {
 
 namespace {
 
-constexpr std::size_t GiorniMassimi = 31;
-constexpr std::size_t MesiAnno = 12;
-
 template <typename Record>
 std::span<const Record> firstOf(const std::vector<Record>& table, std::int16_t count) {
     const auto wanted = static_cast<std::size_t>(std::max<std::int16_t>(count, 0));
     return std::span(table).first(std::min(wanted, table.size()));
 }
 
-/// How an error names a field that numbers rows, and where numbers beyond the last row lie.
+/// A field that numbers rows from 1, how an error names it, and where numbers beyond the last row lie.
 struct CampoRiga {
+    FixedText<2> RigaGrafico::*numero;
+    std::size_t righe;
     std::string_view nome;
     std::string_view fuori;
 };
 
-constexpr CampoRiga CampoGiorno{"il giorno", "è fuori dal mese"};
-constexpr CampoRiga CampoMese{"il mese", "è fuori dall'anno"};
+constexpr CampoRiga CampoGiorno{&RigaGrafico::giorno, GiorniMassimi, "il giorno", "è fuori dal mese"};
+constexpr CampoRiga CampoMese{&RigaGrafico::mese, 12, "il mese", "è fuori dall'anno"};
 
 /// Where in the file a record stands, counted from 0.
 using Posto = std::size_t;
@@ -44,15 +43,15 @@ template <typename Error>
                 std::string(campo) + " \"" + testoVisibile(testo) + "\" " + std::string(che));
 }
 
-/// The row that a text numbers from 1.
-std::size_t rowOf(std::string_view testo, std::size_t rows, Posto posto, const CampoRiga& campo) {
+std::size_t rowOf(const RigaGrafico& riga, Posto posto, const CampoRiga& campo) {
+    const std::string_view testo = (riga.*campo.numero).view();
     int number = 0;
     try {
         number = wholeNumber(testo);
     } catch (const TypeMismatchError&) {
         refuse<TypeMismatchError>(posto, campo.nome, testo, "non è un numero");
     }
-    if (number < 1 || static_cast<std::size_t>(number) > rows) {
+    if (number < 1 || static_cast<std::size_t>(number) > campo.righe) {
         refuse<SubscriptError>(posto, campo.nome, testo, campo.fuori);
     }
     return static_cast<std::size_t>(number - 1);
@@ -77,6 +76,20 @@ bool inMonth(const RigaGrafico& riga, const Calendario& calendario) {
 
 bool onDay(const RigaGrafico& riga, const Calendario& calendario) {
     return numericValue(riga.giorno.view()) == calendario.Day() && inMonth(riga, calendario);
+}
+
+/// The hours of the records that `wanted` takes, each in the row that the field numbers.
+template <typename Wanted>
+ValoriGrafico valoriPerRiga(const Archivi& archivi, const CampoRiga& campo, Wanted wanted) {
+    ValoriGrafico valori(campo.righe);
+    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
+    for (Posto posto = 0; posto < righe.size(); ++posto) {
+        if (wanted(righe[posto])) {
+            const std::size_t row = rowOf(righe[posto], posto, campo);
+            valori.metti(row, oreDi(righe[posto], posto));
+        }
+    }
+    return valori;
 }
 
 /// A value for each staff code. The staff table may hold a code more than once.
@@ -113,16 +126,9 @@ const Collaboratore& collaboratoreGrafico(const Archivi& archivi, IndiceCollabor
 
 ValoriGrafico valoriMensili(const Archivi& archivi, const Calendario& calendario,
                             IndiceCollaboratore collab) {
-    ValoriGrafico valori(GiorniMassimi);
-    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
-    for (Posto posto = 0; posto < righe.size(); ++posto) {
-        const RigaGrafico& riga = righe[posto];
-        if (riga.codice == collaboratoreGrafico(archivi, collab).codice && inMonth(riga, calendario)) {
-            const std::size_t row = rowOf(riga.giorno.view(), GiorniMassimi, posto, CampoGiorno);
-            valori.metti(row, oreDi(riga, posto));
-        }
-    }
-    return valori;
+    return valoriPerRiga(archivi, CampoGiorno, [&](const RigaGrafico& riga) {
+        return riga.codice == collaboratoreGrafico(archivi, collab).codice && inMonth(riga, calendario);
+    });
 }
 
 ValoriGrafico valoriGiornalieri(const Archivi& archivi, const Calendario& calendario) {
@@ -144,16 +150,8 @@ ValoriGrafico valoriGiornalieri(const Archivi& archivi, const Calendario& calend
 }
 
 ValoriGrafico valoriAnnuali(const Archivi& archivi, const Calendario& calendario) {
-    ValoriGrafico valori(MesiAnno);
-    const std::span<const RigaGrafico> righe = righeGrafico(archivi);
-    for (Posto posto = 0; posto < righe.size(); ++posto) {
-        const RigaGrafico& riga = righe[posto];
-        if (inYear(riga, calendario)) {
-            const std::size_t row = rowOf(riga.mese.view(), MesiAnno, posto, CampoMese);
-            valori.metti(row, oreDi(riga, posto));
-        }
-    }
-    return valori;
+    return valoriPerRiga(archivi, CampoMese,
+                         [&](const RigaGrafico& riga) { return inYear(riga, calendario); });
 }
 
 } // namespace planner

@@ -11,6 +11,9 @@
 
 namespace planner {
 
+/// The days that a month may have.
+inline constexpr std::size_t GiorniMassimi = 31;
+
 /// What a chart takes from the records: hours by row.
 struct ValoriGrafico {
     explicit ValoriGrafico(std::size_t righe) : valori(righe) {}

@@ -153,7 +153,7 @@ TEST_F(CommandsTest, ASwitchOfDetailKeepsSelectionAndPanel) {
     press("dettno");
     EXPECT_EQ(controlli.Flxm.CellBackColor(3, 1), Colore::giallo);
     EXPECT_EQ(controlli.Flxm.CellBackColor(3, 17), Colore::ciano);
-    EXPECT_EQ(form.pannello()["Lblscad"].testo, "2");
+    EXPECT_EQ(etichetta(form.pannello(), "Lblscad").testo, "2");
     EXPECT_EQ(controlli.Flxm.Row(), 3);
     EXPECT_EQ(controlli.Flxm.Col(), 17);
 }

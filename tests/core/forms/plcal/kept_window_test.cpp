@@ -111,7 +111,7 @@ TEST_F(KeptWindowTest, TheYearlyGridHasNoMarkAndNoTotals) {
     open("A");
     gesto(3, 10);
     ASSERT_THAT(marked(), testing::ElementsAre("3,10"));
-    ASSERT_NE(form.pannello()["scad"].testo, "");
+    ASSERT_NE(etichetta(form.pannello(), "scad").testo, "");
     next("A", "20060420");
     EXPECT_THAT(marked(), IsEmpty());
     expectNoTotals();

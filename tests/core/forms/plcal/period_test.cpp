@@ -94,7 +94,7 @@ TEST_F(PeriodTest, AMoveHidesThePanelAndKeepsTheStaffMemberAndItsHighlight) {
     gesto(3, 17);
     form.bselm_Click(1);
     EXPECT_FALSE(form.pannello().lblcollabVisibile);
-    EXPECT_FALSE(form.pannello()["lblpra"].visibile);
+    EXPECT_FALSE(etichetta(form.pannello(), "lblpra").visibile);
     EXPECT_EQ(sessione.IndiceCollab.valore, 1);
     EXPECT_EQ(sessione.collab, "RB");
     EXPECT_EQ(controlli.Flxm.CellBackColor(3, 1), Colore::giallo);

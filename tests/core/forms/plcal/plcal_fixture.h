@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/plcal/plcal.h"
+#include "support/panel_labels.h"
 #include "support/planner_bench.h"
 
 #include <gtest/gtest.h>

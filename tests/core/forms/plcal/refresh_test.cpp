@@ -121,7 +121,9 @@ TEST_F(PlcalRefreshTest, ARecordThatCannotBeShownIsSaidAndThePlannerGoesOn) {
 
 TEST_F(PlcalRefreshTest, AFailureOfTheFillIsSaidAndThePlannerGoesOn) {
     open("M");
-    controlli.Flxm.setCols(1); // no header to be found
+    for (int column = 1; column <= ColonneGiorni; ++column) {
+        controlli.Flxm.setCaption(1, column, Ruolo::casella, ""); // no first day to be found
+    }
     form.refreshGrid();
     ASSERT_THAT(bench.messaggi.shown, SizeIs(1));
     EXPECT_EQ(bench.messaggi.shown[0].text,

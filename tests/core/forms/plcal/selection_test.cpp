@@ -28,8 +28,8 @@ protected:
         open("M");
     }
 
-    std::string total(std::string_view nome) { return form.pannello()[nome].testo; }
-    bool shown(std::string_view nome) { return form.pannello()[nome].visibile; }
+    std::string total(std::string_view nome) { return etichetta(form.pannello(), nome).testo; }
+    bool shown(std::string_view nome) { return etichetta(form.pannello(), nome).visibile; }
 
     std::vector<Colore> backgrounds(const Griglia& griglia, int row) {
         std::vector<Colore> colours;
@@ -258,7 +258,7 @@ protected:
         bench.putAnnuale(mesi);
         open("A");
     }
-    std::string total(std::string_view nome) { return form.pannello()[nome].testo; }
+    std::string total(std::string_view nome) { return etichetta(form.pannello(), nome).testo; }
 };
 
 TEST_F(YearlySelectionTest, AMarkedDayShowsItsElevenNumbersInSevenTotals) {
