@@ -121,7 +121,7 @@ int main(int argc, char* argv[]) {
 
     modpl sessione;
     ControlliPlcal controlli;
-    Contenuti contenuti({sessione, controlli, files, messaggi, orologio});
+    Contenuti contenuti(sessione, controlli, files, messaggi, orologio);
     PlannerWindows finestre(sessione, controlli, contenuti, messaggi);
 
     mtavtrmpl collegamento(riga, {files, messaggi}, [&] {

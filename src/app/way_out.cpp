@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/way_out.h"
 
-#include <QtGlobal>
+#include <QGuiApplication>
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,7 +12,7 @@ namespace planner {
 namespace {
 
 // The hooks of the C library and of the toolkit's messages take no context.
-const WayOut* theWayOut = nullptr;
+WayOut* theWayOut = nullptr;
 QtMessageHandler toolkitMessages = nullptr;
 
 void atEndOfProcess() {
@@ -21,11 +21,25 @@ void atEndOfProcess() {
     }
 }
 
+bool hasScreen() {
+    return QGuiApplication::primaryScreen() != nullptr;
+}
+
+bool isAboutScreen(const QMessageLogContext& context) {
+    return !hasScreen() && context.category != nullptr &&
+           std::string_view(context.category).starts_with("qt.qpa.");
+}
+
+/// The toolkit tells why there is no screen before it gives up, and then at length what might be done.
 void onMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type == QtFatalMsg && theWayOut != nullptr) {
-        theWayOut->fail(text.section(QLatin1Char('\n'), 0, 0).toLocal8Bit().constData());
+    const std::string line = text.section(QLatin1Char('\n'), 0, 0).trimmed().toStdString();
+    if (theWayOut != nullptr && type == QtFatalMsg) {
+        theWayOut->fail(line);
+    } else if (theWayOut != nullptr && isAboutScreen(context)) {
+        theWayOut->noteScreenTrouble(line);
+    } else {
+        toolkitMessages(type, context, text);
     }
-    toolkitMessages(type, context, text);
 }
 
 } // namespace
@@ -46,9 +60,16 @@ void WayOut::leave() const {
     std::_Exit(m_congedo() ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
-void WayOut::fail(const char* reason) const {
+void WayOut::noteScreenTrouble(const std::string& trouble) {
+    if (m_guaioSchermo.empty()) {
+        m_guaioSchermo = "lo schermo non può essere usato: " + trouble;
+    }
+}
+
+void WayOut::fail(const std::string& reason) const {
     theWayOut = nullptr;
-    std::fprintf(stderr, "planner: %s\n", reason);
+    const bool noScreen = !hasScreen() && !m_guaioSchermo.empty();
+    std::fprintf(stderr, "planner: %s\n", (noScreen ? m_guaioSchermo : reason).c_str());
     m_congedo();
     std::_Exit(EXIT_FAILURE);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <utility>
 
 namespace planner {
@@ -23,11 +24,16 @@ public:
 
     /// Ends the program with exit code 0, or 1 when the host could not be told.
     [[noreturn]] void leave() const;
-    /// Ends it with exit code 1, after the reason on standard error.
-    [[noreturn]] void fail(const char* reason) const;
+    /// Why there is no screen to use, in the toolkit's words; of several troubles the first counts. Not said
+    /// unless the program fails.
+    void noteScreenTrouble(const std::string& trouble);
+    /// Ends the program with exit code 1, after one line on standard error: the trouble with the screen if
+    /// there is none, else `reason`.
+    [[noreturn]] void fail(const std::string& reason) const;
 
 private:
     std::function<bool()> m_congedo;
+    std::string m_guaioSchermo;
 };
 
 } // namespace planner

@@ -44,6 +44,7 @@ public:
     bool askToRetry(const Message& message) override;
 
     std::vector<Message> shown;
+    Action onShow;              // what happens in each of them
     std::deque<Action> retries; // the user presses "Riprova" as often, each time after this, then "Annulla"
 
 private:

@@ -91,10 +91,12 @@ void clsplg::Init_planner(const std::string& chiave, const std::string& startdat
 void clsplg::setUp(std::string_view tipoplanner, const DateInArrivo& date, const std::string& collab) {
     m_finestra.load();
     m_controlli.tipoVisibile = tipoPlanner(slice(tipoplanner, 0, 1));
-    const DateRichiesta dates =
-        readRequestDates(m_controlli.tipoVisibile, date, m_orologio.today(), m_messaggi);
+    const DateRichiesta dates = readRequestDates(m_controlli.tipoVisibile, date, m_orologio.today());
     m_controlli.calendario.setValue(dates.mostrata);
     m_sessione.periodo = dates.periodo;
+    if (!dates.guaio.empty()) {
+        m_messaggi.critical(dates.guaio); // with the day set: the program may be ended in the message
+    }
     setToolbarForKind();
     LeggiCollab();
     m_sessione.IndiceRichiesto =

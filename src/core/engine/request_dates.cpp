@@ -25,20 +25,17 @@ std::optional<Data> readDate(std::string_view text, std::string_view name, Guai&
     return data;
 }
 
-void say(const Guai& guai, MessageBoxes& messaggi) {
+std::string sentence(const Guai& guai) {
     std::string text;
     for (const std::string& guaio : guai) {
         text += (text.empty() ? "Richiesta non valida: " : "; ") + guaio;
     }
-    if (!text.empty()) {
-        messaggi.critical(text + ".");
-    }
+    return text.empty() ? text : text + ".";
 }
 
 } // namespace
 
-DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
-                               MessageBoxes& messaggi) {
+DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi) {
     Guai guai;
     const auto day = readDate(testi.giorno, "il giorno da mostrare", guai);
     const auto start = readDate(testi.startdate, "la data iniziale", guai);
@@ -47,14 +44,12 @@ DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArri
         guai.emplace_back("la data finale viene prima della data iniziale");
         end.reset();
     }
-    if (tipo) {
-        say(guai, messaggi);
-    }
     const Data prima = start ? *start : end ? wholeYear(*end).inizio : oggi;
     const Data mostrata = day ? *day : prima;
     const Data inizio = start || end ? prima : wholeYear(mostrata).inizio;
     return {tipo ? regole(*tipo).giornoDaMostrare(mostrata, inizio) : mostrata,
-            {inizio, end ? *end : wholeYear(inizio).fine}};
+            {inizio, end ? *end : wholeYear(inizio).fine},
+            tipo ? sentence(guai) : std::string()};
 }
 
 } // namespace planner

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "engine/kinds/kind.h"
-#include "ports/message_boxes.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace planner {
@@ -21,13 +21,13 @@ struct DateInArrivo {
 struct DateRichiesta {
     Data mostrata;           // the incoming day, else the start, else today
     PeriodoSessione periodo; // from 1 January of the end's year, to 31 December of the start's, where missing
+    std::string guaio;       // what makes no sense in them, to be said to the user; empty for nothing
 };
 
 /// Reads the dates of a request; a text of blanks and zeros is no date. Impossible dates count as none, and
-/// so does an end before the start: one message box says it of all of them. Without start and end the period
-/// is the shown day's year. The yearly planner shows the day in the year of the start. For an unknown kind,
-/// which shows no day, nothing is said.
-DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi,
-                               MessageBoxes& messaggi);
+/// so does an end before the start: one text says it of all of them. Without start and end the period is the
+/// shown day's year. The yearly planner shows the day in the year of the start. For an unknown kind, which
+/// shows no day, nothing is to be said.
+DateRichiesta readRequestDates(std::optional<TipoPlanner> tipo, const DateInArrivo& testi, Data oggi);
 
 } // namespace planner

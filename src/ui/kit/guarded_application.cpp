@@ -6,6 +6,7 @@
 #include "ui/kit/controls.h"
 
 #include <QKeyEvent>
+#include <QSessionManager>
 
 namespace planner {
 
@@ -18,6 +19,15 @@ bool isAnswer(const QKeyEvent& event) {
 }
 
 } // namespace
+
+GuardedApplication::GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    const auto neverRestart = [](QSessionManager& session) {
+        session.setRestartHint(QSessionManager::RestartNever);
+    };
+    // Either is when the session manager is told, and it believes the last.
+    connect(this, &QGuiApplication::saveStateRequest, this, neverRestart, Qt::DirectConnection);
+    connect(this, &QGuiApplication::commitDataRequest, this, neverRestart, Qt::DirectConnection);
+}
 
 bool GuardedApplication::isRepeatedAnswer(const QObject& receiver, const QEvent& event) {
     if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) {

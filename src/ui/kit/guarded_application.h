@@ -13,11 +13,12 @@ namespace planner {
 
 /// The toolkit's application with a guard around every event. What an event's handler throws is said once,
 /// after the event, and the planner goes on. Escape and Enter that come because the key is held down reach
-/// nobody: a held key answers one window, not those that come into sight behind it.
+/// nobody: a held key answers one window, not those that come into sight behind it. The session manager is
+/// told not to start the program again: that is the host's to do.
 class GuardedApplication : public QApplication {
     Q_OBJECT
 public:
-    using QApplication::QApplication;
+    GuardedApplication(int& argc, char** argv);
 
     /// Where troubles are said; until it is set, and after `nullptr`, they are only kept from the toolkit.
     void setMessages(MessageBoxes* messaggi) { m_messaggi = messaggi; }

@@ -3,35 +3,20 @@
 #include "engine/request_dates.h"
 #include "support/planner_bench.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace planner::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class RequestDatesTest : public testing::Test {
 protected:
-    DateRichiesta read(std::string_view giorno, std::string_view start, std::string_view end,
-                       std::optional<TipoPlanner> tipo = TipoPlanner::Mensile) {
-        return readRequestDates(tipo, {giorno, start, end}, *makeDate(2010, 7, 20), messaggi);
+    static DateRichiesta read(std::string_view giorno, std::string_view start, std::string_view end,
+                              std::optional<TipoPlanner> tipo = TipoPlanner::Mensile) {
+        return readRequestDates(tipo, {giorno, start, end}, *makeDate(2010, 7, 20));
     }
-    std::string shownInYear(std::string_view giorno, std::string_view start, std::string_view end) {
+    static std::string shownInYear(std::string_view giorno, std::string_view start, std::string_view end) {
         return formatDate(read(giorno, start, end, TipoPlanner::Annuale).mostrata);
     }
-    std::vector<std::string> texts() const {
-        std::vector<std::string> texts;
-        for (const Message& message : messaggi.shown) {
-            EXPECT_EQ(message.icon, MessageIcon::Critical);
-            EXPECT_EQ(message.title, "Planner");
-            texts.push_back(message.text);
-        }
-        return texts;
-    }
-
-    Journal journal;
-    RecordingMessages messaggi{journal};
 };
 
 TEST_F(RequestDatesTest, TheIncomingDayIsShown) {
@@ -40,9 +25,10 @@ TEST_F(RequestDatesTest, TheIncomingDayIsShown) {
 
 TEST_F(RequestDatesTest, WithoutAnIncomingDayTheStartDateIsShown) {
     for (const std::string_view none : {"00000000", "        ", "", "0000    ", "  00  00", "0"}) {
-        EXPECT_EQ(formatDate(read(none, "20060315", "20061231").mostrata), "20060315") << none;
+        const DateRichiesta dates = read(none, "20060315", "20061231");
+        EXPECT_EQ(formatDate(dates.mostrata), "20060315") << none;
+        EXPECT_EQ(dates.guaio, "") << none;
     }
-    EXPECT_THAT(texts(), IsEmpty());
 }
 
 TEST_F(RequestDatesTest, WithoutDayAndStartTheFirstDayOfTheEndsYearIsShown) {
@@ -50,8 +36,9 @@ TEST_F(RequestDatesTest, WithoutDayAndStartTheFirstDayOfTheEndsYearIsShown) {
 }
 
 TEST_F(RequestDatesTest, WithoutAnyDateTodayIsShown) {
-    EXPECT_EQ(formatDate(read("00000000", "        ", "0000    ").mostrata), "20100720");
-    EXPECT_THAT(texts(), IsEmpty());
+    const DateRichiesta dates = read("00000000", "        ", "0000    ");
+    EXPECT_EQ(formatDate(dates.mostrata), "20100720");
+    EXPECT_EQ(dates.guaio, "");
 }
 
 TEST_F(RequestDatesTest, TheYearlyPlannerShowsTheDayInTheYearOfTheStart) {
@@ -103,38 +90,52 @@ TEST_F(RequestDatesTest, ImpossibleDatesAreSaidTogetherAndCountAsMissing) {
     EXPECT_EQ(formatDate(dates.mostrata), "20100720");
     EXPECT_EQ(formatDate(dates.periodo.inizio), "20100101");
     EXPECT_EQ(formatDate(dates.periodo.fine), "20101231");
-    EXPECT_THAT(texts(),
-                ElementsAre("Richiesta non valida: il giorno da mostrare \"20060231\" non è una data; "
-                            "la data iniziale \"20061301\" non è una data; "
-                            "la data finale \"abcdefgh\" non è una data."));
+    EXPECT_EQ(dates.guaio, "Richiesta non valida: il giorno da mostrare \"20060231\" non è una data; "
+                           "la data iniziale \"20061301\" non è una data; "
+                           "la data finale \"abcdefgh\" non è una data.");
 }
 
 TEST_F(RequestDatesTest, AnImpossibleDayAndAnEndBeforeTheStartAreSaidTogether) {
-    read("2006", "20060315", "20060314");
-    EXPECT_THAT(texts(), ElementsAre("Richiesta non valida: il giorno da mostrare \"2006\" non è una data; "
-                                     "la data finale viene prima della data iniziale."));
+    EXPECT_EQ(read("2006", "20060315", "20060314").guaio,
+              "Richiesta non valida: il giorno da mostrare \"2006\" non è una data; "
+              "la data finale viene prima della data iniziale.");
 }
 
 TEST_F(RequestDatesTest, OfAnUnknownKindNoDateIsSaidToBeImpossible) {
-    EXPECT_EQ(formatDate(read("20060231", "20061301", "abcdefgh", std::nullopt).mostrata), "20100720");
-    EXPECT_THAT(texts(), IsEmpty());
+    const DateRichiesta dates = read("20060231", "20061301", "abcdefgh", std::nullopt);
+    EXPECT_EQ(formatDate(dates.mostrata), "20100720");
+    EXPECT_EQ(dates.guaio, "");
 }
 
 TEST_F(RequestDatesTest, BytesOfTheRequestAreShownAsTheirCharacters) {
-    read("\xE0\xFF", "20060101", "20061231");
-    EXPECT_THAT(texts(), ElementsAre("Richiesta non valida: il giorno da mostrare \"àÿ\" non è una data."));
+    EXPECT_EQ(read("\xE0\xFF", "20060101", "20061231").guaio,
+              "Richiesta non valida: il giorno da mostrare \"àÿ\" non è una data.");
 }
 
 TEST_F(RequestDatesTest, AnEndBeforeTheStartIsSaidAndCountsAsMissing) {
     const DateRichiesta dates = read("00000000", "20060315", "20060314");
     EXPECT_EQ(formatDate(dates.periodo.inizio), "20060315");
     EXPECT_EQ(formatDate(dates.periodo.fine), "20061231");
-    EXPECT_EQ(texts().size(), 1u);
+    EXPECT_EQ(dates.guaio, "Richiesta non valida: la data finale viene prima della data iniziale.");
 }
 
 TEST_F(RequestDatesTest, APeriodOfOneDayIsAPeriod) {
-    EXPECT_EQ(formatDate(read("00000000", "20060315", "20060315").periodo.fine), "20060315");
-    EXPECT_THAT(texts(), IsEmpty());
+    const DateRichiesta dates = read("00000000", "20060315", "20060315");
+    EXPECT_EQ(formatDate(dates.periodo.fine), "20060315");
+    EXPECT_EQ(dates.guaio, "");
+}
+
+TEST(ImpossibleDatesTest, AreSaidWhenTheDayThatIsShownInsteadStands) {
+    PlannerBench bench;
+    std::string collab;
+    std::string valret;
+    bench.messaggi.onShow = [&] { bench.motore.chiusura(collab, valret); };
+    bench.init("M", "20060231", "20060610");
+    EXPECT_EQ(bench.messaggi.shown,
+              (std::vector<Message>{{MessageIcon::Critical, "Planner",
+                                     "Richiesta non valida: il giorno da mostrare \"20060231\" non è una "
+                                     "data."}}));
+    EXPECT_EQ(valret, "20060610  E") << "the answer if the program is ended in the message";
 }
 
 } // namespace

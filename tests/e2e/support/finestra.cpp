@@ -46,6 +46,12 @@ std::optional<Finestra> Finestra::find(const Schermo& schermo, const Processo& o
     return id.empty() ? std::nullopt : std::optional(Finestra(schermo, std::move(id)));
 }
 
+int Finestra::count(const Schermo& schermo, const Processo& owner) {
+    const Esito search = schermo.tryTool(
+        {"xdotool", "search", "--all", "--onlyvisible", "--pid", std::to_string(owner.pid()), "--name", ""});
+    return static_cast<int>(std::count(search.output.begin(), search.output.end(), '\n'));
+}
+
 bool Finestra::any(const Schermo& schermo, const Processo& owner) {
     return !idOf(schermo, owner, ".").empty();
 }

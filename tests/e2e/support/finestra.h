@@ -20,7 +20,9 @@ public:
     /// The same if it is on the screen at this moment.
     static std::optional<Finestra> find(const Schermo& schermo, const Processo& owner,
                                         const std::string& title);
-    /// True when the process shows any window at this moment.
+    /// How many windows the process shows at this moment, menus among them.
+    static int count(const Schermo& schermo, const Processo& owner);
+    /// True when it shows any with a title.
     static bool any(const Schermo& schermo, const Processo& owner);
 
     void activate() const;

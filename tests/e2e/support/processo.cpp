@@ -11,6 +11,7 @@
 #include <poll.h>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -56,6 +57,8 @@ pid_t spawn(std::vector<std::string> words, const Environment& environment, int 
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     if (errors == Errors::Dropped) {
         posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    } else if (errors == Errors::InOutput) {
+        posix_spawn_file_actions_adddup2(&actions, output, STDERR_FILENO);
     }
     pid_t pid = -1;
     const int error = ::posix_spawnp(&pid, words.front().c_str(), &actions, nullptr, pointers(words).data(),
@@ -82,6 +85,14 @@ Environment plainEnvironment() {
     }
     return environment;
 }
+
+void adoptOrphans() {
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+}
+
+Processo::Processo(pid_t pid)
+    : m_program("process " + std::to_string(pid)), m_pid(pid),
+      m_pidDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0))) {}
 
 Processo::Processo(std::vector<std::string> words, const Environment& environment, Errors errors)
     : m_program(words.front()) {

@@ -21,13 +21,16 @@ inline constexpr std::chrono::hours HoursEast{14};
 Environment plainEnvironment();
 
 /// Where a program's standard error goes.
-enum class Errors { Shown, Dropped };
+enum class Errors { Shown, Dropped, InOutput };
 
 /// A program that the test has started. It is killed with the object and never outlives the test.
 class Processo {
 public:
     /// The first word is the program, looked for along the path. Exactly this environment is passed on.
     Processo(std::vector<std::string> words, const Environment& environment, Errors errors = Errors::Shown);
+    /// Takes over a program that another program of the test has started. Its exit code is known if that one
+    /// is gone by the end, and after `adoptOrphans` only; its output is not.
+    explicit Processo(pid_t pid);
     virtual ~Processo();
     Processo(const Processo&) = delete;
     Processo& operator=(const Processo&) = delete;
@@ -56,6 +59,9 @@ private:
     std::string m_read; // from the output, not handed out yet
     std::optional<int> m_exitCode;
 };
+
+/// What the programs of the test leave running when they end becomes the test's own from here on.
+void adoptOrphans();
 
 /// What a program that runs to its end has left.
 struct Esito {

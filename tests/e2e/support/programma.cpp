@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/support/programma.h"
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -10,26 +11,31 @@ namespace planner::e2e {
 
 namespace {
 
-std::vector<std::string> commandLine(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), PLANNER_FILE);
-    return arguments;
-}
-
-long voluntarySwitches(const std::filesystem::path& status) {
-    constexpr std::string_view label = "voluntary_ctxt_switches:";
+/// What stands behind the label in a file of that form; empty when the file, or the label, is missing.
+std::string valueIn(const std::filesystem::path& status, std::string_view label) {
     std::ifstream file(status);
     for (std::string line; std::getline(file, line);) {
         if (line.starts_with(label)) {
-            return std::stol(line.substr(label.size()));
+            return line.substr(label.size());
         }
     }
-    return 0;
+    return {};
+}
+
+long voluntarySwitches(const std::filesystem::path& status) {
+    const std::string value = valueIn(status, "voluntary_ctxt_switches:");
+    return value.empty() ? 0 : std::stol(value);
 }
 
 } // namespace
 
-Programma::Programma(const std::vector<std::string>& arguments, const Environment& environment)
-    : Processo(commandLine(arguments), environment) {}
+std::vector<std::string> Programma::commandLine(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), PLANNER_FILE);
+    return arguments;
+}
+
+Programma::Programma(const std::vector<std::string>& arguments, const Environment& environment, Errors errors)
+    : Processo(commandLine(arguments), environment, errors) {}
 
 bool Programma::comesToRest(std::chrono::milliseconds interval) {
     // Two looks a second, and as much again and more for the toolkit's own timers.
@@ -45,8 +51,16 @@ bool Programma::comesToRest(std::chrono::milliseconds interval) {
 
 bool Programma::comesToSleep(std::chrono::milliseconds interval) {
     return comesTrue([&] {
-        const long ticksBefore = processorTicks();
-        return !endsWithin(interval) && processorTicks() == ticksBefore;
+        const long switchesBefore = wakeUps();
+        return !endsWithin(interval) && wakeUps() == switchesBefore;
+    });
+}
+
+bool Programma::comesToHoldSignals() const {
+    constexpr unsigned long held = 1UL << (SIGTERM - 1);
+    return comesTrue([this] {
+        const std::string mask = valueIn("/proc/" + std::to_string(pid()) + "/status", "SigBlk:");
+        return !mask.empty() && (std::stoul(mask, nullptr, 16) & held) != 0;
     });
 }
 

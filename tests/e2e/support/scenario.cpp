@@ -43,6 +43,10 @@ Programma& Scenario::startPolling(const std::string& flag) {
     return start({archivio.transitPath(), flag, "NOEVENT"});
 }
 
+bool Scenario::eventStands() const {
+    return std::filesystem::exists(utente.eventFolder() + "/" + ospite.eventFile());
+}
+
 Finestra Scenario::window(const Programma& planner, const std::string& title) const {
     return {schermo, planner, title};
 }

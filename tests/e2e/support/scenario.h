@@ -32,6 +32,9 @@ protected:
     Programma& startWithEvent();
     Programma& startPolling(const std::string& flag = "1");
 
+    /// True while the event has a file.
+    bool eventStands() const;
+
     Finestra window(const Programma& planner, const std::string& title) const;
     bool showsNoWindow(const Programma& planner) const;
     /// Waits for a message box, checks that it looks as one with this icon ("critical" or "information") and

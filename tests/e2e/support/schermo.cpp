@@ -65,7 +65,27 @@ void Schermo::moveMouseAway() const {
 }
 
 void Schermo::savePicture(const std::string& file) const {
-    tool({"import", "-silent", "-window", "root", "png:" + file});
+    tryTool({"import", "-silent", "-window", "root", "png:" + file});
+}
+
+std::string Schermo::hiddenWindow(const std::string& program) const {
+    const Esito search = tryTool({"xdotool", "search", "--name", "^Qt Selection Owner for " + program + "$"});
+    return search.exitCode == 0 ? search.output.substr(0, search.output.find('\n')) : std::string();
+}
+
+void Schermo::awaitProgram(const std::string& program) const {
+    if (!comesTrue([&] { return !hiddenWindow(program).empty(); })) {
+        throw std::runtime_error(program + " does not come to the screen");
+    }
+}
+
+void Schermo::cutOff(const std::string& program) const {
+    awaitProgram(program);
+    tool({"xdotool", "windowkill", hiddenWindow(program)});
+}
+
+void Schermo::shutDown() const {
+    m_server->terminate();
 }
 
 } // namespace planner::e2e

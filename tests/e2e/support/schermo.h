@@ -39,12 +39,21 @@ public:
     void click(int x, int y, const Clic& clic = {}) const;
     /// Puts the mouse where nothing stands out because it is there.
     void moveMouseAway() const;
-    /// Saves what the screen shows as a PNG file.
+    /// Saves what the screen shows as a PNG file, if it still shows anything.
     void savePicture(const std::string& file) const;
+
+    /// Cuts off the program of this name, once it has come: the server closes its connection.
+    void cutOff(const std::string& program) const;
+    /// The server ends under everybody.
+    void shutDown() const;
+    /// Waits until the program of this name has come to the server.
+    void awaitProgram(const std::string& program) const;
 
 private:
     std::unique_ptr<Processo> startQuietly(const std::vector<std::string>& words) const;
     void waitForWindowManager() const;
+    /// A window of the program that never shows, and lasts as long as its connection; empty without one.
+    std::string hiddenWindow(const std::string& program) const;
 
     Size m_size;
     Environment m_environment;
