@@ -7,6 +7,7 @@
 #include "host/ftavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
 #include "platform/posix/end_signals.h"
+#include "platform/posix/fault_watch.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/starter.h"
 #include "platform/posix/system_clock.h"
@@ -19,6 +20,7 @@
 
 #include <QSocketNotifier>
 
+#include <optional>
 #include <span>
 
 using namespace planner;
@@ -113,7 +115,9 @@ int main(int argc, char* argv[]) {
     WayOut uscita([&legame] { return answerWithoutWindow(legame); });
 
     int toolkitArguments = 1; // the command line is the host's: the toolkit takes no switch from it
+    std::optional<FaultWatch> arrivo(&WayOut::onFault);
     GuardedApplication application(toolkitArguments, argv);
+    arrivo.reset();
     setUpAppearance(application);
     application.setMessages(&messaggi);
     application.onQuit([&uscita] { uscita.leave(); });

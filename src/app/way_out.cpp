@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/way_out.h"
 
+#include "platform/posix/fault_watch.h"
+
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -64,6 +66,15 @@ void WayOut::noteScreenTrouble(const std::string& trouble) {
     if (m_guaioSchermo.empty()) {
         m_guaioSchermo = "lo schermo non può essere usato: " + trouble;
     }
+}
+
+void WayOut::onFault(int signal) {
+    endSoon();
+    if (theWayOut != nullptr) {
+        theWayOut->noteScreenTrouble("la connessione si è interrotta");
+        theWayOut->fail({});
+    }
+    std::_Exit(128 + signal); // on the way out already
 }
 
 void WayOut::fail(const std::string& reason) const {

@@ -27,6 +27,8 @@ public:
     /// Why there is no screen to use, in the toolkit's words; of several troubles the first counts. Not said
     /// unless the program fails.
     void noteScreenTrouble(const std::string& trouble);
+    /// What becomes of a fault while the toolkit comes up: it falls over a display that is lost meanwhile.
+    static void onFault(int signal);
     /// Ends the program with exit code 1, after one line on standard error: the trouble with the screen if
     /// there is none, else `reason`.
     [[noreturn]] void fail(const std::string& reason) const;

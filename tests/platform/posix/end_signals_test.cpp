@@ -3,30 +3,16 @@
 #include "platform/posix/end_signals.h"
 #include "platform/posix/posix_file_system.h"
 #include "ports/runtime_errors.h"
+#include "support/in_child.h"
 #include "support/temp_folder.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace planner::test {
 namespace {
-
-/// Runs `work` in a process of its own, whose signals and limits it may change; its exit code, or 128 + n
-/// when signal n ended it.
-template <typename Work>
-int inChild(Work work) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::_exit(work());
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
 
 bool isReadable(const FileDescriptor& descriptor) {
     pollfd waiting{descriptor.get(), POLLIN, 0};
