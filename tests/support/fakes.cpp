@@ -20,6 +20,9 @@ void runNext(std::deque<Action>& actions, const char* whoWaits) {
 void RecordingMessages::show(const Message& message) {
     shown.push_back(message);
     m_journal.push_back("message");
+    if (whenShown) {
+        whenShown();
+    }
 }
 
 bool RecordingMessages::askToRetry(const Message& message) {

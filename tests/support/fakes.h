@@ -44,6 +44,7 @@ public:
     bool askToRetry(const Message& message) override;
 
     std::vector<Message> shown;
+    Action whenShown;           // what the user does while a message is shown
     std::deque<Action> retries; // the user presses "Riprova" as often, each time after this, then "Annulla"
 
 private:

@@ -14,7 +14,7 @@
 
 namespace planner {
 
-/// What the program does next. Rinuncia: it ends, and the host has no answer.
+/// What the program does next. Rinuncia: it ends, and the host has not been told of an answer.
 enum class Seguito { Continua, Termina, Rinuncia };
 
 /// The host link, whichever way host and planner wait for each other: it reads a request from the transit
