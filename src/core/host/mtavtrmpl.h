@@ -42,6 +42,9 @@ public:
     /// in the transit file. False when that file cannot be read or written.
     bool answerWithClose();
 
+    /// Reads the transit file anew; true when it holds another record than the buffer did.
+    bool hasNewRequest();
+
     /// True from the moment when the engine gets a request until its answer is in the transit file.
     bool serving() const { return m_serving; }
 
