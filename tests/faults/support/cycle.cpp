@@ -5,6 +5,7 @@
 #include "faults/support/requests.h"
 
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <map>
 #include <sstream>
@@ -185,7 +186,7 @@ Fine Ufficio::endsOf(e2e::Processo& planner, e2e::Processo& host, milliseconds l
     if (endedWith(hosts, FineOspite::Servito) || endedWith(hosts, FineOspite::RispostaSbagliata)) {
         planner.exitCode(limit);
     } else if (const auto code = planner.exitCode(milliseconds{0})) {
-        host.exitCode(code == 0 ? limit : hostNoticesDeath() ? UntilDeathIsNoticed : UntilLastAnswer);
+        host.exitCode(code == 0 ? limit : deathIsNoticed(code) ? UntilDeathIsNoticed : UntilLastAnswer);
     }
     return {planner.exitCode(milliseconds{0}), host.exitCode(milliseconds{0})};
 }
@@ -205,15 +206,14 @@ std::string Ufficio::brokenByEnds(const Fine& fine, bool persistent) const {
     if (!fine.planner && !fine.host && !goesOnTrying) {
         return "nobody comes to an end";
     }
-    return !fine.host && fine.planner && hostNoticesDeath() ? "the host waits for a planner that is gone"
-                                                            : "";
+    return !fine.host && deathIsNoticed(fine.planner) ? "the host waits for a planner that is gone" : "";
 }
 
-/// A marker tells of no planner, and an event of none that has not made it.
-bool Ufficio::hostNoticesDeath() const {
+/// A marker tells of no planner, and an event of none that has not made it or has removed it.
+bool Ufficio::deathIsNoticed(const std::optional<int>& planner) const {
     const std::string record = test::fileBytes(m_transit);
     const bool answeredBefore = record == requestFor(Letters.back()) || record == answerTo(Letters.back());
-    return DeathIsNoticed && m_modo != Modo::Polling && answeredBefore;
+    return DeathIsNoticed && m_modo != Modo::Polling && answeredBefore && planner == 128 + SIGKILL;
 }
 
 std::string Ufficio::brokenInFiles() const {

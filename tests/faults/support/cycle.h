@@ -67,7 +67,7 @@ private:
     std::unique_ptr<e2e::Processo> hostFor(e2e::Processo& planner) const;
     std::unique_ptr<e2e::Processo> waitingHost() const;
     Fine endsOf(e2e::Processo& planner, e2e::Processo& host, std::chrono::milliseconds limit) const;
-    bool hostNoticesDeath() const;
+    bool deathIsNoticed(const std::optional<int>& planner) const;
     Fine meet(const std::vector<std::string>& planner, std::chrono::milliseconds limit,
               std::optional<std::chrono::microseconds> kill = {}) const;
     std::string brokenByEnds(const Fine& fine, bool persistent) const;
