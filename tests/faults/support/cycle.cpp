@@ -212,14 +212,16 @@ std::string Ufficio::brokenByEnds(const Fine& fine, bool persistent) const {
 /// A marker tells of no planner, and an event of none that has not made it or has removed it.
 bool Ufficio::deathIsNoticed(const std::optional<int>& planner) const {
     const std::string record = test::fileBytes(m_transit);
-    const bool answeredBefore = record == requestFor(Letters.back()) || record == answerTo(Letters.back());
+    const char last = Letters.back();
+    const bool answeredBefore =
+        record == requestFor(last) || record == answerTo(last) || record == endTo(last);
     return DeathIsNoticed && m_modo != Modo::Polling && answeredBefore && planner == 128 + SIGKILL;
 }
 
 std::string Ufficio::brokenInFiles() const {
     const std::string record = test::fileBytes(m_transit);
     const bool whole = std::any_of(Letters.begin(), Letters.end(), [&record](char letter) {
-        return record == requestFor(letter) || record == answerTo(letter);
+        return record == requestFor(letter) || record == answerTo(letter) || record == endTo(letter);
     });
     for (const char* name : Archives) {
         if (test::fileBytes(m_archive.path(name)) != name) {

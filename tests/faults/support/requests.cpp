@@ -34,6 +34,10 @@ std::string answerTo(char letter) {
     return e2e::answeredWith(std::string("20060315  ") + letter, requestFor(letter));
 }
 
+std::string endTo(char letter) {
+    return e2e::closedOn(e2e::NoDay, requestFor(letter));
+}
+
 void writeRequest(const std::string& transit, char letter) {
     writeAtStart(transit, requestFor(letter));
 }

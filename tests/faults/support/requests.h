@@ -16,6 +16,9 @@ std::string requestFor(char letter);
 /// That request, answered.
 std::string answerTo(char letter);
 
+/// That request, answered by a planner that ends without a window.
+std::string endTo(char letter);
+
 /// Writes the request over the one in the transit file, in one call.
 void writeRequest(const std::string& transit, char letter);
 
