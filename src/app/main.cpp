@@ -67,6 +67,10 @@ bool answerWithoutWindow(const Legame& legame) {
     return EventConversation(collegamento, legame.ipc, legame.eventi).congedo();
 }
 
+int exitCodeOf(Seguito end) {
+    return end == Seguito::Termina ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 int runPolling(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita) {
     QtPeriodicTimer Timer1;
     Ftavtrmpl form(collegamento, legame.files, Timer1);
@@ -74,10 +78,11 @@ int runPolling(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita) {
     Timer1.onTick([&form] {
         const Seguito seguito = form.Timer1_Timer();
         if (seguito != Seguito::Continua) {
-            QCoreApplication::exit(seguito == Seguito::Termina ? EXIT_SUCCESS : EXIT_FAILURE);
+            QCoreApplication::exit(exitCodeOf(seguito));
         }
     });
-    return form.Form_Load() == Seguito::Continua ? QCoreApplication::exec() : EXIT_SUCCESS;
+    const Seguito seguito = form.Form_Load();
+    return seguito == Seguito::Continua ? QCoreApplication::exec() : exitCodeOf(seguito);
 }
 
 int runEvents(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita, const FileDescriptor& starter) {

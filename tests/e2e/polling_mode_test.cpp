@@ -178,7 +178,7 @@ TEST_F(PollingMode, AMarkerThatCannotBeDeletedIsSaidOnceAndTheRequestServedOnce)
     EXPECT_EQ(archivio.transit(), answeredWith("20060315  P", requestBytes('A')));
     replaceTransit(requestBytes('G')); // another record under the same marker
     escape(planner, "Planner Giornaliero");
-    EXPECT_EQ(planner.exitCode(), 0) << "an answer \"E\" ends it, without another message";
+    EXPECT_EQ(planner.exitCode(), 1) << "an answer \"E\" ends it, without another message";
     EXPECT_TRUE(archivio.exists(Archivio::LockPl));
     EXPECT_EQ(archivio.transit(), closedOn("20060315", requestBytes('G')));
 }

@@ -49,10 +49,15 @@ void MemoryFileSystem::allow(const std::string& path) {
     m_refused.erase(key(path));
     m_readOnly.erase(key(path));
     m_undeletable.erase(key(path));
+    m_hidden.erase(key(path));
 }
 
 bool MemoryFileSystem::fileExists(const std::string& path) const {
-    return m_files.contains(key(path));
+    return m_files.contains(key(path)) && !m_hidden.contains(key(path));
+}
+
+bool MemoryFileSystem::isMissing(const std::string& path) const {
+    return !m_files.contains(key(path)) && !m_hidden.contains(key(path));
 }
 
 bool MemoryFileSystem::deleteFile(const std::string& path) {

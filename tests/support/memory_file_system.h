@@ -27,10 +27,13 @@ public:
     void refuseWriting(const std::string& path) { m_readOnly.insert(key(path)); }
     /// From now on the file cannot be deleted.
     void refuseDeleting(const std::string& path) { m_undeletable.insert(key(path)); }
+    /// From now on nobody can tell whether there is a file at the path.
+    void hide(const std::string& path) { m_hidden.insert(key(path)); }
     /// Lifts what was refused.
     void allow(const std::string& path);
 
     bool fileExists(const std::string& path) const override;
+    bool isMissing(const std::string& path) const override;
     bool deleteFile(const std::string& path) override;
     std::unique_ptr<InputFile> openForReading(const std::string& path) const override;
     std::size_t readStart(const std::string& path, std::span<char> out) override;
@@ -47,6 +50,7 @@ private:
     std::set<std::string> m_refused;
     std::set<std::string> m_readOnly;
     std::set<std::string> m_undeletable;
+    std::set<std::string> m_hidden;
 };
 
 } // namespace planner::test

@@ -52,6 +52,7 @@ private:
 class ReadOnlyFileSystem : public FileSystem {
 public:
     bool fileExists(const std::string& path) const override { return m_files.fileExists(path); }
+    bool isMissing(const std::string& path) const override { return m_files.isMissing(path); }
     bool deleteFile(const std::string&) override { return false; }
     std::unique_ptr<InputFile> openForReading(const std::string& path) const override {
         return m_files.openForReading(path);

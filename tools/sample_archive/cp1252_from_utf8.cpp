@@ -32,18 +32,27 @@ std::optional<char16_t> takeCharacter(std::string_view& text) {
     return static_cast<char16_t>(code);
 }
 
+std::optional<char> byteFor(char16_t character) {
+    if (character < 0x80) {
+        return static_cast<char>(character);
+    }
+    const auto found = std::find(Cp1252Characters.begin(), Cp1252Characters.end(), character);
+    return found == Cp1252Characters.end()
+               ? std::nullopt
+               : std::optional(static_cast<char>(found - Cp1252Characters.begin()));
+}
+
 } // namespace
 
 std::optional<std::string> cp1252FromUtf8(std::string_view text) {
     std::string out;
     while (!text.empty()) {
         const auto character = takeCharacter(text);
-        const auto found = character ? std::find(Cp1252Characters.begin(), Cp1252Characters.end(), *character)
-                                     : Cp1252Characters.end();
-        if (found == Cp1252Characters.end()) {
+        const auto byte = character ? byteFor(*character) : std::nullopt;
+        if (!byte) {
             return std::nullopt;
         }
-        out += static_cast<char>(found - Cp1252Characters.begin());
+        out += *byte;
     }
     return out;
 }

@@ -23,8 +23,18 @@ bool EventConversation::eventLoop() {
         }
     } while (signalAnswer() && waitForRequest());
     m_collegamento.releaseEngine();
-    call(&HostIpc::TvIpcRimozioneEvento);
+    giveUpEvent();
     return false;
+}
+
+void EventConversation::giveUpEvent() {
+    if (!m_PrimoCiclo) {
+        if (m_collegamento.hasNewRequest()) {
+            m_collegamento.answerWithClose();
+        }
+        call(&HostIpc::TvIpcSetEvento);
+    }
+    call(&HostIpc::TvIpcRimozioneEvento);
 }
 
 bool EventConversation::answerRequest() {

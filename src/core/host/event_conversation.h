@@ -37,6 +37,9 @@ private:
     bool signalAnswer();
     bool waitForRequest();
     bool endConversation();
+    /// After a call on the event that failed: a host that has asked meanwhile, or asks yet, does not wait for
+    /// ever.
+    void giveUpEvent();
     bool tried(Operazione operazione);
     EsitoEvento call(Operazione operazione) { return (m_ipc.*operazione)(m_evento); }
 

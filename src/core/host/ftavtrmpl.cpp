@@ -11,7 +11,7 @@ Ftavtrmpl::Ftavtrmpl(mtavtrmpl& collegamento, FileSystem& files, PeriodicTimer& 
 Seguito Ftavtrmpl::Form_Load() {
     if (!m_files.fileExists(m_collegamento.PathTransito())) {
         m_collegamento.reportTransitFile();
-        return Seguito::Termina;
+        return withoutTransitFile();
     }
     if (m_collegamento.FlagAvvio() == "0") {
         m_files.deleteFile(m_collegamento.CartellaTransito() + "TvPlaOK.lck");
@@ -19,6 +19,10 @@ Seguito Ftavtrmpl::Form_Load() {
     }
     Timer1.setEnabled(true);
     return Seguito::Continua;
+}
+
+Seguito Ftavtrmpl::withoutTransitFile() const {
+    return m_files.isMissing(m_collegamento.PathTransito()) ? Seguito::Termina : Seguito::Rinuncia;
 }
 
 template <typename Work>
@@ -34,11 +38,13 @@ Seguito Ftavtrmpl::withoutTicks(Work work) {
 
 Seguito Ftavtrmpl::Timer1_Timer() {
     if (!m_files.fileExists(FileLockPl)) {
-        m_risposta.reset();
+        if (m_files.isMissing(FileLockPl)) {
+            m_risposta.reset();
+        }
         return Seguito::Continua;
     }
     if (!m_files.fileExists(m_collegamento.PathTransito())) {
-        return Seguito::Termina;
+        return withoutTransitFile();
     }
     const Seguito seguito = withoutTicks([this] { return lookAtRequest(); });
     if (seguito != Seguito::Continua) {
@@ -73,21 +79,25 @@ Seguito Ftavtrmpl::serveRequest() {
         return Seguito::Rinuncia;
     }
     m_risposta = m_collegamento.richiesta();
-    deleteMarker();
-    return m_collegamento.finished() ? Seguito::Termina : Seguito::Continua;
+    const bool told = deleteMarker();
+    return !m_collegamento.finished() ? Seguito::Continua : told ? Seguito::Termina : Seguito::Rinuncia;
 }
 
 bool Ftavtrmpl::markerIsGone() {
-    return m_files.deleteFile(FileLockPl) || !m_files.fileExists(FileLockPl);
+    return m_files.deleteFile(FileLockPl) || m_files.isMissing(FileLockPl);
 }
 
-void Ftavtrmpl::deleteMarker() {
-    if (markerIsGone()) {
+bool Ftavtrmpl::deleteMarker() {
+    bool gone = markerIsGone();
+    if (!gone && m_guaioLock.firstTime()) {
+        m_collegamento.reportMarker(FileLockPl);
+        gone = markerIsGone(); // the user may have seen to it
+    }
+    if (gone) {
         m_guaioLock.over();
         m_risposta.reset(); // the marker was away: whatever comes next is a new request
-    } else if (m_guaioLock.firstTime()) {
-        m_collegamento.reportMarker(FileLockPl);
     }
+    return gone;
 }
 
 bool Ftavtrmpl::congedo() {

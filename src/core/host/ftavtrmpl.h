@@ -27,14 +27,17 @@ class Ftavtrmpl {
 public:
     Ftavtrmpl(mtavtrmpl& collegamento, FileSystem& files, PeriodicTimer& Timer1);
 
-    /// Starts the timer, unless the transit file is missing or the host only wants its marker removed.
+    /// Starts the timer, unless the transit file is missing, which is said, or the host only wants its marker
+    /// removed.
     Seguito Form_Load();
 
     /// One tick: serves the request that the marker announces, if there is one. The marker goes after the
     /// answer is in the file and never before; it stays when the user gives up an answer that cannot be
     /// written, which ends the program. A request is served once, until the marker was away or the record is
     /// another. A transit file that cannot be read and a marker that cannot be deleted are said once and
-    /// tried again silently at each tick.
+    /// tried again silently at each tick; the marker of an answer that ends the program once more after it
+    /// was said, and Rinuncia when it stays. So is the end that comes when nobody can tell whether there is
+    /// a transit file.
     Seguito Timer1_Timer();
 
     /// The end from outside, in whatever state: answers a request under way with "E" and deletes the marker.
@@ -45,11 +48,14 @@ private:
     /// No tick comes while the planner or a message is open.
     template <typename Work>
     Seguito withoutTicks(Work work);
+    /// The end that a transit file brings which is gone, or of which nobody can tell.
+    Seguito withoutTransitFile() const;
     Seguito lookAtRequest();
     bool readRequest();
     bool alreadyServed() const { return m_risposta && m_collegamento.richiesta() == *m_risposta; }
     Seguito serveRequest();
-    void deleteMarker();
+    /// False when the marker is still there.
+    bool deleteMarker();
     bool markerIsGone();
 
     mtavtrmpl& m_collegamento;

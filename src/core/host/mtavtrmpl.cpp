@@ -38,6 +38,11 @@ bool mtavtrmpl::tryToRead() {
     }
 }
 
+bool mtavtrmpl::hasNewRequest() {
+    const TransitRequest before = m_richiesta;
+    return tryToRead() && m_richiesta != before;
+}
+
 bool mtavtrmpl::dispatch() {
     m_serving = true;
     try {

@@ -14,7 +14,7 @@
 
 namespace planner {
 
-/// What the program does next. Rinuncia: it ends, and the host has no answer.
+/// What the program does next. Rinuncia: it ends, and the host has not been told of an answer.
 enum class Seguito { Continua, Termina, Rinuncia };
 
 /// The host link, whichever way host and planner wait for each other: it reads a request from the transit
@@ -41,6 +41,9 @@ public:
     /// Answers as a closed window does, without a word: the request that the engine is serving, else the one
     /// in the transit file. False when that file cannot be read or written.
     bool answerWithClose();
+
+    /// Reads the transit file anew; true when it holds another record than the buffer did.
+    bool hasNewRequest();
 
     /// True from the moment when the engine gets a request until its answer is in the transit file.
     bool serving() const { return m_serving; }

@@ -26,6 +26,8 @@ public:
     virtual ~FileSystem() = default;
     /// True for an existing path that is no folder; any error counts as not existing.
     virtual bool fileExists(const std::string& path) const = 0;
+    /// True when there is certainly no file at the path, or a folder; false also when that cannot be told.
+    virtual bool isMissing(const std::string& path) const = 0;
     /// Deletes the file; false when there was none or it cannot be deleted.
     virtual bool deleteFile(const std::string& path) = 0;
     /// Opens an existing file. Throws FileError when it is missing, no file, locked or unreadable.

@@ -26,20 +26,19 @@ const Collaboratore* trovaCollaboratore(std::span<const Collaboratore> collabora
     return indice.presente() && at < collaboratori.size() ? &collaboratori[at] : nullptr;
 }
 
-IndiceCodici::IndiceCodici() : m_indici(CodeCount, -1) {}
-
-IndiceCodici::IndiceCodici(std::span<const Collaboratore> collaboratori) : IndiceCodici() {
+IndiceCodici::IndiceCodici(std::span<const Collaboratore> collaboratori)
+    : m_posti(std::make_unique<std::uint16_t[]>(CodeCount)) {
     const std::size_t count = std::min<std::size_t>(collaboratori.size(), std::size_t{INT16_MAX} + 1);
     for (std::size_t i = 0; i < count; ++i) {
-        auto& indice = m_indici[slotOf(collaboratori[i].codice.trimmed())];
-        indice = indice < 0 ? static_cast<std::int16_t>(i) : indice;
+        auto& posto = m_posti[slotOf(collaboratori[i].codice.trimmed())];
+        posto = posto == 0 ? static_cast<std::uint16_t>(i + 1) : posto;
     }
     m_ultimo = static_cast<std::int16_t>(count > 0 ? count - 1 : 0);
 }
 
 IndiceCollaboratore IndiceCodici::trova(std::string_view codice) const {
     const std::string_view trimmed = trim(codice);
-    return {trimmed.size() > 2 ? -1 : m_indici[slotOf(trimmed)]};
+    return {trimmed.size() > 2 || !m_posti ? -1 : m_posti[slotOf(trimmed)] - 1};
 }
 
 IndiceCollaboratore IndiceCodici::IndCollaboratore(std::string_view codice) const {

@@ -5,10 +5,10 @@
 #include "archive/records.h"
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace planner {
 
@@ -28,7 +28,7 @@ const Collaboratore* trovaCollaboratore(std::span<const Collaboratore> collabora
 class IndiceCodici {
 public:
     /// An index over an empty table.
-    IndiceCodici();
+    IndiceCodici() = default;
     /// Indexes the whole table, its blank last element included; of equal codes the first counts.
     explicit IndiceCodici(std::span<const Collaboratore> collaboratori);
 
@@ -40,7 +40,7 @@ public:
     IndiceCollaboratore trova(std::string_view codice) const;
 
 private:
-    std::vector<std::int16_t> m_indici; // by the two bytes of the trimmed code; -1 for none
+    std::unique_ptr<std::uint16_t[]> m_posti; // by a code's two bytes: index + 1, 0 for none
     std::int16_t m_ultimo = 0;
 };
 

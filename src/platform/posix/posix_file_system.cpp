@@ -6,6 +6,7 @@
 #include "ports/runtime_errors.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -29,6 +30,17 @@ private:
     std::uint64_t m_length;
 };
 
+/// What stands at a path; a folder is no file.
+enum class Sight { file, none, unknown };
+
+Sight lookAt(const std::string& path) {
+    struct stat status {};
+    if (::stat(nativePath(path).c_str(), &status) == 0) {
+        return S_ISDIR(status.st_mode) ? Sight::none : Sight::file;
+    }
+    return errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG ? Sight::none : Sight::unknown;
+}
+
 } // namespace
 
 std::string nativePath(std::string path) {
@@ -37,8 +49,11 @@ std::string nativePath(std::string path) {
 }
 
 bool PosixFileSystem::fileExists(const std::string& path) const {
-    struct stat status {};
-    return ::stat(nativePath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+    return lookAt(path) == Sight::file;
+}
+
+bool PosixFileSystem::isMissing(const std::string& path) const {
+    return lookAt(path) == Sight::none;
 }
 
 bool PosixFileSystem::deleteFile(const std::string& path) {

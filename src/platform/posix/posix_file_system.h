@@ -10,6 +10,7 @@ namespace planner {
 class PosixFileSystem : public FileSystem {
 public:
     bool fileExists(const std::string& path) const override;
+    bool isMissing(const std::string& path) const override;
     bool deleteFile(const std::string& path) override;
     std::unique_ptr<InputFile> openForReading(const std::string& path) const override;
     std::size_t readStart(const std::string& path, std::span<char> out) override;

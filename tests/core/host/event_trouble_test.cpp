@@ -81,6 +81,25 @@ TEST_F(EventTroubleTest, AWaitThatCannotBeMadeIsSaidAndServesNothingAgain) {
     EXPECT_EQ(journal.back(), "remove [EV]");
 }
 
+TEST_F(EventTroubleTest, AHostThatHasAskedWhileTheWaitFailsIsAnsweredWithClose) {
+    failAlways("wait", NoSpace);
+    answers = {"20060315RBD"};
+    eventi.onPause = [this] { putRequest(richiesta()); };
+    EXPECT_FALSE(run());
+    EXPECT_EQ(answerInFile().valret.view(), "00000000  E");
+    EXPECT_EQ(calls("WPlanner"), 1);
+    EXPECT_EQ(calls("signal [EV]"), 2);
+    EXPECT_EQ(journal.back(), "remove [EV]");
+}
+
+TEST_F(EventTroubleTest, AHostThatAsksAfterTheWaitHasFailedIsWokenAndTheLastAnswerStays) {
+    failAlways("wait", NoSpace);
+    answers = {"20060315RBD"};
+    EXPECT_FALSE(run());
+    EXPECT_EQ(answerInFile().valret.view(), "20060315RBD");
+    EXPECT_EQ(calls("signal [EV]"), 2);
+}
+
 TEST_F(EventTroubleTest, AnEventsNameIsSaidInReadableLetters) {
     mtavtrmpl link = makeLink("C:\\arch\\trans.dat 1 citt\xE0");
     failAlways("create", Owned);

@@ -137,6 +137,41 @@ TEST_F(PollingTest, AMarkerWithoutTransitFileEndsSilently) {
     EXPECT_FALSE(files.fileExists(Transito));
 }
 
+TEST_F(PollingTest, ATransitFileThatCannotBeLookedAtEndsTheProgramAsATrouble) {
+    start();
+    form->Form_Load();
+    files.hide(Transito);
+    files.put(Lock, "");
+    EXPECT_EQ(form->Timer1_Timer(), Seguito::Rinuncia);
+    EXPECT_TRUE(files.fileExists(Lock));
+    EXPECT_EQ(form->Form_Load(), Seguito::Rinuncia);
+    EXPECT_THAT(messageTexts(), ElementsAre(Trouble));
+}
+
+TEST_F(PollingTest, AMarkerThatCannotBeLookedAtIsNoRequest) {
+    start();
+    form->Form_Load();
+    files.put(Lock, "");
+    files.hide(Lock);
+    tick(2);
+    EXPECT_THAT(calls, IsEmpty());
+    files.allow(Lock);
+    tick();
+    EXPECT_EQ(calls.size(), 1u);
+}
+
+TEST_F(PollingTest, AMarkerThatCannotBeLookedAtForATimeMakesNoNewRequest) {
+    files.refuseDeleting(Lock);
+    answers = {"20060315RBD"};
+    tickWithMarker();
+    files.hide(Lock);
+    tick(2);
+    files.allow(Lock);
+    tick();
+    EXPECT_EQ(calls.size(), 1u);
+    EXPECT_FALSE(files.fileExists(Lock));
+}
+
 TEST_F(PollingTest, ATransitFileThatCannotBeOpenedIsSaidOnceWithTheTimerOffAndTriedAgain) {
     files.refuse(Transito);
     EXPECT_EQ(tickWithMarker(), Seguito::Continua);
@@ -195,8 +230,9 @@ TEST_F(PollingTest, AMarkerThatCannotBeDeletedIsSaidOnceWithTheTimerOff) {
     files.refuseDeleting(Lock);
     answers = {"20060315RBD"};
     EXPECT_EQ(tickWithMarker(), Seguito::Continua);
-    EXPECT_THAT(journal, ElementsAre("timer off", "engine made", "WPlanner", "write trans.dat",
-                                     "delete refused LockPl.lck", "message", "timer on"));
+    EXPECT_THAT(journal,
+                ElementsAre("timer off", "engine made", "WPlanner", "write trans.dat",
+                            "delete refused LockPl.lck", "message", "delete refused LockPl.lck", "timer on"));
     EXPECT_THAT(messageTexts(), ElementsAre(MarkerTrouble));
 }
 
@@ -252,10 +288,18 @@ TEST_F(PollingTest, AMarkerThatCannotBeDeletedIsSaidAgainAfterOneCould) {
     EXPECT_THAT(messageTexts(), ElementsAre(MarkerTrouble, MarkerTrouble));
 }
 
-TEST_F(PollingTest, AnAnswerEndingInEEndsTheProgramThoughTheMarkerStays) {
+TEST_F(PollingTest, AMarkerThatTheUserHelpsWithAtTheMessageGoesAtOnce) {
     files.refuseDeleting(Lock);
+    messaggi.onShow = [this] { files.allow(Lock); };
     answers = {"20060315RBE"};
     EXPECT_EQ(tickWithMarker(), Seguito::Termina);
+    EXPECT_FALSE(files.fileExists(Lock));
+}
+
+TEST_F(PollingTest, AnAnswerEndingInEEndsTheProgramAsATroubleWhenTheMarkerStays) {
+    files.refuseDeleting(Lock);
+    answers = {"20060315RBE"};
+    EXPECT_EQ(tickWithMarker(), Seguito::Rinuncia);
     EXPECT_EQ(answerInFile().valret.view(), "20060315RBE");
     EXPECT_EQ(journal.back(), "engine released");
     EXPECT_THAT(messageTexts(), ElementsAre(MarkerTrouble));

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 // The planner's link to its host on the real disk and the real event, with a user who answers at once and no
-// window. The arguments are the planner's own; with NOEVENT the marker must be there already. Each request is
-// answered with the letter that it holds as `planrichiesto`, one that holds none with "E".
+// window, who gives up an answer that cannot be written. The arguments are the planner's own; with NOEVENT
+// the timer ticks faster. Each request is answered with the letter that it holds as `planrichiesto`, one that
+// holds none with "E".
 #include "host/event_conversation.h"
 #include "host/ftavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
@@ -17,6 +18,8 @@
 namespace planner::test {
 
 namespace {
+
+constexpr std::chrono::milliseconds BetweenTicks{5};
 
 /// Nothing but wake-ups from the thread that waits for the host.
 class WakeUps : public EventPump {
@@ -47,7 +50,8 @@ bool serve(const std::string& commandLine) {
     TavTermHostIpc ipc(events);
     PosixFileSystem files;
     mtavtrmpl link(line, {files, messages}, [&journal] {
-        return std::make_unique<FakeMotore>(journal, [](WPlannerCall& call) {
+        return std::make_unique<FakeMotore>(journal, [&journal](WPlannerCall& call) {
+            journal.clear(); // however many requests come
             call.collab = "  ";
             call.valret = "20060315  " + (call.planrichiesto == " " ? "E" : call.planrichiesto);
         });
@@ -56,7 +60,12 @@ bool serve(const std::string& commandLine) {
         return EventConversation(link, ipc, events).eventLoop();
     }
     Ftavtrmpl form(link, files, timer);
-    return form.Form_Load() == Seguito::Continua && form.Timer1_Timer() == Seguito::Termina;
+    Seguito seguito = form.Form_Load();
+    while (seguito == Seguito::Continua) {
+        events.processFor(BetweenTicks);
+        seguito = form.Timer1_Timer();
+    }
+    return seguito == Seguito::Termina;
 }
 
 } // namespace

@@ -52,6 +52,18 @@ TEST_F(PosixFileSystemTest, AnyErrorCountsAsNotExisting) {
     EXPECT_FALSE(files.fileExists(folder.path(std::string(5000, 'x'))));
 }
 
+TEST_F(PosixFileSystemTest, APathIsMissingWhenItIsCertainThatThereIsNoFile) {
+    folder.write("file", "");
+    folder.makeFolder("folder");
+    EXPECT_TRUE(files.isMissing(folder.path("none")));
+    EXPECT_TRUE(files.isMissing(folder.path("folder")));
+    EXPECT_TRUE(files.isMissing(folder.path("file/below-a-file")));
+    EXPECT_FALSE(files.isMissing(folder.path() + "\\file"));
+    std::filesystem::create_symlink("ring", folder.folder() / "ring");
+    EXPECT_FALSE(files.isMissing(folder.path("ring")));
+    EXPECT_FALSE(files.fileExists(folder.path("ring")));
+}
+
 TEST_F(PosixFileSystemTest, DeletesFilesOnly) {
     folder.write("file", "");
     folder.makeFolder("folder");
