@@ -49,6 +49,7 @@ TEST_F(Soak, ThousandsOfRequestsLeaveNothingBehindInTheProcess) {
     const auto planner = start();
     serve(requests / 5);
     const e2e::Consumo before = e2e::settledConsumo(planner->pid(), waiting);
+    ASSERT_GT(before.kilobytes, 0);
     serve(requests);
     const e2e::Consumo after = e2e::settledConsumo(planner->pid(), before);
     EXPECT_LE(after.descriptors, before.descriptors);

@@ -8,7 +8,7 @@ namespace planner::test {
 
 /// True when the tests that repeat themselves are to do so as often as before a release.
 inline bool longForm() {
-    return std::getenv("PLANNER_LONG") != nullptr;
+    return std::getenv("PLANNER_LONG_TESTS") != nullptr;
 }
 
 /// How often such a test repeats itself.
