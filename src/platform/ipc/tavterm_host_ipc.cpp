@@ -13,7 +13,7 @@ namespace planner {
 
 namespace {
 
-constexpr std::chrono::milliseconds EndOfWait{200}; // for a wait whose event has been removed
+constexpr std::chrono::milliseconds END_OF_WAIT{200}; // for a wait whose event has been removed
 
 EsitoEvento called(int (*operation)(const char*), const std::string& nome) {
     errno = 0;
@@ -54,7 +54,7 @@ EsitoEvento TavTermHostIpc::TvIpcWaitEvento(const std::string& nome) {
 EsitoEvento TavTermHostIpc::waitBesideEvents(const std::string& nome) {
     std::atomic<bool> returned = false;
     m_attesa = std::async(std::launch::async, [this, &nome, &returned] {
-        const EsitoEvento esito = called(&::TvIpcWaitEvento, nome);
+        EsitoEvento esito = called(&::TvIpcWaitEvento, nome);
         returned = true;
         m_eventi.wakeUp();
         return esito;
@@ -67,7 +67,7 @@ EsitoEvento TavTermHostIpc::waitBesideEvents(const std::string& nome) {
 
 bool TavTermHostIpc::interrompiAttesa(const std::string& nome) {
     TvIpcRimozioneEvento(nome);
-    return m_attesa.valid() && m_attesa.wait_for(EndOfWait) == std::future_status::ready && !m_attesa.get();
+    return m_attesa.valid() && m_attesa.wait_for(END_OF_WAIT) == std::future_status::ready && !m_attesa.get();
 }
 
 } // namespace planner

@@ -27,7 +27,6 @@ constexpr milliseconds Limit{Slower * 15'000};
 /// How long a planner is watched that looks for its marker again and again and cannot succeed.
 constexpr milliseconds Patience{Slower * 1'000};
 /// A host's wait ends by itself when a planner has died whose first answer it has had.
-constexpr bool DeathIsNoticed = false;
 constexpr milliseconds UntilDeathIsNoticed{Slower * 5'000};
 constexpr milliseconds UntilLastAnswer{Slower * 200}; // which may stand there already
 constexpr milliseconds BetweenLooks{2};
@@ -215,7 +214,7 @@ bool Ufficio::deathIsNoticed(const std::optional<int>& planner) const {
     const char last = Letters.back();
     const bool answeredBefore =
         record == requestFor(last) || record == answerTo(last) || record == endTo(last);
-    return DeathIsNoticed && m_modo != Modo::Polling && answeredBefore && planner == 128 + SIGKILL;
+    return m_modo != Modo::Polling && answeredBefore && planner == 128 + SIGKILL;
 }
 
 std::string Ufficio::brokenInFiles() const {

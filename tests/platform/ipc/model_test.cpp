@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "event_model.h"
 #include "ipc_fixture.h"
+#include "support/long_form.h"
 
-#include <cstdlib>
 #include <random>
 
 namespace planner::ipctest {
@@ -120,7 +120,7 @@ TEST_F(ModelTest, EightProcessesDoWhatTheModelSays) {
 }
 
 TEST_F(ModelTest, EightProcessesForAMinute) {
-    if (std::getenv("PLANNER_LONG_TESTS") == nullptr) {
+    if (!test::longForm()) {
         GTEST_SKIP() << "takes a minute: set PLANNER_LONG_TESTS";
     }
     const unsigned chosen = std::random_device{}();
