@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "app/way_out.h"
 #include "engine/clsplg.h"
+#include "host/abandonment.h"
+#include "host/event_conversation.h"
 #include "host/ftavtrmpl.h"
-#include "host/mtavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
+#include "platform/posix/end_signals.h"
 #include "platform/posix/posix_file_system.h"
+#include "platform/posix/starter.h"
 #include "platform/posix/system_clock.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/guarded_application.h"
@@ -12,6 +16,8 @@
 #include "ui/ports/qt_event_pump.h"
 #include "ui/ports/qt_message_boxes.h"
 #include "ui/ports/qt_periodic_timer.h"
+
+#include <QSocketNotifier>
 
 #include <span>
 
@@ -28,15 +34,62 @@ std::string joinArguments(std::span<char*> arguments) {
     return line;
 }
 
-int runPolling(mtavtrmpl& collegamento, FileSystem& files) {
+/// Has `act` called in the main thread, once, when the descriptor becomes readable, if there is one.
+template <typename Act>
+void whenReadable(const FileDescriptor& descriptor, Act act) {
+    if (descriptor.get() >= 0) {
+        auto* notifier = new QSocketNotifier(descriptor.get(), QSocketNotifier::Read, qApp);
+        QObject::connect(notifier, &QSocketNotifier::activated, qApp, [notifier, act] {
+            notifier->setEnabled(false); // it stays readable
+            act();
+        });
+    }
+}
+
+/// What the program talks to its host through.
+struct Legame {
+    const RigaComando& riga;
+    FileSystem& files;
+    MessageBoxes& messaggi;
+    EventPump& eventi;
+    HostIpc& ipc;
+};
+
+/// The end of a planner that has no window yet: its host has asked, and waits.
+bool answerWithoutWindow(const Legame& legame) {
+    mtavtrmpl collegamento(legame.riga, {legame.files, legame.messaggi}, {});
+    if (legame.riga.polling()) {
+        QtPeriodicTimer Timer1;
+        return Ftavtrmpl(collegamento, legame.files, Timer1).congedo();
+    }
+    return EventConversation(collegamento, legame.ipc, legame.eventi).congedo();
+}
+
+int runPolling(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita) {
     QtPeriodicTimer Timer1;
-    Ftavtrmpl form(collegamento, files, Timer1);
+    Ftavtrmpl form(collegamento, legame.files, Timer1);
+    uscita.setCongedo([&form] { return form.congedo(); });
     Timer1.onTick([&form] {
-        if (form.Timer1_Timer() == Seguito::Termina) {
-            QCoreApplication::quit();
+        const Seguito seguito = form.Timer1_Timer();
+        if (seguito != Seguito::Continua) {
+            QCoreApplication::exit(seguito == Seguito::Termina ? EXIT_SUCCESS : EXIT_FAILURE);
         }
     });
-    return form.Form_Load() == Seguito::Continua ? QCoreApplication::exec() : 0;
+    return form.Form_Load() == Seguito::Continua ? QCoreApplication::exec() : EXIT_SUCCESS;
+}
+
+int runEvents(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita, const FileDescriptor& starter) {
+    EventConversation conversazione(collegamento, legame.ipc, legame.eventi);
+    uscita.setCongedo([&conversazione] { return conversazione.congedo(); });
+    QtPeriodicTimer timer;
+    Abandonment abbandono(conversazione, legame.ipc, timer);
+    timer.onTick([&] {
+        if (abbandono.tick()) {
+            uscita.leave();
+        }
+    });
+    whenReadable(starter, [&abbandono] { abbandono.starterGone(); });
+    return conversazione.eventLoop() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace
@@ -44,31 +97,37 @@ int runPolling(mtavtrmpl& collegamento, FileSystem& files) {
 int main(int argc, char* argv[]) {
     const std::string line = joinArguments({argv, static_cast<std::size_t>(argc)});
     if (line.empty()) {
-        return 0;
+        return EXIT_SUCCESS;
     }
-    int toolkitArguments = 1; // the command line is the host's: the toolkit takes no switch from it
-    GuardedApplication application(toolkitArguments, argv);
-    setUpAppearance(application);
+    const FileDescriptor endSignals = holdEndSignals(); // before the toolkit makes its threads
+    const FileDescriptor starter = watchStarter();
+    failBeyondFileLimit();
 
     PosixFileSystem files;
     SystemClock orologio;
     QtMessageBoxes messaggi;
-    application.setMessages(&messaggi);
     QtEventPump eventi;
-    TavTermHostIpc ipc;
+    TavTermHostIpc ipc(eventi);
+    const RigaComando riga = parseCommandLine(line);
+    const Legame legame{riga, files, messaggi, eventi, ipc};
+    WayOut uscita([&legame] { return answerWithoutWindow(legame); });
+
+    int toolkitArguments = 1; // the command line is the host's: the toolkit takes no switch from it
+    GuardedApplication application(toolkitArguments, argv);
+    setUpAppearance(application);
+    application.setMessages(&messaggi);
+    application.onQuit([&uscita] { uscita.leave(); });
+    whenReadable(endSignals, [&uscita] { uscita.leave(); });
 
     modpl sessione;
     ControlliPlcal controlli;
     Contenuti contenuti({sessione, controlli, files, messaggi, orologio});
     PlannerWindows finestre(sessione, controlli, contenuti, messaggi);
 
-    const RigaComando riga = parseCommandLine(line);
-    mtavtrmpl collegamento(riga, {files, messaggi, eventi, ipc}, [&] {
+    mtavtrmpl collegamento(riga, {files, messaggi}, [&] {
         return std::make_unique<clsplg>(
             Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});
     });
-    if (riga.polling()) {
-        return runPolling(collegamento, files);
-    }
-    return collegamento.eventLoop() ? 0 : 1;
+    return riga.polling() ? runPolling(collegamento, legame, uscita)
+                          : runEvents(collegamento, legame, uscita, starter);
 }

@@ -76,7 +76,7 @@ private:
     FuzzInput m_gestures;
     RecordingIpc m_ipc{bench.journal};
     mtavtrmpl m_link{parseCommandLine("C:\\arch\\trans.dat 1 EV"),
-                     {bench.files, bench.messaggi, bench.eventi, m_ipc},
+                     {bench.files, bench.messaggi},
                      [this] { return makeEngine(); }};
 };
 

@@ -22,6 +22,15 @@ void RecordingMessages::show(const Message& message) {
     m_journal.push_back("message");
 }
 
+bool RecordingMessages::askToRetry(const Message& message) {
+    show(message);
+    if (retries.empty()) {
+        return false;
+    }
+    runNext(retries, "");
+    return true;
+}
+
 void FakeWindow::load() {
     m_journal.push_back(m_loaded ? "load again" : "load");
     m_loaded = true;
@@ -37,9 +46,35 @@ void ScriptedPump::waitAndProcess() {
     runNext(actions, "the planner waits for a user who does nothing more");
 }
 
-void RecordingIpc::TvIpcWaitEvento(const std::string& nome) {
-    note("wait", nome);
-    runNext(hostActions, "the planner waits for a host that does nothing more");
+void ScriptedPump::processFor(std::chrono::milliseconds time) {
+    pauses.push_back(time);
+    if (onPause) {
+        onPause();
+    }
+}
+
+EsitoEvento RecordingIpc::note(const std::string& call, const std::string& nome) {
+    m_journal.push_back(call + " [" + nome + "]");
+    auto& waiting = troubles[call];
+    if (waiting.empty()) {
+        return {};
+    }
+    const GuaioEvento trouble = waiting.front();
+    waiting.pop_front();
+    return trouble;
+}
+
+EsitoEvento RecordingIpc::TvIpcWaitEvento(const std::string& nome) {
+    EsitoEvento outcome = note("wait", nome);
+    if (!outcome) {
+        runNext(hostActions, "the planner waits for a host that does nothing more");
+    }
+    return outcome;
+}
+
+bool RecordingIpc::interrompiAttesa(const std::string& nome) {
+    note("remove", nome);
+    return signalledBeforeRemoval;
 }
 
 void FakeMotore::WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
@@ -54,6 +89,11 @@ void FakeMotore::WPlanner(std::string& tipoplanner, const std::string& startdate
     valret = call.valret;
     Windowcaption = call.Windowcaption;
     planrichiesto = call.planrichiesto;
+}
+
+void FakeMotore::chiusura(std::string& collab, std::string& valret) const {
+    collab = "BI";
+    valret = "20060321BIE";
 }
 
 std::optional<std::string> FakeVistaPlfcollab::chiediTesto(std::string_view titolo,

@@ -19,6 +19,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -40,8 +41,10 @@ class RecordingMessages : public MessageBoxes {
 public:
     explicit RecordingMessages(Journal& journal) : m_journal(journal) {}
     void show(const Message& message) override;
+    bool askToRetry(const Message& message) override;
 
     std::vector<Message> shown;
+    std::deque<Action> retries; // the user presses "Riprova" as often, each time after this, then "Annulla"
 
 private:
     Journal& m_journal;
@@ -67,9 +70,13 @@ class ScriptedPump : public EventPump {
 public:
     explicit ScriptedPump(Journal& journal) : m_journal(journal) {}
     void waitAndProcess() override;
+    void processFor(std::chrono::milliseconds time) override;
+    void wakeUp() override {}
     void flush() override { m_journal.push_back("flush"); }
 
     std::deque<Action> actions;
+    std::vector<std::chrono::milliseconds> pauses;
+    Action onPause; // what happens in each of them
 
 private:
     Journal& m_journal;
@@ -85,21 +92,27 @@ private:
     Data m_today;
 };
 
-/// Each wait for the host runs the host's next action. Throws ScriptEnded when none is left.
+/// Each wait for the host runs the host's next action. Throws ScriptEnded when none is left. A call of which
+/// `troubles` has some left fails with the next one.
 class RecordingIpc : public HostIpc {
 public:
     explicit RecordingIpc(Journal& journal) : m_journal(journal) {}
-    void TvIpcCreazioneEvento(const std::string& nome) override { note("create", nome); }
-    void TvIpcSetEvento(const std::string& nome) override { note("signal", nome); }
-    void TvIpcWaitEvento(const std::string& nome) override;
-    void TvIpcRimozioneEvento(const std::string& nome) override { note("remove", nome); }
+    EsitoEvento TvIpcCreazioneEvento(const std::string& nome) override { return note("create", nome); }
+    EsitoEvento TvIpcSetEvento(const std::string& nome) override { return note("signal", nome); }
+    EsitoEvento TvIpcWaitEvento(const std::string& nome) override;
+    EsitoEvento TvIpcRimozioneEvento(const std::string& nome) override { return note("remove", nome); }
+    bool interrompiAttesa(const std::string& nome) override;
+    bool rispostaPresa() const override { return answerTaken; }
+    bool ospiteVivo() const override { return hostAlive; }
 
     std::deque<Action> hostActions;
+    std::map<std::string, std::deque<GuaioEvento>> troubles; // by "create", "signal", "wait", "remove"
+    bool signalledBeforeRemoval = false;
+    bool answerTaken = true;
+    bool hostAlive = true;
 
 private:
-    void note(const std::string& call, const std::string& nome) {
-        m_journal.push_back(call + " [" + nome + "]");
-    }
+    EsitoEvento note(const std::string& call, const std::string& nome);
 
     Journal& m_journal;
 };
@@ -137,6 +150,7 @@ public:
     void WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
                   const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                   std::string& valret, std::string& Windowcaption, std::string& planrichiesto) override;
+    void chiusura(std::string& collab, std::string& valret) const override;
 
 private:
     Journal& m_journal;

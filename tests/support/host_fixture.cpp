@@ -15,7 +15,7 @@ mtavtrmpl HostFixture::makeLink(const std::string& commandLine) {
             answers.pop_front();
         }
     };
-    return {parseCommandLine(commandLine), {files, messaggi, eventi, ipc}, [this, answer] {
+    return {parseCommandLine(commandLine), {files, messaggi}, [this, answer] {
                 return std::make_unique<FakeMotore>(journal, answer);
             }};
 }

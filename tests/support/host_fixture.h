@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/mtavtrmpl.h"
+#include "host/event_conversation.h"
 #include "support/builders.h"
 #include "support/fakes.h"
 #include "support/memory_file_system.h"
@@ -21,6 +21,7 @@ protected:
     static constexpr const char* Transito = "C:\\arch\\trans.dat";
 
     mtavtrmpl makeLink(const std::string& commandLine);
+    EventConversation makeConversation(mtavtrmpl& link) { return {link, ipc, eventi}; }
     void putRequest(const TransitRequest& request) { files.put(Transito, bytesOf(request)); }
     TransitRequest answerInFile() const { return recordOf<TransitRequest>(files.get(Transito)); }
     /// The texts of the message boxes; each must be critical and titled as all are.

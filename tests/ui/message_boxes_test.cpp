@@ -61,4 +61,32 @@ TEST(MessageBoxesTest, MarkupInAMessageIsShownAsItIs) {
     EXPECT_EQ(seen.format, Qt::PlainText);
 }
 
+namespace {
+
+/// Asks and presses `key` as soon as the box stands; the words of its buttons come into `words`.
+bool askAndPress(Qt::Key key, QStringList& words) {
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            poll.stop();
+            for (const QAbstractButton* button : box->buttons()) {
+                words << button->text().remove(QLatin1Char('&'));
+            }
+            QTest::keyClick(box, key);
+        }
+    });
+    poll.start(1);
+    return QtMessageBoxes().askToRetry({MessageIcon::Critical, "Planner", "x"});
+}
+
+} // namespace
+
+TEST(MessageBoxesTest, TheRetryQuestionIsAnsweredByItsButtonsEnterAndEscape) {
+    QStringList words;
+    EXPECT_TRUE(askAndPress(Qt::Key_Return, words));
+    words.sort();
+    EXPECT_EQ(words, QStringList({QStringLiteral("Annulla"), QStringLiteral("Riprova")}));
+    EXPECT_FALSE(askAndPress(Qt::Key_Escape, words));
+}
+
 } // namespace planner

@@ -30,6 +30,8 @@ class ImmediateEnd : public EventPump {
 public:
     explicit ImmediateEnd(modpl& sessione) : m_sessione(sessione) {}
     void waitAndProcess() override { m_sessione.FinePlanner = true; }
+    void processFor(std::chrono::milliseconds) override {}
+    void wakeUp() override {}
     void flush() override {}
 
 private:

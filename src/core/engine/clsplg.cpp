@@ -62,6 +62,11 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
     }
 }
 
+void clsplg::chiusura(std::string& collab, std::string& valret) const {
+    collab = m_fonti.sessione.collab;
+    valret = m_fonti.controlli.calendario.testoRisposta() + collab + "E";
+}
+
 void clsplg::openSession(const std::string& Windowcaption, const std::string& PathArchivi) {
     modpl& s = m_sessione;
     s.ModoFinestra = slice(Windowcaption, 0, 1);

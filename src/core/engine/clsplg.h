@@ -33,6 +33,8 @@ public:
                   const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                   std::string& valret, std::string& Windowcaption, std::string& planrichiesto) override;
 
+    void chiusura(std::string& collab, std::string& valret) const override;
+
     /// Unloads the planner window.
     void WUscita();
 

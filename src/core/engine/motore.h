@@ -16,6 +16,9 @@ public:
     virtual void WPlanner(std::string& tipoplanner, const std::string& startdate, const std::string& enddate,
                           const std::string& PathArchivi, const std::string& tipocall, std::string& collab,
                           std::string& valret, std::string& Windowcaption, std::string& planrichiesto) = 0;
+
+    /// The answer of the request under way if its window were closed at this moment.
+    virtual void chiusura(std::string& collab, std::string& valret) const = 0;
 };
 
 } // namespace planner

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/ftavtrmpl.h"
 
-#include "ports/runtime_errors.h"
-
 namespace planner {
 
 Ftavtrmpl::Ftavtrmpl(mtavtrmpl& collegamento, FileSystem& files, PeriodicTimer& timer)
@@ -36,14 +34,14 @@ Seguito Ftavtrmpl::withoutTicks(Work work) {
 
 Seguito Ftavtrmpl::Timer1_Timer() {
     if (!m_files.fileExists(FileLockPl)) {
-        m_servita.reset();
+        m_risposta.reset();
         return Seguito::Continua;
     }
     if (!m_files.fileExists(m_collegamento.PathTransito())) {
         return Seguito::Termina;
     }
     const Seguito seguito = withoutTicks([this] { return lookAtRequest(); });
-    if (seguito == Seguito::Termina) {
+    if (seguito != Seguito::Continua) {
         m_collegamento.releaseEngine();
     }
     return seguito;
@@ -54,55 +52,54 @@ Seguito Ftavtrmpl::lookAtRequest() {
         return Seguito::Continua;
     }
     if (alreadyServed()) {
-        completeAnswer();
+        deleteMarker();
         return Seguito::Continua;
     }
-    serveRequest();
-    return m_collegamento.finished() ? Seguito::Termina : Seguito::Continua;
+    return serveRequest();
 }
 
 bool Ftavtrmpl::readRequest() {
-    try {
-        m_collegamento.readRequest();
+    const bool done = m_collegamento.tryToRead();
+    if (done) {
         m_guaioTransito.over();
-        return true;
-    } catch (const FileError&) {
-        if (m_guaioTransito.firstTime()) {
-            m_collegamento.reportTransitFile();
-        }
-        return false;
+    } else if (m_guaioTransito.firstTime()) {
+        m_collegamento.reportTransitFile();
     }
+    return done;
 }
 
-bool Ftavtrmpl::alreadyServed() const {
-    const TransitRequest& now = m_collegamento.richiesta();
-    // A failed write can have left the request or the answer in the file.
-    return m_servita && (now == m_servita->risposta || (!m_servita->scritta && now == m_servita->richiesta));
+Seguito Ftavtrmpl::serveRequest() {
+    if (!m_collegamento.dispatch()) {
+        return Seguito::Rinuncia;
+    }
+    m_risposta = m_collegamento.richiesta();
+    deleteMarker();
+    return m_collegamento.finished() ? Seguito::Termina : Seguito::Continua;
 }
 
-void Ftavtrmpl::serveRequest() {
-    const TransitRequest richiesta = m_collegamento.richiesta();
-    const bool scritta = m_collegamento.dispatch();
-    m_servita = {richiesta, m_collegamento.richiesta(), scritta};
-    if (scritta) {
-        deleteMarker();
-    }
-}
-
-void Ftavtrmpl::completeAnswer() {
-    m_servita->scritta = m_servita->scritta || m_collegamento.repeatAnswer(m_servita->risposta);
-    if (m_servita->scritta) {
-        deleteMarker();
-    }
+bool Ftavtrmpl::markerIsGone() {
+    return m_files.deleteFile(FileLockPl) || !m_files.fileExists(FileLockPl);
 }
 
 void Ftavtrmpl::deleteMarker() {
-    if (m_files.deleteFile(FileLockPl) || !m_files.fileExists(FileLockPl)) {
+    if (markerIsGone()) {
         m_guaioLock.over();
-        m_servita.reset(); // the marker was away: whatever comes next is a new request
+        m_risposta.reset(); // the marker was away: whatever comes next is a new request
     } else if (m_guaioLock.firstTime()) {
         m_collegamento.reportMarker(FileLockPl);
     }
+}
+
+bool Ftavtrmpl::congedo() {
+    if (!m_collegamento.serving()) {
+        if (!m_files.fileExists(FileLockPl) || !m_files.fileExists(m_collegamento.PathTransito())) {
+            return true; // nobody has asked, or wants an answer
+        }
+        if (m_collegamento.tryToRead() && alreadyServed()) {
+            return markerIsGone();
+        }
+    }
+    return m_collegamento.answerWithClose() && markerIsGone();
 }
 
 } // namespace planner

@@ -31,34 +31,32 @@ public:
     Seguito Form_Load();
 
     /// One tick: serves the request that the marker announces, if there is one. The marker goes after the
-    /// answer is in the file and never before. A request is served once, until the marker was away or the
-    /// record is another. A transit file that cannot be read, an answer that cannot be written and a marker
-    /// that cannot be deleted are said once and tried again silently at each tick.
+    /// answer is in the file and never before; it stays when the user gives up an answer that cannot be
+    /// written, which ends the program. A request is served once, until the marker was away or the record is
+    /// another. A transit file that cannot be read and a marker that cannot be deleted are said once and
+    /// tried again silently at each tick.
     Seguito Timer1_Timer();
 
-private:
-    /// A request whose marker is still there.
-    struct Servita {
-        TransitRequest richiesta;
-        TransitRequest risposta;
-        bool scritta;
-    };
+    /// The end from outside, in whatever state: answers a request under way with "E" and deletes the marker.
+    /// Says nothing; false when the host could not be told.
+    bool congedo();
 
+private:
     /// No tick comes while the planner or a message is open.
     template <typename Work>
     Seguito withoutTicks(Work work);
     Seguito lookAtRequest();
     bool readRequest();
-    bool alreadyServed() const;
-    void serveRequest();
-    void completeAnswer();
+    bool alreadyServed() const { return m_risposta && m_collegamento.richiesta() == *m_risposta; }
+    Seguito serveRequest();
     void deleteMarker();
+    bool markerIsGone();
 
     mtavtrmpl& m_collegamento;
     FileSystem& m_files;
     PeriodicTimer& Timer1;
     std::string FileLockPl;
-    std::optional<Servita> m_servita;
+    std::optional<TransitRequest> m_risposta; // to a request whose marker is still there
     SaidOnce m_guaioTransito;
     SaidOnce m_guaioLock;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/mtavtrmpl.h"
 
+#include "archive/cp1252.h"
 #include "ports/runtime_errors.h"
 
 #include <bit>
@@ -13,46 +14,13 @@ namespace {
 
 using RecordBytes = std::array<char, sizeof(TransitRequest)>;
 
+constexpr std::string_view NoDayClosed = "00000000  E"; // the answer of no window at all
+
 } // namespace
 
 mtavtrmpl::mtavtrmpl(const RigaComando& riga, const Porte& porte, FabbricaMotore fabbrica)
     : m_riga(riga), m_porte(porte), m_fabbrica(std::move(fabbrica)),
-      m_CartellaTransito(folderOf(riga.PathTransito)), m_evento(trim(riga.NomeEvento)) {}
-
-bool mtavtrmpl::eventLoop() {
-    for (;;) {
-        try {
-            readRequest();
-        } catch (const FileError&) {
-            reportTransitFile();
-            endConversation();
-            return false;
-        }
-        dispatch();
-        m_porte.eventi
-            .flush(); // the window is off the screen before the host acts and before the wait blocks
-        if (finished()) {
-            endConversation();
-            return true;
-        }
-        signalAnswer();
-        m_porte.ipc.TvIpcWaitEvento(m_evento);
-    }
-}
-
-void mtavtrmpl::signalAnswer() {
-    if (m_PrimoCiclo) {
-        m_porte.ipc.TvIpcCreazioneEvento(m_evento);
-        m_PrimoCiclo = false;
-    }
-    m_porte.ipc.TvIpcSetEvento(m_evento);
-}
-
-void mtavtrmpl::endConversation() {
-    releaseEngine();
-    signalAnswer();
-    m_porte.ipc.TvIpcRimozioneEvento(m_evento);
-}
+      m_CartellaTransito(folderOf(riga.PathTransito)) {}
 
 void mtavtrmpl::readRequest() {
     RecordBytes bytes;
@@ -61,23 +29,41 @@ void mtavtrmpl::readRequest() {
     m_richiesta = std::bit_cast<TransitRequest>(bytes);
 }
 
+bool mtavtrmpl::tryToRead() {
+    try {
+        readRequest();
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
 bool mtavtrmpl::dispatch() {
+    m_serving = true;
     try {
         serve();
     } catch (const std::exception& error) {
         m_porte.messaggi.critical(
             "Il planner si chiude per un errore imprevisto: " + std::string(error.what()) + ".");
-        answerWithClose();
+        putAnswer("", NoDayClosed);
     }
-    if (!writeAnswer()) {
-        reportTransitFile();
-        return false;
+    bool written = writeAnswer();
+    while (!written && m_porte.messaggi.askToRetry(transitTrouble())) {
+        written = writeAnswer();
     }
-    return true;
+    m_serving = false;
+    return written;
 }
 
-bool mtavtrmpl::repeatAnswer(const TransitRequest& risposta) {
-    m_richiesta = risposta;
+bool mtavtrmpl::answerWithClose() {
+    std::string collab;
+    std::string valret(NoDayClosed);
+    if (m_serving && m_oPlanner) {
+        m_oPlanner->chiusura(collab, valret);
+    } else if (!m_serving && !tryToRead()) {
+        return false;
+    }
+    putAnswer(collab, valret);
     return writeAnswer();
 }
 
@@ -100,9 +86,9 @@ void mtavtrmpl::serve() {
     r.planrichiesto.assign(planrichiesto);
 }
 
-void mtavtrmpl::answerWithClose() {
-    m_richiesta.collab.assign("");
-    m_richiesta.valret.assign("00000000  E");
+void mtavtrmpl::putAnswer(std::string_view collab, std::string_view valret) {
+    m_richiesta.collab.assign(collab);
+    m_richiesta.valret.assign(valret);
 }
 
 bool mtavtrmpl::writeAnswer() {
@@ -115,14 +101,27 @@ bool mtavtrmpl::writeAnswer() {
     }
 }
 
+Message mtavtrmpl::transitTrouble() const {
+    return {MessageIcon::Critical, std::string(TitoloMessaggi),
+            "Attenzione ! Problemi con il file di transito " + m_riga.PathTransito};
+}
+
 void mtavtrmpl::reportTransitFile() {
-    m_porte.messaggi.critical("Attenzione ! Problemi con il file di transito " + m_riga.PathTransito);
+    m_porte.messaggi.show(transitTrouble());
 }
 
 void mtavtrmpl::reportMarker(const std::string& marker) {
     m_porte.messaggi.critical("Attenzione ! La risposta è pronta, ma il file " + marker +
                               " non può essere eliminato e il programma dello studio resta in attesa. "
                               "Controllare i permessi della cartella, oppure eliminare il file a mano.");
+}
+
+void mtavtrmpl::reportEvent(const GuaioEvento& guaio) {
+    const std::string evento = "l'evento \"" + utf8FromCp1252(nomeEvento()) + "\"";
+    m_porte.messaggi.critical(guaio.giaUsato
+                                  ? "Un altro planner usa già " + evento + ". Questo planner si chiude."
+                                  : "Attenzione ! Problemi con " + evento + ": " + guaio.causa +
+                                        ". Il planner si chiude.");
 }
 
 } // namespace planner

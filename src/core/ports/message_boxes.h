@@ -26,6 +26,11 @@ public:
     virtual ~MessageBoxes() = default;
     /// Shows the message and returns when the user has read it.
     virtual void show(const Message& message) = 0;
+    /// Shows the message with "Riprova" and "Annulla"; true for "Riprova". Who cannot ask gives up.
+    virtual bool askToRetry(const Message& message) {
+        show(message);
+        return false;
+    }
 
     void information(std::string text) {
         show({MessageIcon::Information, std::string(TitoloMessaggi), std::move(text)});

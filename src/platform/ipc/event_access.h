@@ -2,22 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "event_table.h"
+// What both sides do. Both need the table locked, leave it so, and return 0 or the error number of what
+// went wrong.
 
-// All need the table locked.
+// Signals the other side of the event in `file`; ESRCH when there is none.
+int signalEvent(const char* file);
 
-// Creates the event in `file` with this process as its creator. True also when it is that already.
-bool createOwn(const char* file);
-
-// Removes the event that this process has created; false when it has not.
-bool removeOwn(const char* file);
-
-// The event in `file` to signal it, or null when there is none.
-EventHandle* accessToSignal(const char* file);
-
-// The event in `file` to wait for it. Where there is none yet, makes one without a creator, on
-// which the wait sleeps until a creator takes it over. Null when the system refuses.
-EventHandle* accessToWait(const char* file);
-
-// Takes an event out of use whose last signal this process has just taken.
-void finishLast(EventHandle* handle);
+// Waits for the event in `file`, with the table unlocked meanwhile. Where there is none yet, makes one
+// without a creator, on which the wait sleeps until a creator takes it over.
+int waitForEvent(const char* file);

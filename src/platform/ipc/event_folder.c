@@ -13,72 +13,70 @@
 
 static const char FOLDER[] = "tavterm-ipc";
 
-// A run-time folder that is not the user's own comes from a change of user: it is passed over,
-// for an object made there would lock its real owner out.
-static int openRuntimeFolder(void) {
-    const char* path = secure_getenv("XDG_RUNTIME_DIR");
-    if (path == NULL || path[0] != '/') {
-        return -1;
-    }
-    const int folder = open(path, O_DIRECTORY | O_RDONLY | O_CLOEXEC);
+static bool isOwn(int folder) {
     struct stat status;
-    if (folder >= 0 && (fstat(folder, &status) != 0 || status.st_uid != geteuid())) {
-        close(folder);
-        return -1;
-    }
-    return folder;
+    return fstat(folder, &status) == 0 && status.st_uid == geteuid();
 }
 
 static bool isPrivate(int folder) {
     struct stat status;
-    return fstat(folder, &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
-           (status.st_mode & 0777) == 0700;
+    return isOwn(folder) && fstat(folder, &status) == 0 && (status.st_mode & 0777) == 0700;
 }
 
 static int openPrivate(int parent, const char* name) {
     // A folder that is there already is as good: isPrivate() judges either.
     if (mkdirat(parent, name, 0700) != 0 && errno != EEXIST) {
-        return -1;
+        return -errno;
     }
     const int folder = openat(parent, name, O_DIRECTORY | O_NOFOLLOW | O_RDONLY | O_CLOEXEC);
-    if (folder >= 0 && !isPrivate(folder)) {
-        close(folder);
-        return -1;
+    if (folder < 0) {
+        return -errno;
     }
+    if (!isPrivate(folder)) {
+        close(folder);
+        return -EACCES;
+    }
+    return folder;
+}
+
+static int openIn(const char* parentPath, const char* name, bool ownParent) {
+    const int parent = open(parentPath, O_DIRECTORY | O_RDONLY | O_CLOEXEC);
+    if (parent < 0) {
+        return -errno;
+    }
+    // A run-time folder of another user comes from a change of user: an object made there would lock its
+    // real owner out.
+    const int folder = ownParent && !isOwn(parent) ? -EACCES : openPrivate(parent, name);
+    close(parent);
     return folder;
 }
 
 static int openUnderTmp(void) {
     char name[sizeof FOLDER + 24];
     snprintf(name, sizeof name, "%s-%lu", FOLDER, (unsigned long)geteuid());
-    const int parent = open("/tmp", O_DIRECTORY | O_RDONLY | O_CLOEXEC);
-    if (parent < 0) {
-        return -1;
-    }
-    const int folder = openPrivate(parent, name);
-    close(parent);
-    return folder;
+    return openIn("/tmp", name, false);
 }
 
+// Where a run-time folder is named, both sides look there or nowhere: a second choice on one side alone
+// would leave them in two rooms.
 static int openEventFolder(void) {
-    const int parent = openRuntimeFolder();
-    if (parent < 0) {
+    const char* path = secure_getenv("XDG_RUNTIME_DIR");
+    if (path == NULL || path[0] == '\0') {
         return openUnderTmp();
     }
-    const int folder = openPrivate(parent, FOLDER);
-    close(parent);
-    return folder;
+    return path[0] == '/' ? openIn(path, FOLDER, true) : -EINVAL;
 }
 
 int lockEventFolder(void) {
     const int folder = openEventFolder();
     if (folder < 0) {
-        return -1;
+        return folder;
     }
     while (flock(folder, LOCK_EX) != 0) {
-        if (errno != EINTR) {
+        const int error = errno;
+        if (error != EINTR) {
             close(folder);
-            return -1;
+            return -error;
         }
     }
     return folder;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "event_name.h"
 
+#include <errno.h>
+#include <stdbool.h>
 #include <stddef.h>
 #include <string.h>
 
@@ -25,9 +27,9 @@ static size_t putByte(unsigned char byte, char* to) {
     return 3;
 }
 
-bool eventFileName(const char* name, char file[EVENT_FILE_SIZE]) {
+int eventFileName(const char* name, char file[EVENT_FILE_SIZE]) {
     if (name == NULL) {
-        return false;
+        return EINVAL;
     }
     size_t length = sizeof PREFIX - 1;
     memcpy(file, PREFIX, length);
@@ -35,10 +37,10 @@ bool eventFileName(const char* name, char file[EVENT_FILE_SIZE]) {
         const unsigned char byte = (unsigned char)*at;
         const size_t needed = needsEscape(byte) ? 3 : 1;
         if (length + needed >= EVENT_FILE_SIZE) {
-            return false;
+            return ENAMETOOLONG;
         }
         length += putByte(byte, file + length);
     }
     file[length] = '\0';
-    return true;
+    return 0;
 }

@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <stdbool.h>
-
 // Room for the longest file name of the file systems in use, with its terminator.
 #define EVENT_FILE_SIZE 256
 
-// Writes the file name that stands for the event `name`; no two names share one. False when `name`
-// is null or its file name would not fit.
-bool eventFileName(const char* name, char file[EVENT_FILE_SIZE]);
+// Writes the file name that stands for the event `name`; no two names share one. Returns 0, EINVAL for
+// a null pointer, or ENAMETOOLONG when the file name would not fit.
+int eventFileName(const char* name, char file[EVENT_FILE_SIZE]);

@@ -12,8 +12,10 @@ enum {
     SIGNAL_PENDING = 1,
     // The object is out of use: whoever holds it looks its name up again.
     SIGNAL_RETIRED = 2,
-    // Removed by its creator with the signal to the host still pending.
-    SIGNAL_LAST = 3
+    // Removed with a signal that the other side had not taken yet.
+    SIGNAL_LAST = 3,
+    // Only to the host: like none, and hosts sleep that have met no creator. One that comes wakes them.
+    SIGNAL_VACANT = 4
 };
 
 // The content of an event's file. Each change is one atomic operation, so a process killed at any
@@ -30,27 +32,26 @@ typedef struct {
     EventState* state;
 } EventObject;
 
-typedef enum { EVENT_OPENED, EVENT_MISSING, EVENT_FOREIGN, EVENT_FAILED } OpenResult;
+// Of openEvent(): something else stands there (not a regular file of this user alone, or not an
+// event).
+enum { EVENT_FOREIGN = -1 };
 
-// The functions that take `folder` need it locked (see event_folder.h).
+// The functions that take `folder` need it locked (see event_folder.h). Those that return an int return
+// 0, or the error number of what went wrong.
 
-// Opens the event in `file`. EVENT_FOREIGN: something else stands there (not a regular file of this
-// user alone, or not an event); it is neither followed nor read through.
-OpenResult openEvent(int folder, const char* file, EventObject* event);
+// Opens the event in `file`. ENOENT when nothing stands there; what is EVENT_FOREIGN is neither
+// followed nor read through.
+int openEvent(int folder, const char* file, EventObject* event);
 
-// Makes a new event, no signal pending, where nothing stands in `file`. False when it cannot.
-bool makeEvent(int folder, const char* file, EventObject* event);
+// Makes a new event, no signal pending, where nothing stands in `file`.
+int makeEvent(int folder, const char* file, EventObject* event);
 
 // Lets go of the event without changing it.
 void closeEvent(EventObject* event);
 
-// Whether another process is the living creator of the event.
-bool hasOtherCreator(const EventObject* event);
+// What the event's file holds, to be touched at once; null when the file has been cut short, where a touch
+// would end the process. To be asked anew after each sleep.
+EventState* wholeState(const EventObject* event);
 
-// Makes this process the creator until it lets go or ends; false when another process is.
-bool claimEvent(const EventObject* event);
-void unclaimEvent(const EventObject* event);
-
-// Marks the event as out of use, wakes all that wait on it, and only then frees its name: whoever
-// is killed half-way leaves a mark that the next one finds.
-void retireEvent(int folder, const char* file, const EventObject* event);
+// Whether `file` is still the name of the event.
+bool standsIn(int folder, const char* file, const EventObject* event);

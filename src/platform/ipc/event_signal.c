@@ -2,54 +2,34 @@
 // SPDX-License-Identifier: MIT
 #include "event_signal.h"
 
+#include "event_lock.h"
 #include "futex.h"
 
-bool signalDirection(_Atomic uint32_t* direction) {
+#include <errno.h>
+
+static bool isOutOfUse(uint32_t direction) {
+    return direction == SIGNAL_RETIRED || direction == SIGNAL_LAST;
+}
+
+// False when the direction is out of use. Whatever else stands there counts as none. Not only one
+// sleeper is woken: if that one were killed, the others would sleep beside the signal.
+static bool signalDirection(_Atomic uint32_t* direction) {
     uint32_t before = SIGNAL_NONE;
-    if (!atomic_compare_exchange_strong(direction, &before, SIGNAL_PENDING)) {
-        return before == SIGNAL_PENDING;
+    while (!atomic_compare_exchange_weak(direction, &before, SIGNAL_PENDING)) {
+        if (before == SIGNAL_PENDING || isOutOfUse(before)) {
+            return before == SIGNAL_PENDING;
+        }
     }
     futexWakeAll(direction);
     return true;
 }
 
-static bool take(_Atomic uint32_t* direction, uint32_t signal, uint32_t after) {
-    return atomic_compare_exchange_strong(direction, &signal, after);
+int signalAsCreator(const EventObject* event) {
+    EventState* state = wholeState(event);
+    return state != NULL && signalDirection(&state->toHost) ? 0 : EIDRM;
 }
 
-WaitResult waitAsCreator(const EventObject* event) {
-    _Atomic uint32_t* direction = &event->state->toCreator;
-    while (!take(direction, SIGNAL_PENDING, SIGNAL_NONE)) {
-        if (atomic_load(direction) == SIGNAL_RETIRED) {
-            return WAIT_RETIRED;
-        }
-        if (!futexWait(direction, SIGNAL_NONE)) {
-            return WAIT_FAILED;
-        }
-    }
-    return WAIT_TAKEN;
-}
-
-static bool takeLast(const EventObject* event, uint64_t token) {
-    return atomic_load(&event->state->author) != token &&
-           take(&event->state->toHost, SIGNAL_LAST, SIGNAL_RETIRED);
-}
-
-WaitResult waitAsHost(const EventObject* event, uint64_t token) {
-    _Atomic uint32_t* direction = &event->state->toHost;
-    while (!take(direction, SIGNAL_PENDING, SIGNAL_NONE)) {
-        if (takeLast(event, token)) {
-            return WAIT_TAKEN_LAST;
-        }
-        const uint32_t seen = atomic_load(direction);
-        if (seen == SIGNAL_RETIRED) {
-            return WAIT_RETIRED;
-        }
-        // Seen as the last one here, a signal is this process's own: it sleeps until another takes it.
-        const bool own = seen == SIGNAL_LAST && atomic_load(&event->state->author) == token;
-        if ((seen == SIGNAL_NONE || own) && !futexWait(direction, seen)) {
-            return WAIT_FAILED;
-        }
-    }
-    return WAIT_TAKEN;
+int signalAsHost(const EventObject* event) {
+    EventState* state = hasOtherCreator(event->descriptor) ? wholeState(event) : NULL;
+    return state != NULL && signalDirection(&state->toCreator) ? 0 : ESRCH;
 }

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "event_table.h"
 
+#include "event_lock.h"
+#include "event_refusal.h"
+
 #include <pthread.h>
 #include <stdlib.h>
 #include <string.h>
@@ -59,14 +62,22 @@ EventHandle* findHandle(const char* file) {
     return handle;
 }
 
+static bool isQuiet(uint32_t toHost) {
+    return toHost == SIGNAL_NONE || toHost == SIGNAL_VACANT;
+}
+
 // A host that meets many events, one after the other, must not keep a descriptor of each. A signal
-// that a dead creator left for it stays: the host was there when it was given.
+// that a dead creator left for it stays, and so does a death that it has not been told of.
 static bool isOfNoMoreUse(const EventHandle* handle) {
     if (handle->creator || handle->users > 1) {
         return false;
     }
-    const uint32_t toHost = atomic_load(&handle->object.state->toHost);
-    return toHost == SIGNAL_RETIRED || (toHost == SIGNAL_NONE && !hasOtherCreator(&handle->object));
+    const EventState* state = wholeState(&handle->object);
+    if (state == NULL || atomic_load(&state->toHost) == SIGNAL_RETIRED) {
+        return true;
+    }
+    return !handle->met && isQuiet(atomic_load(&state->toHost)) &&
+           !hasOtherCreator(handle->object.descriptor);
 }
 
 static void dropUseless(void) {
@@ -100,7 +111,7 @@ void dropHandle(EventHandle* handle) {
     while (*at != NULL && *at != handle) {
         at = &(*at)->next;
     }
-    if (*at == handle) {
+    if (*at != NULL) {
         *at = handle->next;
         endUse(handle);
     }
@@ -116,6 +127,7 @@ uint64_t processToken(void) {
 // The child is another process: it has no part in what its parent created or waits for.
 static void startAnew(void) {
     dropAll();
+    forgetAllRefusals();
     table.token = 0;
     unlockTable();
 }
@@ -130,5 +142,6 @@ __attribute__((constructor)) static void guardForks(void) {
 __attribute__((destructor)) static void closeAll(void) {
     lockTable();
     dropAll();
+    forgetAllRefusals();
     unlockTable();
 }

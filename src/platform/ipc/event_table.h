@@ -11,6 +11,7 @@ typedef struct EventHandle {
     struct EventHandle* next;
     unsigned users; // the table, and each call in progress
     bool creator;
+    bool met; // as a host, a creator whose death this process has not been told of
     EventObject object;
     char file[EVENT_FILE_SIZE];
 } EventHandle;
@@ -26,7 +27,7 @@ EventHandle* findHandle(const char* file);
 // the event closed, when there is no memory.
 EventHandle* addHandle(const char* file, EventObject object, bool creator);
 
-// Takes the handle out of the table; the event is closed when the last call lets go of it.
+// Takes the handle, if any, out of the table; the event is closed when the last call lets go of it.
 void dropHandle(EventHandle* handle);
 
 // Keeps the handle valid while the table is not locked, until endUse().

@@ -6,17 +6,18 @@
 #include <limits.h>
 #include <linux/futex.h>
 #include <stdatomic.h>
-#include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
 #include <sys/syscall.h>
+#include <time.h>
 #include <unistd.h>
 
-// Sleeps while `*word` is `value`. May return early, so the caller looks again; false when the
-// system cannot do it at all, so that the caller does not spin.
-static inline bool futexWait(_Atomic uint32_t* word, uint32_t value) {
-    const long result = syscall(SYS_futex, word, FUTEX_WAIT, value, NULL, NULL, 0);
-    return result == 0 || errno == EAGAIN || errno == EINTR;
+// Sleeps while `*word` is `value`, at most for `timeout` (null: without a limit). Returns 0 when it was
+// woken, interrupted or did not sleep, so the caller looks again, or the error number: ETIMEDOUT, EFAULT
+// when the word is not there, or that the system cannot do it at all.
+static inline int futexWait(_Atomic uint32_t* word, uint32_t value, const struct timespec* timeout) {
+    const long result = syscall(SYS_futex, word, FUTEX_WAIT, value, timeout, NULL, 0);
+    return result == 0 || errno == EAGAIN || errno == EINTR ? 0 : errno;
 }
 
 // Wakes everyone who sleeps on `*word`, in every process.

@@ -105,6 +105,13 @@ void FileDescriptor::writeAllAtStart(std::span<const char> bytes) const {
     }
 }
 
+void FileDescriptor::putBack(std::span<const char> start, std::uint64_t length) const {
+    const bool whole = ::pwrite(m_descriptor, start.data(), start.size(), 0) >= 0;
+    if (whole && regularFileLength() > length) {
+        retry([&] { return ::ftruncate(m_descriptor, static_cast<off_t>(length)); });
+    }
+}
+
 void FileDescriptor::syncAndClose() {
     if (retry([&] { return ::fsync(m_descriptor); }) != 0) {
         throwLastError();

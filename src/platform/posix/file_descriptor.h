@@ -32,6 +32,9 @@ public:
     std::size_t readAll(std::span<char> out) const;
     /// Writes all bytes at the file's start, in one call.
     void writeAllAtStart(std::span<const char> bytes) const;
+    /// After a write that stopped halfway: the start as it was, and the length. Nothing more can be done when
+    /// that fails as well.
+    void putBack(std::span<const char> start, std::uint64_t length) const;
     void syncAndClose();
 
 private:

@@ -3,11 +3,13 @@
 #include "platform/posix/posix_file_system.h"
 
 #include "platform/posix/file_descriptor.h"
+#include "ports/runtime_errors.h"
 
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace planner {
 
@@ -54,9 +56,16 @@ std::size_t PosixFileSystem::readStart(const std::string& path, std::span<char> 
 }
 
 void PosixFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
-    FileDescriptor file(nativePath(path), O_WRONLY | O_CREAT);
-    file.regularFileLength();
-    file.writeAllAtStart(bytes);
+    FileDescriptor file(nativePath(path), O_RDWR | O_CREAT);
+    const std::uint64_t length = file.regularFileLength();
+    std::vector<char> before(bytes.size());
+    before.resize(file.readAll(before));
+    try {
+        file.writeAllAtStart(bytes);
+    } catch (const FileError&) {
+        file.putBack(before, length);
+        throw;
+    }
     file.syncAndClose();
 }
 

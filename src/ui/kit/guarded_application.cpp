@@ -53,6 +53,14 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
     return true;
 }
 
+bool GuardedApplication::event(QEvent* event) {
+    if (event->type() == QEvent::Quit && m_quit) {
+        m_quit();
+        return true;
+    }
+    return QApplication::event(event);
+}
+
 void GuardedApplication::report(const QString& trouble) {
     if (m_said.contains(trouble)) {
         return; // a painting that fails would say so with every painting

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QSet>
 
+#include <functional>
+
 namespace planner {
 
 /// The toolkit's application with a guard around every event. What an event's handler throws is said once,
@@ -20,7 +22,13 @@ public:
     /// Where troubles are said; until it is set, and after `nullptr`, they are only kept from the toolkit.
     void setMessages(MessageBoxes* messaggi) { m_messaggi = messaggi; }
 
+    /// What happens when the session manager, or the toolkit, wishes that the program end.
+    void onQuit(std::function<void()> quit) { m_quit = std::move(quit); }
+
     bool notify(QObject* receiver, QEvent* event) override;
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     bool isRepeatedAnswer(const QObject& receiver, const QEvent& event);
@@ -30,6 +38,7 @@ private:
         0; // when Escape or Enter was last let go, by the window system's clock in milliseconds
 
     MessageBoxes* m_messaggi = nullptr;
+    std::function<void()> m_quit;
     QSet<QString> m_said;
 };
 

@@ -10,6 +10,8 @@ namespace planner {
 class QtEventPump : public EventPump {
 public:
     void waitAndProcess() override;
+    void processFor(std::chrono::milliseconds time) override;
+    void wakeUp() override;
     void flush() override;
 };
 

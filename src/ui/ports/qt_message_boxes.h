@@ -10,6 +10,7 @@ namespace planner {
 class QtMessageBoxes : public MessageBoxes {
 public:
     void show(const Message& message) override;
+    bool askToRetry(const Message& message) override;
 };
 
 } // namespace planner

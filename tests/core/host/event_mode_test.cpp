@@ -15,7 +15,8 @@ protected:
     EventModeTest() { putRequest(richiesta()); }
 
     bool run(const std::string& commandLine = "C:\\arch\\trans.dat 1 EV") {
-        return makeLink(commandLine).eventLoop();
+        mtavtrmpl link = makeLink(commandLine);
+        return makeConversation(link).eventLoop();
     }
 };
 
@@ -124,14 +125,23 @@ TEST_F(EventModeTest, ATransitFileThatBecomesUnreadableEndsTheConversationToo) {
                                      "remove [EV]"));
 }
 
-TEST_F(EventModeTest, TheHostIsToldEvenWhenTheAnswerCannotBeWritten) {
+TEST_F(EventModeTest, AnAnswerThatTheUserGivesUpIsToldAndEndsTheConversationWhateverItsLetter) {
+    files.refuseWriting(Transito);
+    answers = {"20060315RBD"};
+    EXPECT_FALSE(run());
+    EXPECT_THAT(journal, ElementsAre("engine made", "WPlanner", "message", "flush", "engine released",
+                                     "create [EV]", "signal [EV]", "remove [EV]"));
+}
+
+TEST_F(EventModeTest, AnAnswerThatCanBeWrittenAtLastIsOneLikeAnyOther) {
     files.refuseWriting(Transito);
     answers = {"20060315RBD", "20060315RBE"};
-    ipc.hostActions = {[this] { files.allow(Transito); }};
+    messaggi.retries = {[] {}, [this] { files.allow(Transito); }};
+    ipc.hostActions = {[this] { EXPECT_EQ(answerInFile().valret.view(), "20060315RBD"); }};
     EXPECT_TRUE(run());
-    EXPECT_THAT(journal, ElementsAre("engine made", "WPlanner", "message", "flush", "create [EV]",
-                                     "signal [EV]", "wait [EV]", "WPlanner", "write trans.dat", "flush",
-                                     "engine released", "signal [EV]", "remove [EV]"));
+    EXPECT_THAT(messageTexts(),
+                ElementsAre("Attenzione ! Problemi con il file di transito C:\\arch\\trans.dat",
+                            "Attenzione ! Problemi con il file di transito C:\\arch\\trans.dat"));
 }
 
 TEST_F(EventModeTest, AnUnexpectedErrorEndsTheConversation) {
@@ -146,10 +156,10 @@ TEST_F(EventModeTest, TheEventsNameIsTrimmed) {
     line.PathTransito = Transito;
     line.NomeEvento = "  EV \xE0 ";
     answers = {"20060315RBE"};
-    mtavtrmpl link(line, {files, messaggi, eventi, ipc}, [this] {
+    mtavtrmpl link(line, {files, messaggi}, [this] {
         return std::make_unique<FakeMotore>(journal, [](WPlannerCall& call) { call.valret = "20060315RBE"; });
     });
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(makeConversation(link).eventLoop());
     EXPECT_EQ(journal.back(), "remove [EV \xE0]");
 }
 

@@ -170,31 +170,25 @@ TEST_F(PollingTest, ATransitFileThatIsGoneAfterATroubleEndsSilently) {
     EXPECT_THAT(messageTexts(), ElementsAre(Trouble));
 }
 
-TEST_F(PollingTest, AnAnswerThatCannotBeWrittenIsSaidOnceAndWrittenAsSoonAsItCanBe) {
+TEST_F(PollingTest, AnAnswerThatTheUserGivesUpEndsTheProgramAndLeavesTheMarker) {
     files.refuseWriting(Transito);
     answers = {"20060315RBD"};
-    EXPECT_EQ(tickWithMarker(), Seguito::Continua);
-    tick(3);
+    EXPECT_EQ(tickWithMarker(), Seguito::Rinuncia);
+    EXPECT_THAT(journal, ElementsAre("timer off", "engine made", "WPlanner", "message", "timer on",
+                                     "engine released"));
     EXPECT_THAT(messageTexts(), ElementsAre(Trouble));
     EXPECT_TRUE(files.fileExists(Lock));
-    EXPECT_TRUE(timer.enabled);
-    files.allow(Transito);
-    journal.clear();
-    tick();
-    EXPECT_THAT(journal, ElementsAre("timer off", "write trans.dat", "delete LockPl.lck", "timer on"));
-    EXPECT_EQ(answerInFile().valret.view(), "20060315RBD");
-    EXPECT_EQ(calls.size(), 1u);
 }
 
-TEST_F(PollingTest, AnUnwrittenAnswerGivesWayToANewRequest) {
+TEST_F(PollingTest, AnAnswerIsWrittenAsOftenAsTheUserWishes) {
     files.refuseWriting(Transito);
-    answers = {"20060315RBD", "20060316RBD"};
-    tickWithMarker();
-    files.allow(Transito);
-    putRequest(richiesta("G"));
-    tick();
-    EXPECT_EQ(calls.size(), 2u);
-    EXPECT_EQ(answerInFile().valret.view(), "20060316RBD");
+    answers = {"20060315RBD"};
+    messaggi.retries = {[this] { EXPECT_FALSE(timer.enabled); }, [this] { files.allow(Transito); }};
+    EXPECT_EQ(tickWithMarker(), Seguito::Continua);
+    EXPECT_THAT(messageTexts(), ElementsAre(Trouble, Trouble));
+    EXPECT_EQ(answerInFile().valret.view(), "20060315RBD");
+    EXPECT_FALSE(files.fileExists(Lock));
+    EXPECT_EQ(calls.size(), 1u);
 }
 
 TEST_F(PollingTest, AMarkerThatCannotBeDeletedIsSaidOnceWithTheTimerOff) {

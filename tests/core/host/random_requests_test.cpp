@@ -77,9 +77,7 @@ protected:
     PlannerBench bench;
     RecordingIpc ipc{bench.journal};
     std::mt19937 random{20060315}; // a fixed seed: each run makes the same requests
-    mtavtrmpl link{parseCommandLine("C:\\arch\\trans.dat 1 EV"),
-                   {bench.files, bench.messaggi, bench.eventi, ipc},
-                   [this] {
+    mtavtrmpl link{parseCommandLine("C:\\arch\\trans.dat 1 EV"), {bench.files, bench.messaggi}, [this] {
                        return std::make_unique<clsplg>(Ambiente{bench.sessione, bench.controlli,
                                                                 bench.finestra, bench.files, bench.messaggi,
                                                                 bench.eventi, bench.orologio});

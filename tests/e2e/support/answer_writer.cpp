@@ -1,24 +1,33 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 
-// The planner's link to its host on the real disk and the real event, with a user who closes at once and no
-// window. The arguments are the planner's own; with NOEVENT the marker must be there already.
+// The planner's link to its host on the real disk and the real event, with a user who answers at once and no
+// window. The arguments are the planner's own; with NOEVENT the marker must be there already. Each request is
+// answered with the letter that it holds as `planrichiesto`, one that holds none with "E".
+#include "host/event_conversation.h"
 #include "host/ftavtrmpl.h"
-#include "host/mtavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
 #include "platform/posix/posix_file_system.h"
 #include "support/fakes.h"
 
 #include <cstdlib>
+#include <semaphore>
+#include <thread>
 
 namespace planner::test {
 
 namespace {
 
-class NothingToProcess : public EventPump {
+/// Nothing but wake-ups from the thread that waits for the host.
+class WakeUps : public EventPump {
 public:
-    void waitAndProcess() override {}
+    void waitAndProcess() override { m_pending.acquire(); }
+    void processFor(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
+    void wakeUp() override { m_pending.release(); }
     void flush() override {}
+
+private:
+    std::counting_semaphore<> m_pending{0};
 };
 
 std::string joined(int count, char** words) {
@@ -34,17 +43,17 @@ bool serve(const std::string& commandLine) {
     Journal journal;
     RecordingMessages messages(journal);
     RecordingTimer timer(journal);
-    NothingToProcess events;
-    TavTermHostIpc ipc;
+    WakeUps events;
+    TavTermHostIpc ipc(events);
     PosixFileSystem files;
-    mtavtrmpl link(line, {files, messages, events, ipc}, [&journal] {
+    mtavtrmpl link(line, {files, messages}, [&journal] {
         return std::make_unique<FakeMotore>(journal, [](WPlannerCall& call) {
             call.collab = "  ";
-            call.valret = "20060315  E";
+            call.valret = "20060315  " + (call.planrichiesto == " " ? "E" : call.planrichiesto);
         });
     });
     if (line.NomeEvento != "NOEVENT") {
-        return link.eventLoop();
+        return EventConversation(link, ipc, events).eventLoop();
     }
     Ftavtrmpl form(link, files, timer);
     return form.Form_Load() == Seguito::Continua && form.Timer1_Timer() == Seguito::Termina;

@@ -3,8 +3,11 @@
 #include "actor.h"
 
 #include "TavTermIPC.h"
+#include "platform/ipc/event_watch.h"
 
 #include <array>
+#include <cerrno>
+#include <memory>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/socket.h>
@@ -16,7 +19,14 @@ namespace {
 // A name of any length that a test uses, and the letter of the call before it.
 constexpr std::size_t MESSAGE_SIZE = 70000;
 
-int make(Call what, const char* name) {
+struct Reply {
+    int result;
+    int error;
+};
+
+using Watch = std::unique_ptr<EventWatch>;
+
+int make(Call what, const char* name, Watch& watch) {
     switch (what) {
     case Call::Create:
         return TvIpcCreazioneEvento(name);
@@ -28,6 +38,13 @@ int make(Call what, const char* name) {
         return TvIpcRimozioneEvento(name);
     case Call::CountDescriptors:
         return openDescriptors();
+    case Call::BeginWatch:
+        watch = std::make_unique<EventWatch>(name);
+        return 1;
+    case Call::LastSignalTaken:
+        return watch->lastSignalTaken() ? 1 : 0;
+    case Call::OtherSideAlive:
+        return watch->otherSideAlive() ? 1 : 0;
     case Call::End:
         break;
     }
@@ -35,6 +52,7 @@ int make(Call what, const char* name) {
 }
 
 int serve(int socket) {
+    Watch watch;
     std::string message;
     for (;;) {
         message.resize(MESSAGE_SIZE);
@@ -43,8 +61,10 @@ int serve(int socket) {
             return 0;
         }
         message.resize(static_cast<std::size_t>(length));
-        const int result = make(static_cast<Call>(message.front()), message.c_str() + 1);
-        if (::send(socket, &result, sizeof result, MSG_NOSIGNAL) != static_cast<ssize_t>(sizeof result)) {
+        errno = 0;
+        const int result = make(static_cast<Call>(message.front()), message.c_str() + 1, watch);
+        const Reply reply{result, errno};
+        if (::send(socket, &reply, sizeof reply, MSG_NOSIGNAL) != static_cast<ssize_t>(sizeof reply)) {
             return 1;
         }
     }
@@ -94,12 +114,13 @@ bool Actor::hasResult(std::chrono::milliseconds timeout) {
 }
 
 int Actor::receive(std::chrono::milliseconds timeout) {
-    int result = -1;
+    Reply reply{-1, 0};
     if (!hasResult(timeout) ||
-        recv(m_socket.get(), &result, sizeof result, 0) != static_cast<ssize_t>(sizeof result)) {
+        recv(m_socket.get(), &reply, sizeof reply, 0) != static_cast<ssize_t>(sizeof reply)) {
         return -1;
     }
-    return result;
+    m_error = reply.error;
+    return reply.result;
 }
 
 int Actor::call(Call what, std::string_view name) {
@@ -113,6 +134,10 @@ bool Actor::sleeps() {
 
 bool Actor::isWaiting() {
     return sleeps() && !hasResult(GRACE);
+}
+
+bool Actor::staysWaiting() {
+    return sleeps() && !hasResult(LONG_GRACE);
 }
 
 void Actor::end() {

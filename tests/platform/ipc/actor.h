@@ -15,6 +15,9 @@ enum class Call : char {
     Wait = 'W',
     Remove = 'R',
     CountDescriptors = 'D',
+    BeginWatch = 'B',
+    LastSignalTaken = 'T',
+    OtherSideAlive = 'O',
     End = 'E'
 };
 
@@ -46,12 +49,22 @@ public:
     int remove(std::string_view name) { return call(Call::Remove, name); }
     int descriptors() { return call(Call::CountDescriptors, {}); }
 
+    // A watch over an event of the actor's own, kept until the process ends.
+    int beginWatch(std::string_view name) { return call(Call::BeginWatch, name); }
+    int lastSignalTaken() { return call(Call::LastSignalTaken, {}); }
+    int otherSideAlive() { return call(Call::OtherSideAlive, {}); }
+
     // A wait in two steps: begin it, look whether it sleeps, get its result as above.
     void beginWait(std::string_view name) { send(Call::Wait, name); }
     int result() { return receive(DEADLINE); }
 
+    // What errno was after the call whose result came last: set to 0 before each call.
+    int error() const { return m_error; }
+
     // Whether the wait begun sleeps and is not released within the grace time.
     bool isWaiting();
+    // The same for longer than a death takes to be noticed.
+    bool staysWaiting();
     // The same without the grace time: whether it has come to sleep, still without a result.
     bool sleeps();
 
@@ -59,6 +72,7 @@ public:
     void end();
     void kill() { m_child.kill(); }
     void stop() { m_child.stop(); }
+    void goOn() { m_child.goOn(); }
 
 private:
     int call(Call what, std::string_view name);
@@ -71,6 +85,7 @@ private:
 
     Socket m_socket;
     Child m_child;
+    int m_error = 0;
 };
 
 } // namespace planner::ipctest

@@ -104,6 +104,10 @@ void Child::stop() {
     waitpid(m_pid, &m_status, WUNTRACED);
 }
 
+void Child::goOn() const {
+    ::kill(m_pid, SIGCONT);
+}
+
 bool Child::fallsAsleep(int threads) const {
     // Twice, for one thread may have woken another between the two looks.
     return comesTrue([&] { return isAsleep(m_pid, threads) && isAsleep(m_pid, threads); });

@@ -15,6 +15,9 @@ constexpr std::chrono::seconds DEADLINE{20};
 // How long something that must not happen is watched for.
 constexpr std::chrono::milliseconds GRACE{25};
 
+// The same for what would happen within a second.
+constexpr std::chrono::milliseconds LONG_GRACE{1000};
+
 // A forked process that runs one function and ends with its result as exit code. Killed when the
 // object goes and, whatever happens to this process, never outlives it.
 class Child {
@@ -30,8 +33,9 @@ public:
     // Kills the process, if it still runs, and waits for its end.
     void kill();
 
-    // Stops the process where it is, until it is killed.
+    // Stops the process where it is, until it is killed or goes on.
     void stop();
+    void goOn() const;
 
     // Whether the process comes to have at least this many threads, all of them asleep: not running and not
     // ready to run.

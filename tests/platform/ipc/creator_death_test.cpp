@@ -2,11 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "ipc_fixture.h"
 
+#include <cerrno>
+
 namespace planner::ipctest {
 namespace {
 
 class CreatorDeathTest : public IpcTest {
 protected:
+    static void expectDeathTold(Actor& told) {
+        EXPECT_EQ(told.wait("EV"), 0);
+        EXPECT_EQ(told.error(), EOWNERDEAD);
+    }
+
     Actor planner;
     Actor next;
     Actor host;
@@ -64,20 +71,113 @@ TEST_F(CreatorDeathTest, HostThatWasInTheDialogueStillTakesItsSignal) {
     ASSERT_EQ(planner.set("EV"), 1);
     planner.kill();
     EXPECT_EQ(host.wait("EV"), 1);
-    host.beginWait("EV");
-    EXPECT_TRUE(host.isWaiting());
+    expectDeathTold(host);
 }
 
-TEST_F(CreatorDeathTest, WaitOutlastsTheCreatorAndGoesOnWithTheNext) {
+TEST_F(CreatorDeathTest, WaitIsToldOfADeath) {
     ASSERT_EQ(planner.create("EV"), 1);
     host.beginWait("EV");
-    ASSERT_TRUE(host.sleeps());
+    ASSERT_TRUE(host.isWaiting());
     planner.kill();
-    EXPECT_TRUE(host.isWaiting());
+    EXPECT_EQ(host.result(), 0);
+    EXPECT_EQ(host.error(), EOWNERDEAD);
+}
+
+TEST_F(CreatorDeathTest, WaitIsToldOfAnEndWithoutRemoval) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    host.beginWait("EV");
+    ASSERT_TRUE(host.isWaiting());
+    planner.end();
+    EXPECT_EQ(host.result(), 0);
+    EXPECT_EQ(host.error(), EOWNERDEAD);
+}
+
+TEST_F(CreatorDeathTest, WaitBegunBeforeTheCreationIsToldOfTheCreatorsDeath) {
+    host.beginWait("EV");
+    ASSERT_TRUE(host.isWaiting());
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_TRUE(host.isWaiting());
+    planner.kill();
+    EXPECT_EQ(host.result(), 0);
+    EXPECT_EQ(host.error(), EOWNERDEAD);
+}
+
+TEST_F(CreatorDeathTest, DeathIsToldOnceAndTheNextWaitIsForTheNextCreator) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    planner.kill();
+    expectDeathTold(host);
+    host.beginWait("EV");
+    EXPECT_TRUE(host.staysWaiting());
     ASSERT_EQ(next.create("EV"), 1);
-    EXPECT_TRUE(host.isWaiting());
     ASSERT_EQ(next.set("EV"), 1);
     EXPECT_EQ(host.result(), 1);
+    next.kill();
+    expectDeathTold(host);
+}
+
+TEST_F(CreatorDeathTest, EveryHostIsTold) {
+    Actor another;
+    ASSERT_EQ(planner.create("EV"), 1);
+    host.beginWait("EV");
+    another.beginWait("EV");
+    ASSERT_TRUE(host.isWaiting());
+    ASSERT_TRUE(another.isWaiting());
+    planner.kill();
+    EXPECT_EQ(host.result(), 0);
+    EXPECT_EQ(another.result(), 0);
+    EXPECT_EQ(another.error(), EOWNERDEAD);
+}
+
+TEST_F(CreatorDeathTest, CreatorThatTheHostNeverMetHasNotDied) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(planner.set("EV"), 1);
+    planner.kill();
+    host.beginWait("EV");
+    EXPECT_TRUE(host.staysWaiting());
+    EXPECT_EQ(next.set("EV"), 0);
+    ASSERT_EQ(next.create("EV"), 1);
+    ASSERT_EQ(next.set("EV"), 1);
+    EXPECT_EQ(host.result(), 1);
+}
+
+TEST_F(CreatorDeathTest, RemovalIsNoDeath) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    host.beginWait("EV");
+    ASSERT_TRUE(host.isWaiting());
+    ASSERT_EQ(planner.remove("EV"), 1);
+    planner.end();
+    EXPECT_TRUE(host.staysWaiting());
+    ASSERT_EQ(next.create("EV"), 1);
+    ASSERT_EQ(next.set("EV"), 1);
+    EXPECT_EQ(host.result(), 1);
+}
+
+TEST_F(CreatorDeathTest, DeathIsToldThoughOtherEventsWereUsedMeanwhile) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    planner.kill();
+    for (const char* name : {"A", "B", "C"}) {
+        ASSERT_EQ(next.create(name), 1);
+        ASSERT_EQ(host.set(name), 1);
+    }
+    expectDeathTold(host);
+}
+
+// Stopped, the host cannot look: when it goes on, another planner has taken the name over.
+TEST_F(CreatorDeathTest, WaitGoesOnWithACreatorThatTookTheNameOverMeanwhile) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    host.beginWait("EV");
+    ASSERT_TRUE(host.isWaiting());
+    host.stop();
+    planner.kill();
+    ASSERT_EQ(next.create("EV"), 1);
+    host.goOn();
+    EXPECT_TRUE(host.staysWaiting());
+    ASSERT_EQ(next.set("EV"), 1);
+    EXPECT_EQ(host.result(), 1);
+    next.kill();
+    expectDeathTold(host);
 }
 
 TEST_F(CreatorDeathTest, WaitBegunBeforeTheCreationIsReleasedByACreatorThatDiesAtOnce) {

@@ -3,12 +3,15 @@
 #include "TavTermIPC.h"
 #include "ipc_fixture.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace planner::ipctest {
 namespace {
@@ -24,12 +27,16 @@ protected:
         return lstat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
     }
 
-    void expectEveryCallRefused() {
-        Actor actor;
-        EXPECT_EQ(actor.create("EV"), 0);
+    void expectEveryCallRefused(int error) {
+        Actor actor; // a fresh one: no call has been refused to it
         EXPECT_EQ(actor.set("EV"), 0);
+        EXPECT_EQ(actor.error(), error);
         EXPECT_EQ(actor.wait("EV"), 0);
+        EXPECT_EQ(actor.error(), error);
+        EXPECT_EQ(actor.create("EV"), 0);
+        EXPECT_EQ(actor.error(), error);
         EXPECT_EQ(actor.remove("EV"), 0);
+        EXPECT_EQ(actor.error(), EPERM);
     }
 
     // Planner and host meet under a name that no one else uses.
@@ -73,7 +80,7 @@ TEST_F(FolderTest, FolderOpenToOthersIsRefused) {
     for (const mode_t mode : {0777U, 0755U, 0710U, 0701U, 0720U, 0500U}) {
         fs::create_directory(eventFolder());
         ASSERT_EQ(chmod(eventFolder().c_str(), mode), 0);
-        expectEveryCallRefused();
+        expectEveryCallRefused(EACCES);
         chmod(eventFolder().c_str(), 0700);
         EXPECT_EQ(eventFiles(), 0);
         fs::remove_all(eventFolder());
@@ -85,13 +92,13 @@ TEST_F(FolderTest, LinkInPlaceOfTheFolderIsRefused) {
     fs::create_directory(elsewhere);
     chmod(elsewhere.c_str(), 0700);
     fs::create_directory_symlink(elsewhere, eventFolder());
-    expectEveryCallRefused();
+    expectEveryCallRefused(ENOTDIR);
     EXPECT_TRUE(fs::is_empty(elsewhere));
 }
 
 TEST_F(FolderTest, FileInPlaceOfTheFolderIsRefused) {
     ASSERT_EQ(mknod(eventFolder().c_str(), S_IFREG | 0600, 0), 0);
-    expectEveryCallRefused();
+    expectEveryCallRefused(ENOTDIR);
 }
 
 TEST_F(FolderTest, FolderOfAnotherOwnerIsRefused) {
@@ -101,7 +108,7 @@ TEST_F(FolderTest, FolderOfAnotherOwnerIsRefused) {
     fs::create_directory(eventFolder());
     chmod(eventFolder().c_str(), 0700);
     ASSERT_EQ(chown(eventFolder().c_str(), NOBODY, NOBODY), 0);
-    expectEveryCallRefused();
+    expectEveryCallRefused(EACCES);
 }
 
 TEST_F(FolderTest, WithoutARunTimeFolderThePlaceIsUnderTmp) {
@@ -110,13 +117,35 @@ TEST_F(FolderTest, WithoutARunTimeFolderThePlaceIsUnderTmp) {
     unsetenv("XDG_RUNTIME_DIR");
     expectMeeting();
     EXPECT_EQ(modeOf(fallback), 0700U);
-    for (const char* unusable : {"", "relative", "/nonexistent/folder", "/proc/self/status"}) {
-        setenv("XDG_RUNTIME_DIR", unusable, 1);
-        expectMeeting();
-    }
+    setenv("XDG_RUNTIME_DIR", "", 1);
+    expectMeeting();
     if (!existed) {
         rmdir(fallback.c_str());
     }
+}
+
+TEST_F(FolderTest, RunTimeFolderThatIsNamedIsTheOnlyPlace) {
+    const std::vector<std::pair<const char*, int>> unusable{
+        {"relative", EINVAL}, {"/nonexistent/folder", ENOENT}, {"/proc/self/status", ENOTDIR}};
+    for (const auto& [path, error] : unusable) {
+        setenv("XDG_RUNTIME_DIR", path, 1);
+        expectEveryCallRefused(error);
+    }
+}
+
+TEST_F(FolderTest, RunTimeFolderOfAnotherOwnerIsRefused) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root can give a folder away";
+    }
+    ASSERT_EQ(chown(runtimeFolder().c_str(), NOBODY, NOBODY), 0);
+    expectEveryCallRefused(EACCES);
+    EXPECT_TRUE(fs::is_empty(runtimeFolder()));
+}
+
+TEST_F(FolderTest, RunTimeFolderThatCannotBeWrittenIsRefused) {
+    // Nobody can make a folder there, whatever his rights.
+    setenv("XDG_RUNTIME_DIR", "/proc/self", 1);
+    expectEveryCallRefused(geteuid() == 0 ? ENOENT : EACCES);
 }
 
 // Runs as another user, who signals and waits under the same name; fails when the wait is released.
@@ -124,8 +153,12 @@ int asNobody() {
     if (setgid(NOBODY) != 0 || setuid(NOBODY) != 0) {
         return 2;
     }
-    if (TvIpcSetEvento("folder-test-users") != 0) {
+    if (TvIpcSetEvento("folder-test-users") != 0 || errno != EACCES) {
         return 3;
+    }
+    unsetenv("XDG_RUNTIME_DIR");
+    if (TvIpcSetEvento("folder-test-users") != 0 || errno != ESRCH) {
+        return 5;
     }
     // The wait must sleep until the alarm ends this process.
     std::signal(SIGALRM, [](int) { _exit(0); });

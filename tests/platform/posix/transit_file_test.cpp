@@ -18,10 +18,14 @@ class TransitFileTest : public HostFixture {
 protected:
     mtavtrmpl makeDiskLink(const std::string& mode) {
         RigaComando line = parseCommandLine(folder.path("trans.dat") + " 1 " + mode);
-        return {line, {disk, messaggi, eventi, ipc}, [this] {
+        return {line, {disk, messaggi}, [this] {
                     return std::make_unique<FakeMotore>(
                         journal, [](WPlannerCall& call) { call.valret = "20060315RBE"; });
                 }};
+    }
+    bool runEvents() {
+        mtavtrmpl link = makeDiskLink("EV");
+        return makeConversation(link).eventLoop();
     }
     std::string trouble() const {
         return "Attenzione ! Problemi con il file di transito " + folder.path("trans.dat");
@@ -38,7 +42,7 @@ TEST_F(TransitFileTest, AFileOfAnyLengthIsRewrittenFromItsStartWith121Bytes) {
             before += static_cast<char>('!' + i % 90);
         }
         folder.write("trans.dat", before);
-        ASSERT_TRUE(makeDiskLink("EV").eventLoop());
+        ASSERT_TRUE(runEvents());
 
         std::string expected = before.substr(0, std::min<std::size_t>(length, 121));
         expected.resize(121, ' ');
@@ -52,26 +56,26 @@ TEST_F(TransitFileTest, AFileOfAnyLengthIsRewrittenFromItsStartWith121Bytes) {
 }
 
 TEST_F(TransitFileTest, AMissingFileIsMadeInEventMode) {
-    EXPECT_TRUE(makeDiskLink("EV").eventLoop());
+    EXPECT_TRUE(runEvents());
     EXPECT_EQ(folder.read("trans.dat"), std::string(88, ' ') + "20060315RBE" + std::string(22, ' '));
 }
 
 TEST_F(TransitFileTest, AFolderInItsPlaceIsSaidAndEndsTheConversation) {
     folder.makeFolder("trans.dat");
-    EXPECT_FALSE(makeDiskLink("EV").eventLoop());
+    EXPECT_FALSE(runEvents());
     EXPECT_THAT(messageTexts(), ElementsAre(trouble()));
     EXPECT_THAT(journal, ElementsAre("message", "create [EV]", "signal [EV]", "remove [EV]"));
 }
 
 TEST_F(TransitFileTest, AFifoInItsPlaceDoesNotHang) {
     folder.makeFifo("trans.dat");
-    EXPECT_FALSE(makeDiskLink("EV").eventLoop());
+    EXPECT_FALSE(runEvents());
     EXPECT_THAT(messageTexts(), ElementsAre(trouble()));
 }
 
 TEST_F(TransitFileTest, AMissingFolderIsSaidAndEndsTheConversation) {
     std::filesystem::remove(folder.path());
-    EXPECT_FALSE(makeDiskLink("EV").eventLoop());
+    EXPECT_FALSE(runEvents());
     EXPECT_THAT(messageTexts(), ElementsAre(trouble()));
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "host/mtavtrmpl.h"
+#include "host/event_conversation.h"
 #include "plcal_fixture.h"
 
 #include <gmock/gmock.h>
@@ -39,14 +39,15 @@ protected:
     }
 
     RecordingIpc ipc{bench.journal};
-    mtavtrmpl link{parseCommandLine("C:\\arch\\trans.dat 1 EV"),
-                   {bench.files, bench.messaggi, bench.eventi, ipc},
-                   [this] { return makeEngine(); }};
+    mtavtrmpl link{parseCommandLine("C:\\arch\\trans.dat 1 EV"), {bench.files, bench.messaggi}, [this] {
+                       return makeEngine();
+                   }};
+    EventConversation conversazione{link, ipc, bench.eventi};
 };
 
 TEST_F(HostSessionTest, ClosingTheWindowEndsTheProgram) {
     bench.eventi.actions = {escape()};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20060315  E");
     EXPECT_FALSE(form.isLoaded());
     EXPECT_EQ(bench.journal.back(), "remove [EV]");
@@ -59,7 +60,7 @@ TEST_F(HostSessionTest, TheHostReceivesTheDAlthoughUnloadingRewritesIt) {
         EXPECT_EQ(sessione.valret, "20060315RBE");
         EXPECT_FALSE(form.isLoaded());
     }};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20060315  E");
 }
 
@@ -70,7 +71,7 @@ TEST_F(HostSessionTest, FiltersThenCloseKeepTheFAndTheWindowForTheNextRequest) {
         EXPECT_TRUE(form.isLoaded());
         bench.journal.clear();
     }};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20060315  E");
     EXPECT_THAT(bench.journal,
                 ElementsAre("update", "show", "scroll to the cursor", "lock", "place period buttons",
@@ -81,13 +82,13 @@ TEST_F(HostSessionTest, FiltersThenCloseKeepTheFAndTheWindowForTheNextRequest) {
 TEST_F(HostSessionTest, AnUnloadedWindowIsLoadedAgainByTheNextRequest) {
     bench.eventi.actions = {command('A'), escape()};
     ipc.hostActions = {[this] { bench.journal.clear(); }};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(bench.journal.front(), "lay out");
 }
 
 TEST_F(HostSessionTest, TheWindowIsOutOfSightBeforeTheHostIsTold) {
     bench.eventi.actions = {command('D')};
-    const auto firstRequest = [&] { link.eventLoop(); };
+    const auto firstRequest = [&] { conversazione.eventLoop(); };
     EXPECT_THROW(firstRequest(), ScriptEnded); // the host says nothing more
     const std::vector<std::string> tail(bench.journal.end() - 6, bench.journal.end());
     EXPECT_THAT(tail,
@@ -107,7 +108,7 @@ TEST_F(HostSessionTest, AConfirmedStaffMemberIsTheAnswerAndNoWindowIsInSightWhen
         EXPECT_FALSE(collaboratori.isShown());
         EXPECT_FALSE(form.isLoaded());
     }};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20060315  E");
 }
 
@@ -120,7 +121,7 @@ TEST_F(HostSessionTest, EachKindInTurn) {
         };
     };
     ipc.hostActions = {hostAsksFor("A", "Mese di Marzo 2006"), hostAsksFor("G", "Anno 2006 Impegni di: ")};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(controlli.lbldescr, "Dal 15 Marzo 2006 al 31 Dicembre 2006");
     EXPECT_THAT(bench.messaggi.shown, IsEmpty());
 }
@@ -146,15 +147,28 @@ TEST_F(HostSessionTest, AHostThatKeepsItsRecordGoesOnYearAfterYear) {
     yearly("2006");
     bench.eventi.actions = {button(2), button(2), button(1), escape()};
     ipc.hostActions = {asks("20060605  S", "2007"), asks("20070605  S", "2008"), asks("20080605  P", "2007")};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20070605  E");
     EXPECT_EQ(controlli.lbldescr, "Anno 2007 Impegni di: ");
+}
+
+TEST_F(HostSessionTest, TheEndFromOutsideAnswersTheShownDayAndTheStaffMemberThatTheUserHasPicked) {
+    struct ProcessEnded {};
+    bench.eventi.actions = {[this] {
+        sessione.collab = "RB";
+        controlli.calendario.setValue(*makeDate(2006, 4, 21));
+        EXPECT_TRUE(conversazione.congedo());
+        EXPECT_EQ(answer(), "20060421RBE");
+        EXPECT_EQ(recordOf<TransitRequest>(bench.files.get(Transito)).collab.text(), "RB");
+        throw ProcessEnded();
+    }};
+    EXPECT_THROW(conversazione.eventLoop(), ProcessEnded);
 }
 
 TEST_F(HostSessionTest, AnUnknownKindIsSaidAndTheWindowClosesAsEver) {
     bench.files.put(Transito, bytesOf(richiesta("?")));
     bench.eventi.actions = {escape()};
-    EXPECT_TRUE(link.eventLoop());
+    EXPECT_TRUE(conversazione.eventLoop());
     EXPECT_EQ(answer(), "20060315  E");
     EXPECT_EQ(bench.messaggi.shown.size(), 1u);
 }
