@@ -63,8 +63,8 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
 }
 
 void clsplg::chiusura(std::string& collab, std::string& valret) const {
-    collab = m_fonti.sessione.collab;
-    valret = m_fonti.controlli.calendario.testoRisposta() + collab + "E";
+    collab = m_sessione.collab;
+    valret = m_controlli.calendario.testoRisposta() + collab + "E";
 }
 
 void clsplg::openSession(const std::string& Windowcaption, const std::string& PathArchivi) {
