@@ -47,8 +47,8 @@ protected:
     }
     /// The texts of a PDF file, page by page.
     std::vector<std::string> pages(std::string_view name) const {
-        const auto result =
-            toolstest::run({PDFTOTEXT, {"-layout", "-enc", "UTF-8", path(name), "-"}, {}, {}});
+        const auto result = toolstest::run(
+            {"/usr/bin/env", {"pdftotext", "-layout", "-enc", "UTF-8", path(name), "-"}, {}, {}});
         EXPECT_EQ(result.exitCode, 0) << result.errors;
         std::vector<std::string> found(1);
         for (const char c : result.output) {

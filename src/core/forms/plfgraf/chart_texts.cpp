@@ -119,8 +119,8 @@ std::string tabellaValori(const Grafico& grafico) {
     table += visibleFromCp1252(grafico.asseX) + "\tOre\tOre decimali\n";
     for (std::size_t numero = 0; numero < grafico.numValori(); ++numero) {
         const double ore = grafico.valore(numero);
-        table +=
-            visibleFromCp1252(grafico.etichetta(numero)) + "\t" + testoOre(ore) + "\t" + testoDecimale(ore) + "\n";
+        table += visibleFromCp1252(grafico.etichetta(numero)) + "\t" + testoOre(ore) + "\t" +
+                 testoDecimale(ore) + "\n";
     }
     return table;
 }
@@ -131,7 +131,7 @@ std::string testoVisibile(std::string_view bytes) {
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
         text += isControlByte(c) ? std::string("\\x") + digits[byte / 16] + digits[byte % 16]
-                             : utf8FromCp1252({&c, 1});
+                                 : utf8FromCp1252({&c, 1});
     }
     return text;
 }
