@@ -102,7 +102,7 @@ public:
     void scegliNessuna();
     /// True for the selected one; any place may be asked for.
     bool scelta(Casella casella) const { return m_scelta.riga >= 0 && casella == m_scelta; }
-    bool SceltaAttiva() const { return m_scelta.riga >= 0; }
+    bool sceltaAttiva() const { return m_scelta.riga >= 0; }
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;

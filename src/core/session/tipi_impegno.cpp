@@ -64,6 +64,7 @@ std::vector<VoceLegenda> legendaDisegni(bool dettagliato) {
         return {{ImmaginePresenza, "Planner non dettagliato: nel giorno c'è almeno un impegno"}};
     }
     std::vector<VoceLegenda> entries;
+    entries.reserve(TipiImpegno.size() + 1);
     for (const DescrizioneImpegno& tipo : TipiImpegno) {
         entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), inizialeMaiuscola(tipo.nome)});
     }

@@ -136,7 +136,7 @@ QString savePng(const DocumentoStampa& documento, const QString& path) {
     const QStringList names = pngNames(path, piano.pagine.size());
     for (std::size_t page = 0; page < piano.pagine.size(); ++page) {
         const QString& name = names.at(static_cast<qsizetype>(page));
-        const QString error = saveWhole(name, [&](QIODevice& file) {
+        QString error = saveWhole(name, [&](QIODevice& file) {
             return paintImage(pages, documento.carta, page, PngDotsPerInch).save(&file, "PNG");
         });
         if (!error.isEmpty()) {

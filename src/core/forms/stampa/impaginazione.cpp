@@ -45,6 +45,7 @@ double nameWidth(const DocumentoStampa& documento, const std::vector<std::string
 /// The names and what stands in the corner; appointments without an hour stand beside them.
 std::vector<std::string> gridNames(const DocumentoStampa& documento, const std::vector<int>& righe) {
     std::vector<std::string> nomi;
+    nomi.reserve(righe.size() + static_cast<std::size_t>(documento.griglia().FixedRows()));
     for (int riga = 0; riga < documento.griglia().FixedRows(); ++riga) {
         nomi.push_back(testoStampato(documento.griglia(), {riga, 0}));
     }

@@ -59,7 +59,7 @@ std::vector<VoceStampa> vociLegenda(const ControlliPlcal& controlli) {
     if (griglia.RigaEvidenziata() >= griglia.FixedRows()) {
         voci.push_back({SegnoStampa::evidenziata, 0, "Riga scelta"});
     }
-    if (griglia.SceltaAttiva()) {
+    if (griglia.sceltaAttiva()) {
         voci.push_back({SegnoStampa::scelta, 0, "Casella scelta"});
     }
     return voci;

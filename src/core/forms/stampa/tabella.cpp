@@ -105,10 +105,11 @@ std::string escaped(std::string_view text) {
 }
 
 std::string htmlRow(const Riga& riga, std::string_view tag) {
-    const std::string name(tag);
     std::string html = "<tr>";
     for (const std::string& cell : riga) {
-        html += "<" + name + ">" + escaped(cell) + "</" + name + ">";
+        html.append("<").append(tag).append(">");
+        html += escaped(cell);
+        html.append("</").append(tag).append(">");
     }
     return html + "</tr>\n";
 }

@@ -7,6 +7,7 @@
 #include "forms/plcal/yearly_day.h"
 #include "forms/stampa/documento.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace planner {
@@ -47,6 +48,7 @@ std::vector<std::optional<long>> staffNumbers(const ControlliPlcal& controlli, c
     const IndiceCollaboratore indice = indiceDiRiga(*controlli.grigliaVisibile(), riga);
     const TabellaTotali& totali = sessione.TotaliImpegni;
     std::vector<std::optional<long>> numeri;
+    numeri.reserve(voci.size());
     for (const VoceTotale& voce : voci) {
         numeri.push_back(totali.contiene(indice) ? std::optional<long>(totali.at(indice, voce.totale))
                                                  : std::nullopt);
@@ -66,9 +68,11 @@ std::vector<std::optional<long>> monthNumbers(const ControlliPlcal& controlli, c
             }
         }
     }
+    constexpr double largest = 1e15; // that is still a whole number
     std::vector<std::optional<long>> numeri;
+    numeri.reserve(sums.size());
     for (const double sum : sums) {
-        numeri.emplace_back(std::lround(sum));
+        numeri.emplace_back(std::lround(std::clamp(sum, -largest, largest)));
     }
     return numeri;
 }
