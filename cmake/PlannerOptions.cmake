@@ -7,7 +7,7 @@ target_compile_options(planner_options INTERFACE
     -Wall -Wextra -Wconversion -Wshadow
     # g++ 12 sees overlapping, endless and overrunning copies in plain assignments of a std::string, where the
     # sanitizers see none.
-    "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-stringop-overflow -Wno-stringop-overread;-Wno-array-bounds>"
+    "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread;-Wno-array-bounds>"
     # Several sources in one: a test's class that stands on one of an unnamed namespace looks shared then.
     $<$<AND:$<BOOL:${PLANNER_UNITY}>,$<COMPILE_LANG_AND_ID:CXX,GNU>>:-Wno-subobject-linkage>
     $<$<BOOL:${PLANNER_WERROR}>:-Werror>)

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "engine/clsplg.h"
-#include "planner_dump/quiet_ports.h"
 #include "platform/posix/posix_file_system.h"
+#include "served_request/quiet_ports.h"
 #include "test_records.h"
 
 #include <filesystem>

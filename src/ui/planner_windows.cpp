@@ -5,10 +5,24 @@
 #include "ui/kit/screen_scale.h"
 #include "ui/plfgraf/chart_dialog.h"
 #include "ui/plfimp/plfimp_dialog.h"
+#include "ui/stampa/stampa_griglia.h"
 
 #include <QScreen>
 
 namespace planner {
+
+namespace {
+
+void suCarta(ComandoGriglia comando, DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi) {
+    if (comando == ComandoGriglia::copia) {
+        copiaGriglia(documento);
+        return;
+    }
+    documento.totali = comando == ComandoGriglia::stampaConTotali;
+    stampaGriglia(documento, parent, messaggi);
+}
+
+} // namespace
 
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti,
                                MessageBoxes& messaggi)
@@ -16,7 +30,10 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
       collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
       finestra(sessione, controlli, contenuti,
                {vista, messaggi, chiediImpegno, collaboratori,
-                [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); }}) {
+                [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); },
+                [&, this](ComandoGriglia comando) {
+                    suCarta(comando, {controlli, sessione, contenuti.oggi()}, vista, messaggi);
+                }}) {
     fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);

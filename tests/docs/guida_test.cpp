@@ -56,6 +56,12 @@ TEST(GuidaTest, EveryToolbarCommandHasItsRowAndKeys) {
     }
 }
 
+TEST(GuidaTest, EveryCommandOfTheGridsMenuHasItsRowAndKeys) {
+    for (const DescrizioneComandoGriglia& command : ComandiGriglia) {
+        expectDocumented(command.didascalia, command.scorciatoia);
+    }
+}
+
 TEST(GuidaTest, EveryCommandOfTheStaffListHasItsRowAndKeys) {
     for (const DescrizioneComandoCollab& command : ComandiCollab) {
         expectDocumented(command.didascalia, command.scorciatoia);

@@ -158,11 +158,13 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
     ASSERT_NE(menu, nullptr);
     QStringList offered;
     for (const QAction* action : menu->actions()) {
-        offered << action->text();
+        offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
     }
     menu->close();
     EXPECT_EQ(offered, (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
-                                    QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato")}));
+                                    QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
+                                    QStringLiteral("-"), QStringLiteral("Copia la tabella"),
+                                    QStringLiteral("Stampa…"), QStringLiteral("Stampa con i totali…")}));
 }
 
 TEST_F(InteractionTest, TabLeavesTheGrid) {

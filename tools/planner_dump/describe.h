@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "snapshot.h"
+#include "served_request/snapshot.h"
 
 #include <nlohmann/json.hpp>
 

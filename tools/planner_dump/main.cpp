@@ -2,27 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "describe.h"
 #include "host/command_line.h"
-#include "in_quotes.h"
 #include "options.h"
 #include "platform/posix/system_clock.h"
 #include "ports/runtime_errors.h"
-#include "snapshot.h"
+#include "served_request/in_quotes.h"
+#include "served_request/snapshot.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 namespace {
 
 using namespace planner;
-
-constexpr int ExitDone = 0;
-constexpr int ExitFailed = 1;
-constexpr int ExitUsage = 2;
-
-bool print(std::FILE* stream, const std::string& text) {
-    return std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
-}
 
 int fail(const std::string& text, int code) {
     print(stderr, "planner-dump: " + text + "\n");

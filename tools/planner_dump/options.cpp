@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "options.h"
 
-#include "host/command_line.h"
-#include "in_quotes.h"
+#include "served_request/in_quotes.h"
 
 #include <charconv>
 #include <string_view>
@@ -13,39 +12,8 @@ namespace planner {
 
 namespace {
 
-/// Takes the arguments one by one.
-class Reader {
-public:
-    explicit Reader(std::span<const char* const> arguments) : m_rest(arguments) {}
-
-    bool done() const { return m_rest.empty(); }
-    std::string_view next() {
-        const std::string_view first = m_rest.front();
-        m_rest = m_rest.subspan(1);
-        return first;
-    }
-
-private:
-    std::span<const char* const> m_rest;
-};
-
-Data readToday(Reader& reader) {
-    if (reader.done()) {
-        throw UsageError("dopo --oggi manca la data");
-    }
-    const std::string_view text = reader.next();
-    const auto data = parseDate(text);
-    if (!data) {
-        throw UsageError(inQuotes(text) + " non è una data aaaammgg");
-    }
-    return *data;
-}
-
-IndiceCollaboratore readStaffIndex(Reader& reader) {
-    if (reader.done()) {
-        throw UsageError("dopo --grafico manca l'indice del collaboratore");
-    }
-    const std::string_view text = reader.next();
+IndiceCollaboratore readStaffIndex(ArgumentReader& reader) {
+    const std::string_view text = reader.valueOf("dopo --grafico manca l'indice del collaboratore");
     std::int16_t index = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), index);
     if (error != std::errc{} || end != text.data() + text.size()) {
@@ -54,15 +22,7 @@ IndiceCollaboratore readStaffIndex(Reader& reader) {
     return {index};
 }
 
-/// The path passes through the rules of the planner's own command line, and so means the same file.
-void setTransitPath(Options& options, std::string_view argument) {
-    if (!options.transitPath.empty()) {
-        throw UsageError("un solo file di transito alla volta; di troppo: " + inQuotes(argument));
-    }
-    options.transitPath = parseCommandLine(std::string(argument) + " 1 NOEVENT").PathTransito;
-}
-
-void readArgument(Options& options, std::string_view argument, Reader& reader) {
+void readArgument(Options& options, std::string_view argument, ArgumentReader& reader) {
     if (argument == "--help") {
         options.help = true;
     } else if (argument == "--oggi") {
@@ -72,7 +32,7 @@ void readArgument(Options& options, std::string_view argument, Reader& reader) {
     } else if (argument.starts_with("--")) {
         throw UsageError("opzione sconosciuta: " + inQuotes(argument));
     } else {
-        setTransitPath(options, argument);
+        setTransitPath(options.transitPath, argument);
     }
 }
 
@@ -80,7 +40,7 @@ void readArgument(Options& options, std::string_view argument, Reader& reader) {
 
 Options parseOptions(std::span<const char* const> arguments) {
     Options options;
-    Reader reader(arguments);
+    ArgumentReader reader(arguments);
     while (!reader.done()) {
         readArgument(options, reader.next(), reader);
     }

@@ -2,22 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "served_request/arguments.h"
 #include "session/dates.h"
 #include "session/staff.h"
 
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 
 namespace planner {
-
-/// The arguments cannot be understood. `what()` says why, Italian, UTF-8.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// What the program is asked to do.
 struct Options {

@@ -49,4 +49,15 @@ std::string utf8FromCp1252(std::string_view bytes) {
     return out;
 }
 
+bool isControlByte(char c) {
+    constexpr std::string_view controls = "\x7F\x81\x8D\x8F\x90\x9D";
+    return static_cast<unsigned char>(c) < ' ' || controls.find(c) != std::string_view::npos;
+}
+
+std::string visibleFromCp1252(std::string_view bytes) {
+    std::string text(bytes);
+    std::replace_if(text.begin(), text.end(), isControlByte, ' ');
+    return utf8FromCp1252(text);
+}
+
 } // namespace planner

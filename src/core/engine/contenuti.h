@@ -28,6 +28,7 @@ public:
     void ricompila();
     /// Marks today in the visible grid.
     void segnaOggi();
+    Data oggi() const { return m_orologio.today(); }
 
     /// Writes the title label for the period that the calendar shows.
     void Let_planner(const std::string& collab = {});

@@ -100,6 +100,9 @@ public:
     /// Makes the cell the selected one, until another is or its row is dropped.
     void scegli(Casella casella);
     void scegliNessuna();
+    /// True for the selected one; any place may be asked for.
+    bool scelta(Casella casella) const { return m_scelta.riga >= 0 && casella == m_scelta; }
+    bool sceltaAttiva() const { return m_scelta.riga >= 0; }
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;

@@ -49,4 +49,36 @@ std::string_view chiaveImmagine(int immagine) {
     return known ? ChiaviImmagini[static_cast<std::size_t>(immagine - 1)] : std::string_view{};
 }
 
+std::string nomiTipi(unsigned tipi) {
+    std::string names;
+    for (const TipoImpegno tipo : OrdineTipi) {
+        if ((tipi & insieme(tipo)) != 0) {
+            names += (names.empty() ? "" : ", ") + std::string(descrizione(tipo).nome);
+        }
+    }
+    return names;
+}
+
+std::vector<VoceLegenda> legendaDisegni(bool dettagliato) {
+    if (!dettagliato) {
+        return {{ImmaginePresenza, "Planner non dettagliato: nel giorno c'è almeno un impegno"}};
+    }
+    std::vector<VoceLegenda> entries;
+    entries.reserve(TipiImpegno.size() + 1);
+    for (const DescrizioneImpegno& tipo : TipiImpegno) {
+        entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), inizialeMaiuscola(tipo.nome)});
+    }
+    entries.push_back({Eval_imagedisplay(ChiaviImmagini.front()),
+                       "Più disegni insieme: più tipi di impegno nello stesso giorno"});
+    return entries;
+}
+
+std::string inizialeMaiuscola(std::string_view text) {
+    std::string capital(text);
+    if (!capital.empty() && capital.front() >= 'a' && capital.front() <= 'z') {
+        capital.front() = static_cast<char>(capital.front() - 'a' + 'A');
+    }
+    return capital;
+}
+
 } // namespace planner

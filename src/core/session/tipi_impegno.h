@@ -6,7 +6,9 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace planner {
 
@@ -42,6 +44,9 @@ constexpr unsigned insieme(TipoImpegno tipo) {
     return 1U << static_cast<unsigned>(tipo);
 }
 
+/// The kinds of a set in words, as sentences name them: "scadenze, pratiche".
+std::string nomiTipi(unsigned tipi);
+
 /// The set of kinds that the counters hold, 0 for nothing to mark.
 unsigned tipiPresenti(const ValoriContatori& valori);
 
@@ -53,6 +58,18 @@ std::int16_t immagineTipi(unsigned tipi);
 
 /// The picture of the grid that shows no details.
 inline constexpr std::int16_t ImmaginePresenza = 16;
+
+/// The text with a capital letter at its beginning.
+std::string inizialeMaiuscola(std::string_view text);
+
+/// What a picture means.
+struct VoceLegenda {
+    int immagine;
+    std::string significato; // UTF-8
+};
+
+/// The legend of the pictures in the grid that shows details, or in the one that shows none.
+std::vector<VoceLegenda> legendaDisegni(bool dettagliato);
 
 /// Picture keys in the order of their pictures: the first is picture 1.
 inline constexpr std::array<std::string_view, 15> ChiaviImmagini{

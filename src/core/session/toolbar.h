@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bitset>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -48,6 +49,24 @@ inline constexpr std::array PulsantiToolbar{
 /// The buttons whose commands the grids' menu repeats, in its order.
 inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pulsante::agenda,
                                          Pulsante::dettno, Pulsante::dettsi};
+
+/// The grids' own commands, which no button repeats.
+enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali };
+
+struct DescrizioneComandoGriglia {
+    ComandoGriglia comando;
+    std::string_view nome;
+    std::string_view didascalia;  // Italian
+    std::string_view scorciatoia; // keyboard shortcut
+};
+
+/// By command; the grids' menu has them below the buttons', in this order.
+inline constexpr std::array ComandiGriglia{
+    DescrizioneComandoGriglia{ComandoGriglia::copia, "copia", "Copia la tabella", "Ctrl+C"},
+    DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
+    DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
+                              "Ctrl+Shift+P"},
+};
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.
 constexpr std::optional<Pulsante> gemello(Pulsante pulsante) {

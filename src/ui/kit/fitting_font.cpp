@@ -7,7 +7,11 @@ namespace planner {
 namespace {
 
 QFont shrunk(QFont font) {
-    font.setPointSizeF(font.pointSizeF() * FittingFont::Shrinking);
+    if (font.pixelSize() > 0) {
+        font.setPixelSize(qRound(font.pixelSize() * FittingFont::Shrinking));
+    } else {
+        font.setPointSizeF(font.pointSizeF() * FittingFont::Shrinking);
+    }
     return font;
 }
 

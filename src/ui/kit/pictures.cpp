@@ -20,12 +20,12 @@ std::unique_ptr<QSvgRenderer> loadDrawing(std::string_view name) {
 }
 
 /// The corner's square: half the picture's side, with half a gap to its neighbours.
-QRectF cornerOf(std::size_t corner, int side) {
+QRectF cornerOf(std::size_t corner, const QRectF& square) {
     constexpr double gap = 1;
-    const double half = (side - gap) / 2;
+    const double half = (square.width() - gap) / 2;
     const double left = corner % 2 == 0 ? 0 : half + gap;
     const double top = corner < 2 ? 0 : half + gap;
-    return {left, top, half, half};
+    return {square.left() + left, square.top() + top, half, half};
 }
 
 QPixmap transparent(QSize size, qreal devicePixelRatio) {
@@ -62,14 +62,35 @@ QPixmap Pictures::draw(int number, int side, qreal devicePixelRatio) const {
     }
     QPixmap pixmap = transparent({side, side}, devicePixelRatio);
     QPainter painter(&pixmap);
+    render(painter, number, QRectF(0, 0, side, side));
+    return pixmap;
+}
+
+void Pictures::render(QPainter& painter, int number, const QRectF& square) const {
     if (number == ImmaginePresenza) {
-        m_presence->render(&painter, QRectF(0, 0, side, side));
+        m_presence->render(&painter, square);
+    }
+    for (const char digit : chiaveImmagine(number)) {
+        const auto corner = static_cast<std::size_t>(digit - '1');
+        m_corners.at(corner)->render(&painter, cornerOf(corner, square));
+    }
+}
+
+void Pictures::renderLine(QPainter& painter, int number, const QRectF& place) const {
+    const std::string_view key = chiaveImmagine(number);
+    const bool across = place.width() > place.height();
+    const double length = across ? place.width() : place.height();
+    const double thickness = across ? place.height() : place.width();
+    const double side =
+        std::min(thickness, length / static_cast<double>(std::max<std::size_t>(key.size(), 1)));
+    QRectF square(place.topLeft(), QSizeF(side, side));
+    if (key.empty()) {
+        return render(painter, number, square);
     }
     for (const char digit : key) {
-        const auto corner = static_cast<std::size_t>(digit - '1');
-        m_corners.at(corner)->render(&painter, cornerOf(corner, side));
+        m_corners.at(static_cast<std::size_t>(digit - '1'))->render(&painter, square);
+        square.translate(across ? side : 0, across ? 0 : side);
     }
-    return pixmap;
 }
 
 const QPixmap& Pictures::line(int number, QSize room, qreal devicePixelRatio) {

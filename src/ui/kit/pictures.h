@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class QPainter;
 class QSvgRenderer;
 
 namespace planner {
@@ -22,6 +23,13 @@ public:
 
     /// A square picture of `side` logical pixels; null for any number but 1 to 16.
     const QPixmap& picture(int number, int side, qreal devicePixelRatio);
+    /// Paints the same into any square; nothing for any number but 1 to 16. Vector drawings stay such.
+    void render(QPainter& painter, int number, const QRectF& square) const;
+
+    /// Paints its drawings one behind the other along the place's longer side, as large as it lets them be
+    /// and beginning at its top left corner.
+    void renderLine(QPainter& painter, int number, const QRectF& place) const;
+
     /// The same drawings side by side from left to right, as large as the room in logical pixels lets them
     /// be; null for any number but 1 to 16.
     const QPixmap& line(int number, QSize room, qreal devicePixelRatio);

@@ -16,24 +16,6 @@ namespace planner {
 
 namespace {
 
-struct VoceLegenda {
-    int immagine;
-    QString significato;
-};
-
-std::vector<VoceLegenda> legend() {
-    std::vector<VoceLegenda> entries;
-    for (const DescrizioneImpegno& tipo : TipiImpegno) {
-        const QString name = fromUtf8(tipo.nome);
-        entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), name.left(1).toUpper() + name.mid(1)});
-    }
-    entries.push_back({Eval_imagedisplay(ChiaviImmagini.front()),
-                       QStringLiteral("Più disegni insieme: più tipi di impegno nello stesso giorno")});
-    entries.push_back(
-        {ImmaginePresenza, QStringLiteral("Planner non dettagliato: nel giorno c'è almeno un impegno")});
-    return entries;
-}
-
 /// The pictures are drawn for light cells, so they stand on one here too.
 QLabel* pictureLabel(QWidget* parent, int picture) {
     constexpr int margin = 4;
@@ -62,11 +44,11 @@ QFont titleFont(QFont font) {
     return font;
 }
 
-void addLegend(QGridLayout& layout, QWidget* parent) {
-    for (const VoceLegenda& entry : legend()) {
+void addLegend(QGridLayout& layout, QWidget* parent, bool dettagliato) {
+    for (const VoceLegenda& entry : legendaDisegni(dettagliato)) {
         const int row = layout.rowCount();
         layout.addWidget(pictureLabel(parent, entry.immagine), row, 0, Qt::AlignCenter);
-        layout.addWidget(textLabel(parent, entry.significato), row, 1);
+        layout.addWidget(textLabel(parent, fromUtf8(entry.significato)), row, 1);
     }
 }
 
@@ -82,7 +64,8 @@ void showInfoDialog(QWidget* parent) {
     QLabel* title = textLabel(&dialog, QStringLiteral("Planner grafico, versione " PLANNER_VERSION));
     title->setFont(titleFont(dialog.font()));
     layout->addWidget(title, 0, 0, 1, 2);
-    addLegend(*layout, &dialog);
+    addLegend(*layout, &dialog, /*dettagliato=*/true);
+    addLegend(*layout, &dialog, /*dettagliato=*/false);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addWidget(buttons, layout->rowCount(), 0, 1, 2);

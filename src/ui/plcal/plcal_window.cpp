@@ -36,6 +36,7 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     m_stato->setObjectName(QStringLiteral("stato"));
     m_Toolbar1->setAccessibleName(QStringLiteral("Comandi"));
     m_calendario->setAccessibleName(QStringLiteral("Calendario"));
+    addGridCommands();
     connectEvents();
     qApp->installEventFilter(this);
     m_mezzanotte.setSingleShot(true);
@@ -54,6 +55,19 @@ GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
 }
 
 PlcalWindow::~PlcalWindow() = default;
+
+void PlcalWindow::addGridCommands() {
+    for (const DescrizioneComandoGriglia& described : ComandiGriglia) {
+        auto* action = new QAction(fromUtf8(described.didascalia), this);
+        action->setObjectName(fromUtf8(described.nome));
+        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+        action->setAutoRepeat(false);
+        connect(action, &QAction::triggered, this,
+                [this, comando = described.comando] { m_form->griglia_Comando(comando); });
+        addAction(action);
+        m_comandiGriglia.push_back(action);
+    }
+}
 
 void PlcalWindow::connectEvents() {
     connect(m_Toolbar1, &CommandBar::ButtonClick, this, [this](const QByteArray& chiave) {
@@ -89,6 +103,10 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
         if (action->isEnabled() && action->isVisible()) {
             menu->addAction(action);
         }
+    }
+    menu->addSeparator();
+    for (QAction* action : m_comandiGriglia) {
+        menu->addAction(action);
     }
     menu->popup(globalPosition);
 }

@@ -10,6 +10,9 @@
 #include <QWidget>
 
 #include <array>
+#include <vector>
+
+class QAction;
 
 namespace planner {
 
@@ -59,6 +62,7 @@ protected:
 
 private:
     GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
+    void addGridCommands();
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);
@@ -82,6 +86,7 @@ private:
     FittedLabel* m_stato;
     DetailPanel* m_panel;
     std::array<GridView*, 3> m_grids;
+    std::vector<QAction*> m_comandiGriglia; // in the order of their table
     QTimer m_mezzanotte;
     bool m_pressedHere = false;    // the mouse, since the window was shown for this request
     bool m_untouched = true;       // the user has done nothing since then

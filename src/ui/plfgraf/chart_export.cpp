@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plfgraf/chart_export.h"
 
+#include "ui/kit/saved_file.h"
+
 #include <QFileInfo>
 #include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace planner {
@@ -68,15 +69,7 @@ QString saveDrawing(const Drawing& drawing, const QString& path) {
     if (write == nullptr) {
         return QStringLiteral("il nome deve finire con .png, .svg o .pdf");
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return file.errorString();
-    }
-    if (!write(drawing, file)) {
-        file.cancelWriting();
-        return QStringLiteral("il disegno non si può scrivere");
-    }
-    return file.commit() ? QString() : file.errorString();
+    return saveWhole(path, [&](QIODevice& file) { return write(drawing, file); });
 }
 
 bool paintOnPage(const Drawing& drawing, QPagedPaintDevice& device) {

@@ -28,6 +28,7 @@ public:
         std::function<void(plfimp&)> finestraImpegno; // asks, modal; the answer is in the form
         plfcollab& collaboratori;
         std::function<void(plfgraf&)> finestraGrafici; // shows the visible chart, modal
+        std::function<void(ComandoGriglia)> suCarta;   // copies or prints the visible grid; may ask, modal
     };
 
     plcal(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, const Porte& porte)
@@ -72,6 +73,8 @@ public:
     void Toolbar1_ButtonClick(std::string_view chiave);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
+    /// Copies or prints the visible grid; nothing without one.
+    void griglia_Comando(ComandoGriglia comando);
 
     // What the widgets show besides the controls.
     static constexpr std::string_view StatoIniziale = "Scegliere una casella: qui se ne legge il contenuto.";

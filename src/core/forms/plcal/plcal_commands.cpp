@@ -53,6 +53,18 @@ void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     }
 }
 
+void plcal::griglia_Comando(ComandoGriglia comando) {
+    if (!m_controlli.tipoVisibile) {
+        return;
+    }
+    esegui([&] {
+        m_porte.suCarta(comando);
+        if (comando == ComandoGriglia::copia) {
+            m_stato = "La tabella è stata copiata.";
+        }
+    });
+}
+
 std::string plcal::composedReply(std::string_view azione) const {
     return m_controlli.calendario.testoRisposta() + m_sessione.collab + std::string(azione);
 }

@@ -26,16 +26,6 @@ std::string join(const std::vector<std::string>& parts) {
     return joined;
 }
 
-std::string kindsPresent(const Cella& cella) {
-    std::vector<std::string> names;
-    for (const TipoImpegno tipo : OrdineTipi) {
-        if ((cella.tipi & insieme(tipo)) != 0) {
-            names.emplace_back(descrizione(tipo).nome);
-        }
-    }
-    return join(names);
-}
-
 std::string withDetails(const std::string& sentence, const std::string& details) {
     return details.empty() ? sentence : sentence + ": " + details;
 }
@@ -46,36 +36,40 @@ std::string nameAndDay(const Griglia& griglia, int riga, Data day) {
     return name.empty() ? dataEstesa(day) : name + ", " + dataEstesa(day);
 }
 
-std::string monthlySentence(const ControlliPlcal& controlli, const modpl&, Casella casella) {
-    const Griglia& Flxm = controlli.Flxm;
+std::string monthlySubject(const ControlliPlcal& controlli, Casella casella) {
     const auto day = mensile().giornoCella(controlli.calendario, casella);
-    return day ? withDetails(nameAndDay(Flxm, casella.riga, *day), kindsPresent(Flxm.cella(casella)))
-               : utf8FromCp1252(Flxm.TextMatrix(casella.riga, 0));
+    return day ? nameAndDay(controlli.Flxm, casella.riga, *day)
+               : utf8FromCp1252(controlli.Flxm.TextMatrix(casella.riga, 0));
+}
+
+std::string monthlyContents(const ControlliPlcal& controlli, const modpl&, Casella casella) {
+    return nomiTipi(controlli.Flxm.cella(casella).tipi);
+}
+
+std::string dailySubject(const ControlliPlcal& controlli, Casella casella) {
+    return nameAndDay(controlli.flxg, casella.riga, controlli.calendario.Value()) + ", ore " +
+           oraColonna(casella.colonna);
 }
 
 /// The kinds of the appointments that cover a quarter, and their number where they are several.
-std::string appointmentsAt(const Griglia& flxg, Casella casella) {
-    const auto bars = flxg.fasce(casella.riga);
+std::string dailyContents(const ControlliPlcal& controlli, const modpl&, Casella casella) {
+    const auto bars = controlli.flxg.fasce(casella.riga);
     const auto count = std::count_if(bars.begin(), bars.end(),
                                      [&](const FasciaImpegno& bar) { return bar.copre(casella.colonna); });
-    std::string kinds = kindsPresent(flxg.cella(casella));
+    std::string kinds = nomiTipi(controlli.flxg.cella(casella).tipi);
     if (count < 2) {
         return kinds;
     }
     return std::to_string(count) + " impegni" + (kinds.empty() ? "" : " (" + kinds + ")");
 }
 
-std::string dailySentence(const ControlliPlcal& controlli, const modpl&, Casella casella) {
-    const int quarter = casella.colonna - 1;
-    const std::string time = std::to_string(quarter / 4) + ":" + twoDigits(quarter % 4 * 15);
-    return withDetails(nameAndDay(controlli.flxg, casella.riga, controlli.calendario.Value()) + ", ore " +
-                           time,
-                       appointmentsAt(controlli.flxg, casella));
+std::string yearlySubject(const ControlliPlcal& controlli, Casella casella) {
+    const auto day = annuale().giornoCella(controlli.calendario, casella);
+    return day ? dataEstesa(*day) : std::string();
 }
 
-std::string yearlySentence(const ControlliPlcal& controlli, const modpl& sessione, Casella casella) {
-    const auto day = annuale().giornoCella(controlli.calendario, casella);
-    if (!day) {
+std::string yearlyContents(const ControlliPlcal& controlli, const modpl& sessione, Casella casella) {
+    if (!annuale().giornoCella(controlli.calendario, casella)) {
         return {};
     }
     const ValoriContatori valori = valoriGiorno(sessione.archivi, casella);
@@ -86,16 +80,22 @@ std::string yearlySentence(const ControlliPlcal& controlli, const modpl& session
             totals.push_back(std::string(etichetta.nomeInFrase) + " " + number);
         }
     }
-    return withDetails(dataEstesa(*day), join(totals));
+    return join(totals);
 }
 
 struct FraseTipo {
     TipoPlanner tipo;
-    std::string (*frase)(const ControlliPlcal&, const modpl&, Casella casella);
+    std::string (*soggetto)(const ControlliPlcal&, Casella casella);
+    std::string (*contenuto)(const ControlliPlcal&, const modpl&, Casella casella);
 };
-constexpr std::array FrasiTipi{FraseTipo{TipoPlanner::Mensile, monthlySentence},
-                               FraseTipo{TipoPlanner::Giornaliero, dailySentence},
-                               FraseTipo{TipoPlanner::Annuale, yearlySentence}};
+constexpr std::array FrasiTipi{FraseTipo{TipoPlanner::Mensile, monthlySubject, monthlyContents},
+                               FraseTipo{TipoPlanner::Giornaliero, dailySubject, dailyContents},
+                               FraseTipo{TipoPlanner::Annuale, yearlySubject, yearlyContents}};
+
+const FraseTipo& fraseTipo(TipoPlanner tipo) {
+    return *std::find_if(FrasiTipi.begin(), FrasiTipi.end(),
+                         [tipo](const FraseTipo& each) { return each.tipo == tipo; });
+}
 
 /// True when the visible grid is the kind's and the cell one of its data.
 bool isShown(const ControlliPlcal& controlli, TipoPlanner tipo, Casella casella) {
@@ -110,14 +110,25 @@ std::string dataEstesa(Data data) {
            std::to_string(yearOf(data));
 }
 
+std::string oraColonna(int colonna) {
+    constexpr int minutesPerQuarter = 15;
+    const int quarter = colonna - 1;
+    return std::to_string(quarter / QuartiOra) + ":" + twoDigits(quarter % QuartiOra * minutesPerQuarter);
+}
+
 std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
                        Casella casella) {
     if (!isShown(controlli, tipo, casella)) {
         return {};
     }
-    return std::find_if(FrasiTipi.begin(), FrasiTipi.end(),
-                        [&](const FraseTipo& each) { return each.tipo == tipo; })
-        ->frase(controlli, sessione, casella);
+    return withDetails(fraseTipo(tipo).soggetto(controlli, casella),
+                       contenutoCella(controlli, sessione, tipo, casella));
+}
+
+std::string contenutoCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                           Casella casella) {
+    return isShown(controlli, tipo, casella) ? fraseTipo(tipo).contenuto(controlli, sessione, casella)
+                                             : std::string();
 }
 
 std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga) {
@@ -125,7 +136,7 @@ std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int rig
         return {};
     }
     const Griglia& griglia = controlli.griglia(tipo);
-    return withDetails(utf8FromCp1252(griglia.TextMatrix(riga, 0)), kindsPresent(griglia.cella(riga, 0)));
+    return withDetails(utf8FromCp1252(griglia.TextMatrix(riga, 0)), nomiTipi(griglia.cella(riga, 0).tipi));
 }
 
 } // namespace planner

@@ -22,4 +22,11 @@ std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, T
 /// The same on a name in column 0: the name, and the kinds of the entries that stand beside it.
 std::string fraseNome(const ControlliPlcal& controlli, TipoPlanner tipo, int riga);
 
+/// What of the sentence on a cell says what it holds; empty for a cell that holds nothing.
+std::string contenutoCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                           Casella casella);
+
+/// When the quarter of an hour of a column of the daily grid, counted from 1, begins: "9:30".
+std::string oraColonna(int colonna);
+
 } // namespace planner

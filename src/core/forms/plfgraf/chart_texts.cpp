@@ -27,18 +27,6 @@ std::string fixedText(double value, int decimals) {
     return error == std::errc{} ? std::string(text.data(), end) : std::string();
 }
 
-/// Bytes that stand for no visible character; the last five are those that the code page leaves undefined.
-bool isControl(char c) {
-    constexpr std::string_view controls = "\x7F\x81\x8D\x8F\x90\x9D";
-    return static_cast<unsigned char>(c) < ' ' || controls.find(c) != std::string_view::npos;
-}
-
-std::string visibleText(std::string_view bytes) {
-    std::string text(bytes);
-    std::replace_if(text.begin(), text.end(), isControl, ' ');
-    return utf8FromCp1252(text);
-}
-
 constexpr double MostHours = 1e9; // that minutes mean something beside
 constexpr long long MinutesPerHour = 60;
 
@@ -55,7 +43,7 @@ std::string voceDi(const Grafico& grafico, std::size_t numero) {
     if (numero >= grafico.numValori()) {
         throw std::out_of_range("no such value in the chart");
     }
-    return visibleText(grafico.voci.at(numero));
+    return visibleFromCp1252(grafico.voci.at(numero));
 }
 
 } // namespace
@@ -109,7 +97,7 @@ std::string fraseParlata(const Grafico& grafico, std::size_t numero) {
 }
 
 std::string testoIntestazione(const Grafico& grafico) {
-    return visibleText(grafico.intestazione);
+    return visibleFromCp1252(grafico.intestazione);
 }
 
 std::string nomeFileGrafico(const Grafico& grafico) {
@@ -117,7 +105,7 @@ std::string nomeFileGrafico(const Grafico& grafico) {
     constexpr std::string_view unsafe = "/\\:*?\"<>|.";
     std::string name;
     for (const char c : grafico.intestazione) {
-        const bool blank = isControl(c) || c == ' ' || c == '\xA0';
+        const bool blank = isControlByte(c) || c == ' ' || c == '\xA0';
         if (!blank || !name.ends_with(' ')) {
             name += blank ? ' ' : unsafe.find(c) == std::string_view::npos ? c : '_';
         }
@@ -128,11 +116,11 @@ std::string nomeFileGrafico(const Grafico& grafico) {
 
 std::string tabellaValori(const Grafico& grafico) {
     std::string table = grafico.intestazione.empty() ? "" : testoIntestazione(grafico) + "\n";
-    table += visibleText(grafico.asseX) + "\tOre\tOre decimali\n";
+    table += visibleFromCp1252(grafico.asseX) + "\tOre\tOre decimali\n";
     for (std::size_t numero = 0; numero < grafico.numValori(); ++numero) {
         const double ore = grafico.valore(numero);
-        table +=
-            visibleText(grafico.etichetta(numero)) + "\t" + testoOre(ore) + "\t" + testoDecimale(ore) + "\n";
+        table += visibleFromCp1252(grafico.etichetta(numero)) + "\t" + testoOre(ore) + "\t" +
+                 testoDecimale(ore) + "\n";
     }
     return table;
 }
@@ -142,8 +130,8 @@ std::string testoVisibile(std::string_view bytes) {
     std::string text;
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        text += isControl(c) ? std::string("\\x") + digits[byte / 16] + digits[byte % 16]
-                             : utf8FromCp1252({&c, 1});
+        text += isControlByte(c) ? std::string("\\x") + digits[byte / 16] + digits[byte % 16]
+                                 : utf8FromCp1252({&c, 1});
     }
     return text;
 }

@@ -255,5 +255,23 @@ TEST_F(CommandsTest, ThePlannerStaysUsableBesideTheStaffWindow) {
     EXPECT_TRUE(collaboratori.isShown());
 }
 
+TEST_F(CommandsTest, TheGridsOwnCommandsCopyAndPrintAndAnswerNothing) {
+    open("M");
+    form.griglia_Comando(ComandoGriglia::stampa);
+    form.griglia_Comando(ComandoGriglia::stampaConTotali);
+    EXPECT_EQ(form.stato(), "");
+    form.griglia_Comando(ComandoGriglia::copia);
+    EXPECT_EQ(form.stato(), "La tabella è stata copiata.");
+    EXPECT_EQ(bench.journal, (Journal{"stampa", "update", "stampaConTotali", "update", "copia", "update"}));
+    EXPECT_THAT(reply(), IsEmpty());
+}
+
+TEST_F(CommandsTest, WithoutAGridThereIsNothingToPrint) {
+    open("X");
+    bench.journal.clear();
+    form.griglia_Comando(ComandoGriglia::stampa);
+    EXPECT_THAT(bench.journal, IsEmpty());
+}
+
 } // namespace
 } // namespace planner::test

@@ -44,7 +44,11 @@ protected:
     plcal form{sessione,
                controlli,
                bench.motore,
-               {vista, bench.messaggi, std::ref(finestraImpegno), collaboratori, std::ref(finestraGrafici)}};
+               {vista, bench.messaggi, std::ref(finestraImpegno), collaboratori, std::ref(finestraGrafici),
+                [this](ComandoGriglia comando) {
+                    bench.journal.push_back(
+                        std::string(ComandiGriglia.at(static_cast<std::size_t>(comando)).nome));
+                }}};
 };
 
 } // namespace planner::test

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "snapshot.h"
+#include "served_request/snapshot.h"
 
 #include "engine/clsplg.h"
 #include "forms/plfgraf/visualizza_grafico.h"
 #include "platform/posix/file_descriptor.h"
 #include "ports/guard.h"
-#include "quiet_ports.h"
+#include "served_request/quiet_ports.h"
 
 #include <array>
 #include <bit>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "in_quotes.h"
+#include "served_request/in_quotes.h"
 
 #include <nlohmann/json.hpp>
 
