@@ -38,7 +38,7 @@ constexpr std::size_t UntilTheWindow = 36000; // bytes that the display has said
 } // namespace
 
 TEST_F(EarlyLoss, IsOneForTheHostToo) {
-    for (const std::size_t bytes : {1, 10000, 12000, 14000, 20000, 36000}) {
+    for (const std::size_t bytes : {1U, 10000U, 12000U, 14000U, 20000U, 36000U}) {
         loseAfter(bytes);
     }
 }

@@ -104,7 +104,7 @@ TEST_F(GridModelTest, NoTwoCellsShareAPlaceInTheToolkitsTables) {
                 places.insert(qHash(wide.index(row, column)));
             }
         }
-        EXPECT_EQ(places.size(), static_cast<std::size_t>(wide.rowCount()) * wide.columnCount()) << columns;
+        EXPECT_EQ(places.size(), static_cast<std::size_t>(wide.rowCount() * wide.columnCount())) << columns;
     }
 }
 
