@@ -22,32 +22,18 @@ IndiceCollaboratore readStaffIndex(ArgumentReader& reader) {
     return {index};
 }
 
-void readArgument(Options& options, std::string_view argument, ArgumentReader& reader) {
-    if (argument == "--help") {
-        options.help = true;
-    } else if (argument == "--oggi") {
-        options.oggi = readToday(reader);
-    } else if (argument == "--grafico") {
+bool readArgument(Options& options, std::string_view argument, ArgumentReader& reader) {
+    const bool own = argument == "--grafico";
+    if (own) {
         options.grafico = readStaffIndex(reader);
-    } else if (argument.starts_with("--")) {
-        throw UsageError("opzione sconosciuta: " + inQuotes(argument));
-    } else {
-        setTransitPath(options.transitPath, argument);
     }
+    return own;
 }
 
 } // namespace
 
 Options parseOptions(std::span<const char* const> arguments) {
-    Options options;
-    ArgumentReader reader(arguments);
-    while (!reader.done()) {
-        readArgument(options, reader.next(), reader);
-    }
-    if (!options.help && options.transitPath.empty()) {
-        throw UsageError("manca il file di transito");
-    }
-    return options;
+    return readArguments<Options>(arguments, readArgument);
 }
 
 const char* const HelpText = R"(Uso: planner-dump TRANSITO [--grafico N] [--oggi AAAAMMGG]

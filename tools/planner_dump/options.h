@@ -14,10 +14,7 @@
 namespace planner {
 
 /// What the program is asked to do.
-struct Options {
-    bool help = false;
-    std::string transitPath; // as the host's command line would give it
-    std::optional<Data> oggi;
+struct Options : CommonOptions {
     std::optional<IndiceCollaboratore> grafico; // the selected staff member; nothing: no chart
 };
 

@@ -19,10 +19,8 @@ void setOutput(Options& options, FormatoFile formato, std::string_view path) {
     options.outputPath = path;
 }
 
-void readArgument(Options& options, std::string_view argument, ArgumentReader& reader) {
-    if (argument == "--help") {
-        options.help = true;
-    } else if (argument == "--pdf") {
+bool readArgument(Options& options, std::string_view argument, ArgumentReader& reader) {
+    if (argument == "--pdf") {
         setOutput(options, FormatoFile::pdf, reader.valueOf("dopo --pdf manca il nome del file"));
     } else if (argument == "--png") {
         setOutput(options, FormatoFile::png, reader.valueOf("dopo --png manca il nome del file"));
@@ -30,26 +28,16 @@ void readArgument(Options& options, std::string_view argument, ArgumentReader& r
         options.carta = CartaA3;
     } else if (argument == "--totali") {
         options.totali = true;
-    } else if (argument == "--oggi") {
-        options.oggi = readToday(reader);
-    } else if (argument.starts_with("--")) {
-        throw UsageError("opzione sconosciuta: " + inQuotes(argument));
     } else {
-        setTransitPath(options.transitPath, argument);
+        return false;
     }
+    return true;
 }
 
 } // namespace
 
 Options parseOptions(std::span<const char* const> arguments) {
-    Options options;
-    ArgumentReader reader(arguments);
-    while (!reader.done()) {
-        readArgument(options, reader.next(), reader);
-    }
-    if (!options.help && options.transitPath.empty()) {
-        throw UsageError("manca il file di transito");
-    }
+    Options options = readArguments<Options>(arguments, readArgument);
     if (!options.help && options.outputPath.empty()) {
         throw UsageError("manca il file da scrivere: --pdf FILE o --png FILE");
     }

@@ -13,14 +13,11 @@ namespace planner {
 enum class FormatoFile : std::uint8_t { pdf, png };
 
 /// What the program is asked to do.
-struct Options {
-    bool help = false;
-    std::string transitPath; // as the host's command line would give it
+struct Options : CommonOptions {
     FormatoFile formato = FormatoFile::pdf;
     std::string outputPath; // bytes, as given
     Carta carta = CartaA4;
     bool totali = false;
-    std::optional<Data> oggi;
 };
 
 /// Reads the arguments that follow the program's name. Throws UsageError.

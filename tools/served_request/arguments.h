@@ -5,6 +5,7 @@
 #include "session/dates.h"
 
 #include <cstdio>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -38,12 +39,35 @@ private:
     std::span<const char* const> m_rest;
 };
 
-/// The day that follows --oggi, as yyyymmdd. Throws UsageError.
-Data readToday(ArgumentReader& reader);
+/// What every such tool may be asked.
+struct CommonOptions {
+    bool help = false;
+    std::string transitPath; // as the host's command line would give it
+    std::optional<Data> oggi;
+};
 
-/// Sets the path of the transit file by the rules of the planner's own command line, so that it means the
-/// same file. Throws UsageError when it is set already.
-void setTransitPath(std::string& transitPath, std::string_view argument);
+/// Reads an argument that every such tool knows: an option, or the transit file, by the rules of the
+/// planner's own command line, so that it means the same file. Throws UsageError for any other.
+void readCommonArgument(CommonOptions& options, std::string_view argument, ArgumentReader& reader);
+
+/// Throws UsageError unless help is wanted or there is a transit file.
+void requireTransitFile(const CommonOptions& options);
+
+/// Reads the arguments that follow the program's name. `readOwn` takes an option of the tool's own, and
+/// returns false for any other argument. Throws UsageError.
+template <typename Options, typename ReadOwn>
+Options readArguments(std::span<const char* const> arguments, ReadOwn readOwn) {
+    Options options;
+    ArgumentReader reader(arguments);
+    while (!reader.done()) {
+        const std::string_view argument = reader.next();
+        if (!readOwn(options, argument, reader)) {
+            readCommonArgument(options, argument, reader);
+        }
+    }
+    requireTransitFile(options);
+    return options;
+}
 
 /// False when not all could be written.
 bool print(std::FILE* stream, const std::string& text);
