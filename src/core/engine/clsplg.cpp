@@ -64,7 +64,7 @@ void clsplg::WPlanner(std::string& tipoplanner, const std::string& startdate, co
 
 void clsplg::chiusura(std::string& collab, std::string& valret) const {
     collab = m_sessione.collab;
-    valret = m_controlli.calendario.testoRisposta() + collab + "E";
+    valret = m_controlli.calendario.risposta(collab, "E");
 }
 
 void clsplg::openSession(const std::string& Windowcaption, const std::string& PathArchivi) {

@@ -19,6 +19,10 @@ public:
 
     /// The date part of an answer: yyyymmdd.
     std::string testoRisposta() const { return formatDate(m_value); }
+    /// A whole answer of eleven characters: date, staff code and action letter.
+    std::string risposta(const std::string& collab, std::string_view azione) const {
+        return testoRisposta() + collab + std::string(azione);
+    }
 
 private:
     Data m_value{std::chrono::year{2000}, std::chrono::January, std::chrono::day{1}};

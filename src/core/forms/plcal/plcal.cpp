@@ -80,7 +80,7 @@ bool plcal::Form_KeyDown(int tasto) {
 
 void plcal::Form_Unload() {
     if (!m_sessione.risposta('F')) {
-        m_sessione.valret = composedReply("E");
+        m_sessione.valret = m_controlli.calendario.risposta(m_sessione.collab, "E");
     }
     m_sessione.FinePlanner = true;
 }

@@ -116,7 +116,6 @@ private:
 
     // plcal_commands.cpp
     void reply(std::string_view azione);
-    std::string composedReply(std::string_view azione) const;
     void consult();
     bool canConsult() const;
     void insimp();

@@ -34,7 +34,7 @@ void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     } else if (chiave == "coll") {
         showStaffList();
     } else if (chiave == "filtri") {
-        m_sessione.valret = composedReply("F");
+        m_sessione.valret = m_controlli.calendario.risposta(m_sessione.collab, "F");
         unload();
     } else if (chiave == "agenda") {
         if (m_sessione.tipocall != "A") {
@@ -65,12 +65,8 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
     });
 }
 
-std::string plcal::composedReply(std::string_view azione) const {
-    return m_controlli.calendario.testoRisposta() + m_sessione.collab + std::string(azione);
-}
-
 void plcal::reply(std::string_view azione) {
-    m_sessione.valret = composedReply(azione);
+    m_sessione.valret = m_controlli.calendario.risposta(m_sessione.collab, azione);
     m_sessione.FinePlanner = true;
 }
 

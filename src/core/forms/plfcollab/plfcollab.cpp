@@ -151,7 +151,7 @@ void plfcollab::conferma() {
         return;
     }
     m_sessione.collab = m_lista.riga(*selezionata).codice;
-    m_sessione.valret = m_calendario.testoRisposta() + m_sessione.collab + "C";
+    m_sessione.valret = m_calendario.risposta(m_sessione.collab, "C");
     m_sessione.FinePlanner = true;
     unload();
 }
