@@ -54,11 +54,6 @@ void setBars(Griglia& flxg, FasceRighe& rows) {
     }
 }
 
-std::string shownDay(const Calendario& calendario) {
-    return twoDigits(calendario.Day()) + "/" + twoDigits(calendario.Month()) + "/" +
-           std::to_string(calendario.Year());
-}
-
 } // namespace
 
 IntervalloColonne colonneImpegno(const RigaPlanner& riga) {
@@ -108,7 +103,7 @@ void showgrid2(Griglia& flxg) {
 
 EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Griglia& flxg, bool dettagliato) {
     const Griglia::LockWindowUpdate lock(flxg);
-    flxg.setCaption(0, 0, Ruolo::periodo, shownDay(calendario));
+    flxg.setCaption(0, 0, Ruolo::periodo, dataBreve(calendario.Value()));
     writeStaffCaptions(flxg, sessione.archivi, Ruolo::nomeGiornaliero);
     setDataRowHeights(flxg, dettagliato);
 

@@ -62,6 +62,10 @@ std::string formatDate(Data data) {
     return padded(yearOf(data), 4) + padded(monthOf(data), 2) + padded(dayOf(data), 2);
 }
 
+std::string dataBreve(Data data) {
+    return twoDigits(dayOf(data)) + "/" + twoDigits(monthOf(data)) + "/" + std::to_string(yearOf(data));
+}
+
 std::string padded(int number, std::size_t width) {
     std::string text = std::to_string(number);
     return text.size() < width ? std::string(width - text.size(), '0') + text : text;

@@ -26,6 +26,9 @@ std::optional<Data> parseDate(std::string_view yyyymmdd);
 /// The day as yyyymmdd.
 std::string formatDate(Data data);
 
+/// The day as people write it: dd/mm/yyyy.
+std::string dataBreve(Data data);
+
 /// The number, not negative, in at least `width` digits, with leading zeros.
 std::string padded(int number, std::size_t width);
 std::string twoDigits(int number);

@@ -96,11 +96,10 @@ TabellaPosta placeGrid(const DocumentoStampa& documento, const AreaStampa& area,
                                  documento.carta.larghezza / ParteNomi);
     const double width = columnWidth(area, nomi, colonne.size(), ColonnaMassima);
     const double heads = AltezzaTesta * griglia.FixedRows();
-    TabellaPosta posta{{area.x, area.y, nomi, heads},
-                       rowHeight(documento, width, area.altezza - heads),
-                       bands(upTo(static_cast<std::size_t>(griglia.FixedRows())), area.y, AltezzaTesta),
-                       bands(colonne, area.x + nomi, width)};
-    return posta;
+    return {{area.x, area.y, nomi, heads},
+            rowHeight(documento, width, area.altezza - heads),
+            bands(upTo(static_cast<std::size_t>(griglia.FixedRows())), area.y, AltezzaTesta),
+            bands(colonne, area.x + nomi, width)};
 }
 
 TabellaPosta placeTotals(const DocumentoStampa& documento, const AreaStampa& area,
@@ -176,8 +175,7 @@ std::string testoPagina(std::size_t pagina, std::size_t pagine) {
 }
 
 std::string testoStampatoIl(Data oggi) {
-    return "Stampato il " + twoDigits(dayOf(oggi)) + "/" + twoDigits(monthOf(oggi)) + "/" +
-           std::to_string(yearOf(oggi));
+    return "Stampato il " + dataBreve(oggi);
 }
 
 AreaStampa areaFascia(const TabellaPosta& griglia, const Banda& riga, const FasciaImpegno& fascia) {
