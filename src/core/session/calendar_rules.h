@@ -5,6 +5,7 @@
 #include "session/dates.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@ inline constexpr std::array<std::string_view, 12> NomiMesi{"Gennaio",   "Febbrai
 std::string_view nomeMese(int mese);
 /// The same as it stands inside a sentence: "gennaio". Throws SubscriptError.
 std::string meseInFrase(int mese);
+
+/// The days that a month may have.
+inline constexpr std::size_t GiorniMassimi = 31;
 
 /// A fixed public holiday.
 struct Festivita {

@@ -4,7 +4,6 @@
 
 #include "ui/kit/appearance.h"
 #include "ui/kit/fitting_font.h"
-#include "ui/stampa/pagina_painter.h"
 
 #include <algorithm>
 

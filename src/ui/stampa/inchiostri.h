@@ -32,6 +32,9 @@ inline QRectF rettangolo(const AreaStampa& area) {
     return {area.x, area.y, area.larghezza, area.altezza};
 }
 
+/// The width that a text takes on paper.
+double larghezzaSuCarta(const std::string& testo, double corpo, bool grassetto);
+
 /// One line of text, in letters of `corpo` points; too long for its place it shrinks, and is elided at last.
 struct TestoSuCarta {
     QString testo;

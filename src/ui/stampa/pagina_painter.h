@@ -13,9 +13,6 @@ class QString;
 
 namespace planner {
 
-/// The width that a text takes on paper.
-double larghezzaSuCarta(const std::string& testo, double corpo, bool grassetto);
-
 /// Paints the pages of a document on any device. What is told apart on the screen by colours is told apart by
 /// shades, hatching and weight too.
 class PaginaPainter {

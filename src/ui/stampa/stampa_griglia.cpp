@@ -6,6 +6,7 @@
 #include "ports/message_boxes.h"
 #include "ui/kit/saved_file.h"
 #include "ui/kit/text.h"
+#include "ui/stampa/inchiostri.h"
 #include "ui/stampa/pagina_painter.h"
 
 #include <QClipboard>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "archive/tables.h"
+#include "session/calendar_rules.h"
 #include "session/calendario.h"
 #include "session/staff.h"
 
@@ -10,9 +11,6 @@
 #include <vector>
 
 namespace planner {
-
-/// The days that a month may have.
-inline constexpr std::size_t GiorniMassimi = 31;
 
 /// What a chart takes from the records: hours by row.
 struct ValoriGrafico {

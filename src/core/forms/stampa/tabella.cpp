@@ -5,6 +5,7 @@
 #include "forms/plcal/sentences.h"
 #include "forms/stampa/documento.h"
 #include "forms/stampa/totali.h"
+#include "session/calendar_rules.h"
 
 namespace planner {
 
@@ -14,8 +15,6 @@ using Riga = std::vector<std::string>;
 
 /// One after the other: headings, and a row for each of `righeStampate`.
 using Tabella = std::vector<Riga>;
-
-constexpr int GiorniMese = 31;
 
 /// What stands beside the names: appointments without an hour.
 void addHourless(Tabella& tabella, const ControlliPlcal& controlli, const std::vector<int>& righe) {
@@ -42,8 +41,7 @@ void addDayColumns(Tabella& tabella, const ControlliPlcal& controlli, const modp
                    const std::vector<int>& righe) {
     const RegoleTipo& tipo = regole(*controlli.tipoVisibile);
     const std::vector<int> colonne = colonneStampate(controlli);
-    const auto days =
-        static_cast<std::size_t>(tipo.perCollaboratore ? static_cast<int>(colonne.size()) : GiorniMese);
+    const std::size_t days = tipo.perCollaboratore ? colonne.size() : GiorniMassimi;
     for (std::size_t day = 1; day <= days; ++day) {
         tabella.front().push_back(std::to_string(day));
     }
