@@ -5,8 +5,25 @@
 #include "planner_host/option_table.h"
 #include "platform/posix/system_clock.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+
+namespace {
+
+/// What the surroundings lack, for a person who wonders why no window has come; empty when nothing.
+const char* avvisoSchermo() {
+    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    const bool named = std::any_of(names.begin(), names.end(), [](const char* name) {
+        const char* value = std::getenv(name);
+        return value != nullptr && *value != '\0';
+    });
+    return named ? "" : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace planner;
@@ -24,6 +41,9 @@ int main(int argc, char** argv) {
         std::cerr << "planner-host: " << error.what() << "\n";
         if (error.exitCode() == static_cast<int>(CodiceUscita::UsoErrato)) {
             std::cerr << "Le opzioni: planner-host --help\n";
+        }
+        if (error.exitCode() == static_cast<int>(CodiceUscita::PlannerFallito)) {
+            std::cerr << avvisoSchermo();
         }
         return error.exitCode();
     } catch (const std::exception& error) {
