@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "planner_host/check/check_folder.h"
 #include "planner_host/errors.h"
 #include "planner_host/host.h"
 #include "planner_host/option_table.h"
+#include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
 
 #include <algorithm>
@@ -23,6 +25,15 @@ const char* avvisoSchermo() {
     return named ? "" : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
 }
 
+/// Says what is wrong in a host's files; the exit code.
+int esitoControllo(const planner::OpzioniHost& opzioni) {
+    const planner::Rilievi rilievi = controllaCartella(planner::PosixFileSystem(), opzioni.daControllare,
+                                                       opzioni.transito, planner::SystemClock().today());
+    std::cout << rilievi.testo() << (rilievi.empty() ? "non c'è nulla di sbagliato\n" : "");
+    return static_cast<int>(rilievi.empty() ? planner::CodiceUscita::Riuscito
+                                            : planner::CodiceUscita::ErroreFile);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -33,6 +44,9 @@ int main(int argc, char** argv) {
         if (opzioni.aiuto) {
             std::cout << testoAiuto();
             return 0;
+        }
+        if (!opzioni.daControllare.empty()) {
+            return esitoControllo(opzioni);
         }
         const Interruzioni interruzioni;
         Host(opzioni, interruzioni, std::cout).esegui();
