@@ -49,7 +49,7 @@ std::string guaioOre(std::string_view testo) {
     const std::string_view minuti = slice(testo, LettereOre, 2);
     const std::string_view ore = slice(testo, 0, LettereOre);
     const bool separated = ore.ends_with(':') || ore.ends_with('.'); // "0004:30", as people write it
-    const std::string trouble =
+    std::string trouble =
         guaioConteggio(separated ? ore.substr(0, ore.size() - 1) : ore) + guaioConteggio(minuti);
     if (trouble.empty() && numericValue(minuti) >= MinutiOra) {
         return fraVirgolette(testo) + ": i minuti, le ultime due cifre, sono più di 59";
