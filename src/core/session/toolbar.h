@@ -36,14 +36,14 @@ struct DescrizionePulsante {
 inline constexpr std::array PulsantiToolbar{
     DescrizionePulsante{Pulsante::exit, "exit", "Uscita", "Ctrl+Q"},
     DescrizionePulsante{Pulsante::coll, "coll", "Selezione Collaboratori", "Ctrl+L"},
-    DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", ""},
-    DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", ""},
+    DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", "Ctrl+I"},
+    DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", "Ctrl+E"},
     DescrizionePulsante{Pulsante::consult, "consult", "Consultazione", ""},
     DescrizionePulsante{Pulsante::insimp, "insimp", "Inserimento impegni", "Ctrl+N"},
-    DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", ""},
-    DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", ""},
+    DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", "Ctrl+M"},
+    DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", "Ctrl+M"},
     DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", "Ctrl+G"},
-    DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
+    DescrizionePulsante{Pulsante::info, "info", "Informazioni", "Shift+F1"},
 };
 
 /// The buttons whose commands the grids' menu repeats, in its order.

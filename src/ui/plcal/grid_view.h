@@ -68,6 +68,8 @@ private:
     void setUpBehaviour();
     void connectEvents();
     QModelIndex currentCell() const;
+    /// The centre of the current cell, scrolled into sight.
+    QPoint currentCellOnScreen();
     void announce(const QModelIndex& index, Mezzo mezzo);
     static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
     void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);
