@@ -60,4 +60,39 @@ TEST_F(KeysTest, ShiftF10OpensTheMenuAtTheCurrentCell) {
     menu->close();
 }
 
+TEST_F(KeysTest, LettersAndCtrlArrowsJumpInTheGrid) {
+    bench.base.putRighe({riga("BI", "20060301", {{1, "00001"}}), riga("BI", "20060331", {{6, "00002"}}),
+                         riga("7 ", "20060331", {{1, "00001"}}), RigaPlanner{}});
+    bench.open("M");
+    bench.click(2, 3);
+    bench.key(Qt::Key_P);
+    EXPECT_EQ(cursor(), (Casella{2, 33}));
+    EXPECT_EQ(bench.shownDay(), "20060331");
+    bench.key(Qt::Key_S, Qt::ShiftModifier);
+    EXPECT_EQ(cursor(), (Casella{2, 3}));
+    bench.key(Qt::Key_Right, Qt::ControlModifier);
+    bench.key(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(cursor(), (Casella{4, 33}));
+    EXPECT_EQ(bench.view().currentIndex(), bench.index(4, 33));
+}
+
+TEST_F(KeysTest, AJumpScrollsItsCellIntoSight) {
+    bench.base.putRighe(
+        {conOrario(riga("RB", "20060315", {{1, "00001"}}), "23", "00", "0000030"), RigaPlanner{}});
+    bench.open("G");
+    bench.key(Qt::Key_S);
+    EXPECT_EQ(cursor(), (Casella{2, 93}));
+    EXPECT_TRUE(bench.view().viewport()->rect().contains(bench.view().visualRect(bench.index(2, 93))));
+}
+
+TEST_F(KeysTest, BesideTheGridTheLettersDoNothing) {
+    bench.base.putRighe({riga("BI", "20060331", {{1, "00001"}}), RigaPlanner{}});
+    bench.open("M");
+    const Casella before = cursor();
+    for (const char* beside : {"calendario", "Toolbar1"}) {
+        QTest::keyClick(&bench.widget(beside), Qt::Key_S);
+    }
+    EXPECT_EQ(cursor(), before);
+}
+
 } // namespace planner::test

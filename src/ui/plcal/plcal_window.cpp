@@ -69,6 +69,17 @@ void PlcalWindow::addGridCommands() {
     }
 }
 
+void PlcalWindow::addJumps(GridView& grid) {
+    for (const Salto& salto : Salti) {
+        auto* action = new QAction(fromUtf8(salto.didascalia), &grid);
+        action->setObjectName(fromUtf8(salto.nome));
+        action->setShortcut(QKeySequence(fromUtf8(salto.scorciatoia)));
+        action->setShortcutContext(Qt::WidgetShortcut); // letters are the grid's alone
+        connect(action, &QAction::triggered, this, [this, &salto] { m_form->griglia_Salto(salto); });
+        grid.addAction(action);
+    }
+}
+
 void PlcalWindow::connectEvents() {
     connect(m_Toolbar1, &CommandBar::ButtonClick, this, [this](const QByteArray& chiave) {
         m_form->Toolbar1_ButtonClick({chiave.constData(), static_cast<std::size_t>(chiave.size())});
@@ -91,6 +102,7 @@ void PlcalWindow::connectEvents() {
 void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
+    addJumps(grid);
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -108,6 +120,7 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
     for (QAction* action : m_comandiGriglia) {
         menu->addAction(action);
     }
+    menu->addMenu(QStringLiteral("Salta a"))->addActions(visibleGrid()->actions());
     menu->popup(globalPosition);
 }
 
@@ -172,6 +185,12 @@ int PlcalWindow::primaColonnaInVista() const {
 void PlcalWindow::scorriAlCursore() {
     if (GridView* grid = visibleGrid()) {
         grid->scrollToCurrentRow();
+    }
+}
+
+void PlcalWindow::portaCursoreInVista() {
+    if (GridView* grid = visibleGrid()) {
+        grid->scrollToCurrentCell();
     }
 }
 

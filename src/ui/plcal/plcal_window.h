@@ -42,6 +42,7 @@ public:
     void scorriA(int colonna) override;
     int primaColonnaInVista() const override;
     void scorriAlCursore() override;
+    void portaCursoreInVista() override;
     void rinvia(std::function<void()> azione) override;
     void mostra() override;
     void nascondi() override;
@@ -63,6 +64,7 @@ protected:
 private:
     GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
     void addGridCommands();
+    void addJumps(GridView& grid);
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);

@@ -5,6 +5,7 @@
 #include "engine/contenuti.h"
 #include "forms/plcal/gesti.h"
 #include "forms/plcal/panel.h"
+#include "forms/plcal/salti.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/tasti.h"
@@ -73,6 +74,9 @@ public:
     void Toolbar1_ButtonClick(std::string_view chiave);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
+    /// Takes the cursor where the jump leads, as an arrow does; where it leads nowhere the status line says
+    /// so.
+    void griglia_Salto(const Salto& salto);
     /// Copies or prints the visible grid; nothing without one.
     void griglia_Comando(ComandoGriglia comando);
 

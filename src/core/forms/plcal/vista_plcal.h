@@ -29,6 +29,8 @@ public:
     virtual int primaColonnaInVista() const = 0;
     /// Scrolls back to the grid's beginning, and from there as far as the current cell's row needs it.
     virtual void scorriAlCursore() = 0;
+    /// Scrolls as little as it takes to have the current cell in sight.
+    virtual void portaCursoreInVista() = 0;
     /// Runs the action once the event that is being handled is over.
     virtual void rinvia(std::function<void()> azione) = 0;
     virtual void mostra() = 0;
