@@ -65,6 +65,12 @@ TEST(GuidaTest, EveryCommandOfTheGridsMenuHasItsRowAndKeys) {
     }
 }
 
+TEST(GuidaTest, EveryPeriodKeyHasItsRowAndKeys) {
+    for (const TastoPeriodo& key : TastiPeriodo) {
+        expectDocumented(key.didascalia, key.scorciatoia);
+    }
+}
+
 TEST(GuidaTest, EveryJumpHasItsRowAndKeys) {
     for (const Salto& jump : Salti) {
         expectDocumented(jump.didascalia, jump.scorciatoia);

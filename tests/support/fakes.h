@@ -169,6 +169,9 @@ public:
     void scorriA(int colonna) override { m_journal.push_back("scroll to " + std::to_string(colonna)); }
     int primaColonnaInVista() const override { return firstColumn; }
     void scorriAlCursore() override { m_journal.push_back("scroll to the cursor"); }
+    void apriCampo(const DescrizioneCampo& campo, const std::string& testo) override {
+        m_journal.push_back("ask " + std::string(campo.nome) + " [" + testo + "]");
+    }
     void portaCursoreInVista() override { m_journal.push_back("cursor in sight"); }
     void rinvia(Action azione) override { azione(); }
     void mostra() override { m_journal.push_back("show"); }

@@ -3,6 +3,8 @@
 #include "window_bench.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
@@ -18,6 +20,14 @@ struct KeysTest : testing::Test {
     WindowBench bench;
 
     Casella cursor() { return bench.griglia().corrente(); }
+    QString status() { return bench.widget<QLabel>("stato").text(); }
+    /// Opens the field of the keys, and writes into it; the field that has the focus.
+    QWidget& write(Qt::Key key, const char* text) {
+        bench.key(key, Qt::ControlModifier);
+        QTest::keyClicks(bench.vista.focusWidget(), QLatin1String(text));
+        return *bench.vista.focusWidget();
+    }
+    bool fieldStands() { return bench.widget("campo").isVisible(); }
 };
 
 class DetailKey : public KeysTest, public testing::WithParamInterface<const char*> {};
@@ -93,6 +103,125 @@ TEST_F(KeysTest, BesideTheGridTheLettersDoNothing) {
         QTest::keyClick(&bench.widget(beside), Qt::Key_S);
     }
     EXPECT_EQ(cursor(), before);
+}
+
+TEST_F(KeysTest, CtrlFFindsAPersonAndF3TheNext) {
+    bench.base.putCollaboratori(std::vector<Collaboratore>(60, collaboratore("ZZ", "D'Amic\xF2 Ugo")));
+    bench.base.putRighe(std::vector<RigaPlanner>(80));
+    bench.open("M");
+    QTest::keyClick(&write(Qt::Key_F, "amico"), Qt::Key_Return);
+    EXPECT_FALSE(fieldStands());
+    EXPECT_TRUE(bench.view().hasFocus());
+    EXPECT_EQ(cursor(), (Casella{3, 17})) << "the row below the first";
+    for (int i = 0; i < 30; ++i) {
+        bench.key(Qt::Key_F3);
+    }
+    EXPECT_EQ(cursor(), (Casella{33, 17}));
+    EXPECT_EQ(bench.griglia().RigaEvidenziata(), 33);
+    EXPECT_TRUE(bench.view().viewport()->rect().contains(bench.centreOf(33, 17)));
+    EXPECT_EQ(bench.shownDay(), "20060315");
+}
+
+TEST_F(KeysTest, AFieldWithoutSuccessStaysForAnotherText) {
+    bench.open("M");
+    QWidget& field = write(Qt::Key_F, "Neri");
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_TRUE(fieldStands());
+    EXPECT_TRUE(field.hasFocus());
+    EXPECT_EQ(status(), QStringLiteral("Nessun nome o codice contiene «Neri»."));
+    QTest::keyClicks(&field, QStringLiteral("Verdi"));
+    QTest::keyClick(&field, Qt::Key_F3);
+    EXPECT_FALSE(fieldStands());
+    EXPECT_EQ(bench.base.sessione.collab, "7 ");
+}
+
+TEST_F(KeysTest, CtrlDGoesToADateAndCtrlTBack) {
+    bench.open("M");
+    QTest::keyClick(&write(Qt::Key_D, "15/8"), Qt::Key_Return);
+    EXPECT_EQ(bench.shownDay(), "20060815");
+    EXPECT_TRUE(bench.view().hasFocus());
+    bench.key(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(bench.shownDay(), "20060315");
+}
+
+TEST_F(KeysTest, EscapeClosesTheFieldAndNotThePlanner) {
+    bench.open("M");
+    QTest::keyClick(&write(Qt::Key_D, "15"), Qt::Key_Escape);
+    EXPECT_FALSE(fieldStands());
+    EXPECT_TRUE(bench.vista.isVisible());
+    EXPECT_FALSE(bench.base.sessione.FinePlanner);
+    EXPECT_TRUE(bench.view().hasFocus());
+    EXPECT_EQ(bench.shownDay(), "20060315");
+}
+
+TEST_F(KeysTest, AFieldKeepsItsOwnKeys) {
+    bench.base.putRighe({riga("RB", "20060331", {{1, "00001"}}), RigaPlanner{}});
+    bench.open("M");
+    const Casella before = cursor();
+    auto& field = dynamic_cast<QLineEdit&>(write(Qt::Key_F, "spin"));
+    EXPECT_EQ(field.text(), QStringLiteral("spin"));
+    QTest::keyClick(&field, Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(field.cursorPosition(), 0);
+    QTest::keyClick(&field, Qt::Key_Down);
+    QTest::keyClick(&field, Qt::Key_PageDown);
+    EXPECT_EQ(cursor(), before);
+    EXPECT_EQ(field.accessibleName(), QStringLiteral("Cerca collaboratore"));
+}
+
+TEST_F(KeysTest, AFieldThatIsLeftCloses) {
+    bench.open("M");
+    write(Qt::Key_F, "x");
+    bench.widget("calendario").setFocus(Qt::MouseFocusReason);
+    EXPECT_FALSE(fieldStands());
+    write(Qt::Key_D, "1");
+    bench.finestra.Form_KeyDown(TastoEscape);
+    bench.open("M");
+    EXPECT_FALSE(fieldStands()) << "at the next request";
+    EXPECT_EQ(bench.vista.focusWidget(), &bench.view());
+}
+
+TEST_F(KeysTest, TheFieldMovesNothingAndLeavesTheStatusInSight) {
+    bench.open("M");
+    const QRect grid = bench.view().geometry();
+    write(Qt::Key_D, "1");
+    EXPECT_EQ(bench.view().geometry(), grid);
+    const QRect field = bench.widget("campo").geometry();
+    EXPECT_FALSE(field.intersects(bench.widget("stato").geometry()));
+    EXPECT_TRUE(bench.vista.rect().contains(field));
+    EXPECT_GE(bench.widget("campoData").width(), bench.widget("campoData").minimumSizeHint().width());
+}
+
+TEST_F(KeysTest, CtrlPageKeysMoveTheDayByMonths) {
+    bench.openPeriod("G", "20060331", "20060110", "20060510");
+    bench.key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(bench.shownDay(), "20060430");
+    bench.key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(bench.shownDay(), "20060330");
+    for (int i = 0; i < 3; ++i) {
+        bench.key(Qt::Key_PageDown, Qt::ControlModifier);
+    }
+    EXPECT_EQ(bench.shownDay(), "20060430");
+    EXPECT_EQ(status(), QStringLiteral("30/05/2006 è fuori del periodo (dal 10/01/2006 al 10/05/2006)."));
+}
+
+TEST_F(KeysTest, InTheMonthCtrlPageKeysAreThoseOfItsButtons) {
+    bench.open("M");
+    bench.key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(bench.shownDay(), "20060415");
+    bench.key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(bench.shownDay(), "20060315");
+}
+
+TEST_F(KeysTest, TheCalendarIsReachedByTab) {
+    bench.open("M");
+    bool reached = false;
+    for (int tabs = 0; tabs < 30 && !reached; ++tabs) {
+        QTest::keyClick(bench.vista.focusWidget(), Qt::Key_Tab);
+        reached = bench.widget("calendario").isAncestorOf(bench.vista.focusWidget());
+    }
+    ASSERT_TRUE(reached);
+    QTest::keyClick(bench.vista.focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(bench.shownDay(), "20060316");
 }
 
 } // namespace planner::test

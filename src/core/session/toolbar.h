@@ -51,7 +51,15 @@ inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pu
                                          Pulsante::dettno, Pulsante::dettsi};
 
 /// The grids' own commands, which no button repeats.
-enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali };
+enum class ComandoGriglia : std::uint8_t {
+    copia,
+    stampa,
+    stampaConTotali,
+    cerca,
+    cercaAncora,
+    vaiAData,
+    vaiAOggi,
+};
 
 struct DescrizioneComandoGriglia {
     ComandoGriglia comando;
@@ -66,6 +74,10 @@ inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
+    DescrizioneComandoGriglia{ComandoGriglia::cerca, "cercaCollaboratore", "Cerca collaboratore…", "Ctrl+F"},
+    DescrizioneComandoGriglia{ComandoGriglia::cercaAncora, "cercaAncora", "Cerca ancora", "F3"},
+    DescrizioneComandoGriglia{ComandoGriglia::vaiAData, "vaiAData", "Vai alla data…", "Ctrl+D"},
+    DescrizioneComandoGriglia{ComandoGriglia::vaiAOggi, "vaiAOggi", "Vai a oggi", "Ctrl+T"},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

@@ -25,6 +25,7 @@ public:
              std::function<std::string(Casella)> frase, QWidget* parent);
 
     const Griglia& griglia() const;
+    TipoPlanner tipo() const { return m_tipo; }
 
     /// The factors that turn the grid's twips into pixels.
     void setScala(const Scala& scala);

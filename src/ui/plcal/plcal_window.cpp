@@ -12,6 +12,7 @@
 #include "ui/plcal/detail_panel.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
+#include "ui/plcal/prompt_field.h"
 #include "ui/plcal/shown_calendar.h"
 
 #include <QAction>
@@ -23,10 +24,25 @@
 
 namespace planner {
 
+namespace {
+
+/// A command that the grid alone has, by name, caption and keys.
+template <typename Described>
+QAction* addKey(GridView& grid, const Described& described) {
+    auto* action = new QAction(fromUtf8(described.didascalia), &grid);
+    action->setObjectName(fromUtf8(described.nome));
+    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcutContext(Qt::WidgetShortcut); // fields keep their letters
+    grid.addAction(action);
+    return action;
+}
+
+} // namespace
+
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
-      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
+      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
       m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
@@ -69,14 +85,16 @@ void PlcalWindow::addGridCommands() {
     }
 }
 
-void PlcalWindow::addJumps(GridView& grid) {
+void PlcalWindow::addKeys(GridView& grid) {
     for (const Salto& salto : Salti) {
-        auto* action = new QAction(fromUtf8(salto.didascalia), &grid);
-        action->setObjectName(fromUtf8(salto.nome));
-        action->setShortcut(QKeySequence(fromUtf8(salto.scorciatoia)));
-        action->setShortcutContext(Qt::WidgetShortcut); // letters are the grid's alone
-        connect(action, &QAction::triggered, this, [this, &salto] { m_form->griglia_Salto(salto); });
-        grid.addAction(action);
+        connect(addKey(grid, salto), &QAction::triggered, this,
+                [this, &salto] { m_form->griglia_Salto(salto); });
+    }
+    for (const TastoPeriodo& tasto : TastiPeriodo) {
+        if (tasto.tipo == grid.tipo()) {
+            connect(addKey(grid, tasto), &QAction::triggered, this,
+                    [this, &tasto] { m_form->tastoPeriodo(tasto); });
+        }
     }
 }
 
@@ -88,6 +106,11 @@ void PlcalWindow::connectEvents() {
         m_form->calendario_DateClick(giorno);
         if (GridView* grid = visibleGrid()) {
             grid->scrollToCurrentCell();
+        }
+    });
+    connect(m_campo, &PromptField::left, this, [this] {
+        if (GridView* grid = visibleGrid()) {
+            grid->setFocus();
         }
     });
     connect(&m_mezzanotte, &QTimer::timeout, this, [this] {
@@ -102,7 +125,7 @@ void PlcalWindow::connectEvents() {
 void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
-    addJumps(grid);
+    addKeys(grid);
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -194,6 +217,13 @@ void PlcalWindow::portaCursoreInVista() {
     }
 }
 
+void PlcalWindow::apriCampo(const DescrizioneCampo& campo, const std::string& testo) {
+    m_campo->open(campo, fromUtf8(testo), [this, which = campo.campo](const QString& text) {
+        return m_form->campo_Conferma(which, text.trimmed().toStdString());
+    });
+    placeField();
+}
+
 void PlcalWindow::rinvia(std::function<void()> azione) {
     QMetaObject::invokeMethod(this, std::move(azione), Qt::QueuedConnection);
 }
@@ -218,6 +248,7 @@ void PlcalWindow::awaitMidnight() {
 }
 
 void PlcalWindow::nascondi() {
+    m_campo->hide();
     m_mezzanotte.stop();
     hide();
 }

@@ -20,6 +20,7 @@ class CommandBar;
 class DetailPanel;
 class FittedLabel;
 class GridView;
+class PromptField;
 class ShownCalendar;
 struct modpl;
 class plcal;
@@ -43,6 +44,7 @@ public:
     int primaColonnaInVista() const override;
     void scorriAlCursore() override;
     void portaCursoreInVista() override;
+    void apriCampo(const DescrizioneCampo& campo, const std::string& testo) override;
     void rinvia(std::function<void()> azione) override;
     void mostra() override;
     void nascondi() override;
@@ -64,11 +66,12 @@ protected:
 private:
     GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
     void addGridCommands();
-    void addJumps(GridView& grid);
+    void addKeys(GridView& grid);
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);
     void showMenu(const QPoint& globalPosition);
+    void placeField();
     void updateCalendar();
     void updateGrid();
     void setSmallestSize();
@@ -86,6 +89,7 @@ private:
     FittedLabel* m_lbldescr;
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
+    PromptField* m_campo;
     DetailPanel* m_panel;
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table

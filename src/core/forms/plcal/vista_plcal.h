@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/plcal/campi.h"
 #include "forms/plcal/geometry.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace planner {
@@ -31,6 +33,9 @@ public:
     virtual void scorriAlCursore() = 0;
     /// Scrolls as little as it takes to have the current cell in sight.
     virtual void portaCursoreInVista() = 0;
+    /// Opens a field for a text, to start from `testo`, UTF-8; one at a time. What the user confirms goes to
+    /// `plcal::campo_Conferma`.
+    virtual void apriCampo(const DescrizioneCampo& campo, const std::string& testo) = 0;
     /// Runs the action once the event that is being handled is over.
     virtual void rinvia(std::function<void()> azione) = 0;
     virtual void mostra() = 0;
