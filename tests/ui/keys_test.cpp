@@ -212,6 +212,41 @@ TEST_F(KeysTest, InTheMonthCtrlPageKeysAreThoseOfItsButtons) {
     EXPECT_EQ(bench.shownDay(), "20060315");
 }
 
+TEST_F(KeysTest, CtrlEndStopsAtTheLastRowWithAName) {
+    for (const auto& [kind, end] :
+         {std::pair{"M", Casella{5, 37}}, std::pair{"G", Casella{4, 96}}, std::pair{"A", Casella{12, 37}}}) {
+        bench.open(kind);
+        bench.key(Qt::Key_End, Qt::ControlModifier);
+        EXPECT_EQ(cursor(), end) << kind;
+        bench.key(Qt::Key_Home, Qt::ControlModifier);
+        EXPECT_EQ(cursor(), (Casella{bench.griglia().FixedRows(), 1})) << kind;
+    }
+}
+
+TEST_F(KeysTest, TheFirstArrowOfTheDayStartsAtTheHourInSight) {
+    for (int request = 0; request < 2; ++request) { // the window is kept for the second
+        bench.open("G");
+        EXPECT_EQ(bench.view().firstColumnInSight(), 33) << "8:00";
+        bench.key(Qt::Key_Right);
+        EXPECT_EQ(cursor(), (Casella{2, 34}));
+        bench.click(1, 70);
+    }
+    bench.key(Qt::Key_Right, Qt::AltModifier);
+    bench.key(Qt::Key_Right);
+    EXPECT_EQ(cursor().colonna, bench.view().firstColumnInSight() + 1);
+}
+
+TEST_F(KeysTest, ARequestThatNamesAPersonOpensWithTheCursorInThatRow) {
+    for (const auto& [kind, row] : {std::pair{"M", 3}, std::pair{"G", 2}}) {
+        bench.open(kind); // for "RB"
+        EXPECT_EQ(cursor().riga, row);
+        EXPECT_EQ(bench.view().currentIndex().row(), 1);
+        EXPECT_FALSE(bench.griglia().EvidenziazioneAttiva());
+        EXPECT_FALSE(bench.finestra.pannello().lblcollabVisibile);
+        bench.click(row + 1, 40 % bench.griglia().Cols());
+    }
+}
+
 TEST_F(KeysTest, TheCalendarIsReachedByTab) {
     bench.open("M");
     bool reached = false;

@@ -118,7 +118,11 @@ std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QK
 
 void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
     showCurrentCell(); // from which the toolkit moves
-    const QModelIndex target = moveCursor(action, modifiers);
+    QModelIndex target = moveCursor(action, modifiers);
+    if (action == MoveEnd && modifiers.testFlag(Qt::ControlModifier)) {
+        const int last = ultimaRigaConNome(griglia()) - griglia().FixedRows(); // none of the rows to spare
+        target = target.siblingAtRow(last);
+    }
     if (target.isValid() && target != currentCell()) {
         announce(target, Mezzo::frecce);
         scrollToCurrentCell();
