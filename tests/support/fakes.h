@@ -179,6 +179,7 @@ public:
     void portaDavanti() override { m_journal.push_back("bring to front"); }
     void LockWindowUpdate(bool locked) override { m_journal.push_back(locked ? "lock" : "unlock"); }
     void mostraInformazioni() override { m_journal.push_back("information"); }
+    void mostraGuida() override { m_journal.push_back("guide"); }
 
     Dimensioni screen = ProgettoPlcal;
     int firstColumn = PrimaColonnaGiornaliera;

@@ -173,6 +173,7 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
                                QStringLiteral("Cerca ancora"),
                                QStringLiteral("Vai alla data…"),
                                QStringLiteral("Vai a oggi"),
+                               QStringLiteral("Guida"),
                                QStringLiteral("Salta a")};
     EXPECT_EQ(offered, expected);
 }

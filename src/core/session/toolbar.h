@@ -59,6 +59,7 @@ enum class ComandoGriglia : std::uint8_t {
     cercaAncora,
     vaiAData,
     vaiAOggi,
+    guida,
 };
 
 struct DescrizioneComandoGriglia {
@@ -78,6 +79,7 @@ inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::cercaAncora, "cercaAncora", "Cerca ancora", "F3"},
     DescrizioneComandoGriglia{ComandoGriglia::vaiAData, "vaiAData", "Vai alla data…", "Ctrl+D"},
     DescrizioneComandoGriglia{ComandoGriglia::vaiAOggi, "vaiAOggi", "Vai a oggi", "Ctrl+T"},
+    DescrizioneComandoGriglia{ComandoGriglia::guida, "guida", "Guida", "F1"},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

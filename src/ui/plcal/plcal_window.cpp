@@ -6,6 +6,7 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
+#include "ui/guida/guida_window.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
@@ -249,6 +250,9 @@ void PlcalWindow::awaitMidnight() {
 
 void PlcalWindow::nascondi() {
     m_campo->hide();
+    if (m_guida) {
+        m_guida->hide();
+    }
     m_mezzanotte.stop();
     hide();
 }
@@ -264,6 +268,13 @@ void PlcalWindow::LockWindowUpdate(bool locked) {
 
 void PlcalWindow::mostraInformazioni() {
     showInfoDialog(this);
+}
+
+void PlcalWindow::mostraGuida() {
+    if (!m_guida) {
+        m_guida = std::make_unique<GuidaWindow>();
+    }
+    m_guida->mostra();
 }
 
 } // namespace planner

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class QAction;
@@ -20,6 +21,7 @@ class CommandBar;
 class DetailPanel;
 class FittedLabel;
 class GridView;
+class GuidaWindow;
 class PromptField;
 class ShownCalendar;
 struct modpl;
@@ -51,6 +53,7 @@ public:
     void portaDavanti() override;
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
+    void mostraGuida() override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.
@@ -91,6 +94,7 @@ private:
     FittedLabel* m_stato;
     PromptField* m_campo;
     DetailPanel* m_panel;
+    std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table
     QTimer m_mezzanotte;

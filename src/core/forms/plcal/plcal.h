@@ -86,7 +86,7 @@ public:
     /// The user has confirmed a field's text, UTF-8: goes there. False when there is nowhere to go, which the
     /// status line then says; the field stays open.
     bool campo_Conferma(CampoGriglia campo, const std::string& testo);
-    /// A command of the visible grid; nothing without one.
+    /// A command of the visible grid; without one there is the guide alone.
     void griglia_Comando(ComandoGriglia comando);
 
     // What the widgets show besides the controls.

@@ -24,6 +24,9 @@ std::string fuoriPeriodo(Data giorno, const PeriodoSessione& limiti) {
 } // namespace
 
 void plcal::griglia_Comando(ComandoGriglia comando) {
+    if (comando == ComandoGriglia::guida) {
+        return m_porte.vista.mostraGuida();
+    }
     if (!m_controlli.tipoVisibile) {
         return;
     }
