@@ -3,6 +3,7 @@
 #include "painted.h"
 #include "ui/guida/folded_search.h"
 #include "ui/guida/guida_window.h"
+#include "ui/kit/appearance.h"
 #include "window_bench.h"
 
 #include <QApplication>
@@ -183,6 +184,20 @@ TEST_F(GuideWindowTest, FitsTheScreenAndNamesItsParts) {
     EXPECT_EQ(part<QLineEdit>("parola").accessibleName(), QStringLiteral("Trova una parola"));
     EXPECT_EQ(text().accessibleName(), QStringLiteral("Guida"));
     EXPECT_GE(text().viewport()->width(), guide()->width() / 2);
+}
+
+TEST_F(GuideWindowTest, IsReadOnADarkDesktopToo) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(49, 54, 59), QColor(35, 38, 41)));
+    opened();
+    const QRectF page = text().viewport()->rect();
+    const Painted painted(*text().viewport());
+    EXPECT_TRUE(isDark(painted.at({2, 2}))) << "the ground";
+    EXPECT_GT(painted.amount(page, [](QRgb colour) { return qGray(colour) > 200; }), 100) << "the letters";
+    part<QListWidget>("capitoli").setCurrentRow(2); // the drawings stand below
+    const QRgb ground = qtColor(Colore::gialloChiaro).rgb();
+    EXPECT_TRUE(Painted(*text().viewport()).any(page, is(ground))) << "the drawings' own ground";
+    QApplication::setPalette(before);
 }
 
 TEST(FoldedSearchTest, GoesRoundTheEndInBothDirections) {
