@@ -63,7 +63,7 @@ void GuidaWindow::layOut() {
 void GuidaWindow::listHeadings() {
     m_headings = m_text->headings();
     for (const GuidaView::Heading& heading : m_headings) {
-        m_chapters->addItem(QString((heading.level - 1) * 3, QLatin1Char(' ')) + heading.text);
+        m_chapters->addItem(QString(qsizetype{3} * (heading.level - 1), QLatin1Char(' ')) + heading.text);
     }
     connect(m_chapters, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {
