@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/design.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/salti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "session/toolbar.h"
@@ -27,7 +28,9 @@ std::string italianKeys(std::string keys) {
                                            {"PgUp", "PagSu"},
                                            {"PgDown", "PagGiù"},
                                            {"Left", "Freccia sinistra"},
-                                           {"Right", "Freccia destra"}}) {
+                                           {"Right", "Freccia destra"},
+                                           {"Up", "Freccia su"},
+                                           {"Down", "Freccia giù"}}) {
         const std::size_t at = keys.find(english);
         if (at != std::string::npos) {
             keys.replace(at, std::string_view(english).size(), italian);
@@ -59,6 +62,18 @@ TEST(GuidaTest, EveryToolbarCommandHasItsRowAndKeys) {
 TEST(GuidaTest, EveryCommandOfTheGridsMenuHasItsRowAndKeys) {
     for (const DescrizioneComandoGriglia& command : ComandiGriglia) {
         expectDocumented(command.didascalia, command.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryPeriodKeyHasItsRowAndKeys) {
+    for (const TastoPeriodo& key : TastiPeriodo) {
+        expectDocumented(key.didascalia, key.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryJumpHasItsRowAndKeys) {
+    for (const Salto& jump : Salti) {
+        expectDocumented(jump.didascalia, jump.scorciatoia);
     }
 }
 

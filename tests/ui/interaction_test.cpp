@@ -161,10 +161,21 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
         offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
     }
     menu->close();
-    EXPECT_EQ(offered, (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
-                                    QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
-                                    QStringLiteral("-"), QStringLiteral("Copia la tabella"),
-                                    QStringLiteral("Stampa…"), QStringLiteral("Stampa con i totali…")}));
+    const QStringList expected{QStringLiteral("Consultazione"),
+                               QStringLiteral("Inserimento impegni"),
+                               QStringLiteral("Agenda"),
+                               QStringLiteral("Planner non dettagliato"),
+                               QStringLiteral("-"),
+                               QStringLiteral("Copia la tabella"),
+                               QStringLiteral("Stampa…"),
+                               QStringLiteral("Stampa con i totali…"),
+                               QStringLiteral("Cerca collaboratore…"),
+                               QStringLiteral("Cerca ancora"),
+                               QStringLiteral("Vai alla data…"),
+                               QStringLiteral("Vai a oggi"),
+                               QStringLiteral("Guida"),
+                               QStringLiteral("Salta a")};
+    EXPECT_EQ(offered, expected);
 }
 
 TEST_F(InteractionTest, TabLeavesTheGrid) {

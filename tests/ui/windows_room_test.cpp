@@ -103,7 +103,7 @@ TEST_F(WindowsRoomTest, TheAppointmentTypeDialogIsWhole) {
 TEST_F(WindowsRoomTest, TheInformationDialogIsWholeAndWritesAsLargeAsThePlanner) {
     bench.planner.open("M");
     bool shown = false;
-    whileModal([&] { bench.planner.key(Qt::Key_F1); },
+    whileModal([&] { bench.planner.key(Qt::Key_F1, Qt::ShiftModifier); },
                [&](QDialog& dialog) {
                    shown = true;
                    expectWhole(dialog);

@@ -89,6 +89,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         announce(currentCell(), Mezzo::invio);
     } else if (event->key() == Qt::Key_Space) {
         announce(currentCell(), Mezzo::spazio);
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Q_EMIT menuRequested(currentCellOnScreen()); // the Menu key comes as a context menu event
     } else if (const auto action = cursorActionOf(*event)) {
         moveByKey(*action, event->modifiers());
     } else {
@@ -116,7 +118,11 @@ std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QK
 
 void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
     showCurrentCell(); // from which the toolkit moves
-    const QModelIndex target = moveCursor(action, modifiers);
+    QModelIndex target = moveCursor(action, modifiers);
+    if (action == MoveEnd && modifiers.testFlag(Qt::ControlModifier)) {
+        const int last = ultimaRigaConNome(griglia()) - griglia().FixedRows(); // none of the rows to spare
+        target = target.siblingAtRow(last);
+    }
     if (target.isValid() && target != currentCell()) {
         announce(target, Mezzo::frecce);
         scrollToCurrentCell();
@@ -139,8 +145,12 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     if (byMouse && !under.isValid()) {
         return;
     }
-    const QPoint atCell = viewport()->mapToGlobal(visualRect(currentCell()).center());
-    Q_EMIT menuRequested(byMouse ? event->globalPos() : atCell);
+    Q_EMIT menuRequested(byMouse ? event->globalPos() : currentCellOnScreen());
+}
+
+QPoint GridView::currentCellOnScreen() {
+    scrollToCurrentCell();
+    return viewport()->mapToGlobal(visualRect(currentCell()).center());
 }
 
 const Griglia& GridView::griglia() const {

@@ -25,6 +25,7 @@ public:
              std::function<std::string(Casella)> frase, QWidget* parent);
 
     const Griglia& griglia() const;
+    TipoPlanner tipo() const { return m_tipo; }
 
     /// The factors that turn the grid's twips into pixels.
     void setScala(const Scala& scala);
@@ -68,6 +69,8 @@ private:
     void setUpBehaviour();
     void connectEvents();
     QModelIndex currentCell() const;
+    /// The centre of the current cell, scrolled into sight.
+    QPoint currentCellOnScreen();
     void announce(const QModelIndex& index, Mezzo mezzo);
     static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
     void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);

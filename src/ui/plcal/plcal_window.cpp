@@ -6,12 +6,14 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
+#include "ui/guida/guida_window.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
 #include "ui/plcal/detail_panel.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
+#include "ui/plcal/prompt_field.h"
 #include "ui/plcal/shown_calendar.h"
 
 #include <QAction>
@@ -23,10 +25,25 @@
 
 namespace planner {
 
+namespace {
+
+/// A command that the grid alone has, by name, caption and keys.
+template <typename Described>
+QAction* addKey(GridView& grid, const Described& described) {
+    auto* action = new QAction(fromUtf8(described.didascalia), &grid);
+    action->setObjectName(fromUtf8(described.nome));
+    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcutContext(Qt::WidgetShortcut); // fields keep their letters
+    grid.addAction(action);
+    return action;
+}
+
+} // namespace
+
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
-      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
+      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
       m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
@@ -69,6 +86,19 @@ void PlcalWindow::addGridCommands() {
     }
 }
 
+void PlcalWindow::addKeys(GridView& grid) {
+    for (const Salto& salto : Salti) {
+        connect(addKey(grid, salto), &QAction::triggered, this,
+                [this, &salto] { m_form->griglia_Salto(salto); });
+    }
+    for (const TastoPeriodo& tasto : TastiPeriodo) {
+        if (tasto.tipo == grid.tipo()) {
+            connect(addKey(grid, tasto), &QAction::triggered, this,
+                    [this, &tasto] { m_form->tastoPeriodo(tasto); });
+        }
+    }
+}
+
 void PlcalWindow::connectEvents() {
     connect(m_Toolbar1, &CommandBar::ButtonClick, this, [this](const QByteArray& chiave) {
         m_form->Toolbar1_ButtonClick({chiave.constData(), static_cast<std::size_t>(chiave.size())});
@@ -77,6 +107,11 @@ void PlcalWindow::connectEvents() {
         m_form->calendario_DateClick(giorno);
         if (GridView* grid = visibleGrid()) {
             grid->scrollToCurrentCell();
+        }
+    });
+    connect(m_campo, &PromptField::left, this, [this] {
+        if (GridView* grid = visibleGrid()) {
+            grid->setFocus();
         }
     });
     connect(&m_mezzanotte, &QTimer::timeout, this, [this] {
@@ -91,6 +126,7 @@ void PlcalWindow::connectEvents() {
 void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
+    addKeys(grid);
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -108,6 +144,7 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
     for (QAction* action : m_comandiGriglia) {
         menu->addAction(action);
     }
+    menu->addMenu(QStringLiteral("Salta a"))->addActions(visibleGrid()->actions());
     menu->popup(globalPosition);
 }
 
@@ -175,6 +212,19 @@ void PlcalWindow::scorriAlCursore() {
     }
 }
 
+void PlcalWindow::portaCursoreInVista() {
+    if (GridView* grid = visibleGrid()) {
+        grid->scrollToCurrentCell();
+    }
+}
+
+void PlcalWindow::apriCampo(const DescrizioneCampo& campo, const std::string& testo) {
+    m_campo->open(campo, fromUtf8(testo), [this, which = campo.campo](const QString& text) {
+        return m_form->campo_Conferma(which, text.trimmed().toStdString());
+    });
+    placeField();
+}
+
 void PlcalWindow::rinvia(std::function<void()> azione) {
     QMetaObject::invokeMethod(this, std::move(azione), Qt::QueuedConnection);
 }
@@ -199,6 +249,10 @@ void PlcalWindow::awaitMidnight() {
 }
 
 void PlcalWindow::nascondi() {
+    m_campo->hide();
+    if (m_guida) {
+        m_guida->hide();
+    }
     m_mezzanotte.stop();
     hide();
 }
@@ -214,6 +268,13 @@ void PlcalWindow::LockWindowUpdate(bool locked) {
 
 void PlcalWindow::mostraInformazioni() {
     showInfoDialog(this);
+}
+
+void PlcalWindow::mostraGuida() {
+    if (!m_guida) {
+        m_guida = std::make_unique<GuidaWindow>();
+    }
+    m_guida->mostra();
 }
 
 } // namespace planner

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class QAction;
@@ -20,6 +21,8 @@ class CommandBar;
 class DetailPanel;
 class FittedLabel;
 class GridView;
+class GuidaWindow;
+class PromptField;
 class ShownCalendar;
 struct modpl;
 class plcal;
@@ -42,12 +45,15 @@ public:
     void scorriA(int colonna) override;
     int primaColonnaInVista() const override;
     void scorriAlCursore() override;
+    void portaCursoreInVista() override;
+    void apriCampo(const DescrizioneCampo& campo, const std::string& testo) override;
     void rinvia(std::function<void()> azione) override;
     void mostra() override;
     void nascondi() override;
     void portaDavanti() override;
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
+    void mostraGuida() override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.
@@ -63,10 +69,12 @@ protected:
 private:
     GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
     void addGridCommands();
+    void addKeys(GridView& grid);
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);
     void showMenu(const QPoint& globalPosition);
+    void placeField();
     void updateCalendar();
     void updateGrid();
     void setSmallestSize();
@@ -84,7 +92,9 @@ private:
     FittedLabel* m_lbldescr;
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
+    PromptField* m_campo;
     DetailPanel* m_panel;
+    std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table
     QTimer m_mezzanotte;

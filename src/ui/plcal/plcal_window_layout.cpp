@@ -7,6 +7,7 @@
 #include "ui/plcal/command_bar.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/plcal_window.h"
+#include "ui/plcal/prompt_field.h"
 #include "ui/plcal/shown_calendar.h"
 
 #include <QScreen>
@@ -51,10 +52,17 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
 
 void PlcalWindow::resizeEvent(QResizeEvent*) {
     fillRemainingSpace();
+    placeField();
     GridView* grid = visibleGrid();
     if (m_untouched && grid != nullptr) {
         grid->scrollToCurrentCell(); // the window system's frame has taken some of the room
     }
+}
+
+void PlcalWindow::placeField() {
+    // Above the status line, which says what becomes of the text; nothing else moves.
+    const QSize size(std::min(m_stato->width(), m_campo->sizeHint().width()), m_campo->sizeHint().height());
+    m_campo->setGeometry(QRect(m_stato->geometry().topLeft() - QPoint(0, size.height()), size));
 }
 
 void PlcalWindow::setSmallestSize() {

@@ -53,18 +53,6 @@ void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     }
 }
 
-void plcal::griglia_Comando(ComandoGriglia comando) {
-    if (!m_controlli.tipoVisibile) {
-        return;
-    }
-    esegui([&] {
-        m_porte.suCarta(comando);
-        if (comando == ComandoGriglia::copia) {
-            m_stato = "La tabella è stata copiata.";
-        }
-    });
-}
-
 void plcal::reply(std::string_view azione) {
     m_sessione.valret = m_controlli.calendario.risposta(m_sessione.collab, azione);
     m_sessione.FinePlanner = true;
