@@ -51,13 +51,20 @@ inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pu
                                          Pulsante::dettno, Pulsante::dettsi};
 
 /// The grids' own commands, which no button repeats.
-enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali };
+enum class ComandoGriglia : std::uint8_t {
+    copia,
+    stampa,
+    stampaConTotali,
+    ingrandisci,
+    riduci,
+    grandezzaNormale
+};
 
 struct DescrizioneComandoGriglia {
     ComandoGriglia comando;
     std::string_view nome;
     std::string_view didascalia;  // Italian
-    std::string_view scorciatoia; // keyboard shortcut
+    std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
 };
 
 /// By command; the grids' menu has them below the buttons', in this order.
@@ -66,6 +73,10 @@ inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
+    DescrizioneComandoGriglia{ComandoGriglia::ingrandisci, "ingrandisci", "Ingrandisci", "Ctrl++; Ctrl+="},
+    DescrizioneComandoGriglia{ComandoGriglia::riduci, "riduci", "Riduci", "Ctrl+-"},
+    DescrizioneComandoGriglia{ComandoGriglia::grandezzaNormale, "grandezzaNormale", "Grandezza normale",
+                              "Ctrl+0"},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace planner {
 
@@ -18,10 +19,6 @@ constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
 constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
 constexpr QRgb TodayColor = qRgb(0, 110, 60);
 constexpr int TextMargin = 4;
-
-int pictureSide(const QRect& rect) {
-    return std::min({rect.width() - 3, rect.height() - 2, 64});
-}
 
 /// Above and below the bars of a row: no more than a low row can spare.
 int barMargin(const QRect& cell) {
@@ -62,13 +59,31 @@ bool centred(const Cella& cella) {
 } // namespace
 
 CellPainter::CellPainter(double fontFactor) {
-    setFontFactor(fontFactor);
+    setFactors(fontFactor, 1, 1);
 }
 
-void CellPainter::setFontFactor(double fontFactor) {
-    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
-        m_fonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor));
+void CellPainter::setFactors(double fontFactor, float header, float rows) {
+    constexpr float largestPicture = 64; // pixels, as designed
+    for (std::size_t i = 0; i < Caratteri.size(); ++i) {
+        m_headerFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * header));
+        m_rowFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * rows));
     }
+    m_largestPicture = qRound(largestPicture * std::max(rows, 1.0F));
+}
+
+int CellPainter::lowestRow() const {
+    constexpr int line = 1;
+    const QFontMetricsF metrics(m_rowFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
+    return static_cast<int>(std::ceil(metrics.capHeight() + metrics.descent())) + line;
+}
+
+int CellPainter::pictureSide(const QRect& rect) const {
+    return std::min({rect.width() - 3, rect.height() - 2, m_largestPicture});
+}
+
+const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella) const {
+    const Fonts& fonts = casella.riga < griglia.FixedRows() ? m_headerFonts : m_rowFonts;
+    return fonts.at(static_cast<std::size_t>(stile(griglia.cella(casella)).carattere));
 }
 
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
@@ -103,7 +118,7 @@ void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture
 
 int CellPainter::sideBesideText(const QRect& rect) const {
     constexpr int lines = 2;
-    const QFont& font = m_fonts.at(static_cast<std::size_t>(Carattere::normale)).font();
+    const QFont& font = m_rowFonts.at(static_cast<std::size_t>(Carattere::normale)).font();
     return std::min(pictureSide(rect), lines * QFontMetrics(font).height());
 }
 
@@ -118,8 +133,7 @@ QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree
 }
 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
-    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(stile(griglia.cella(casella)).carattere));
-    return font.fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
+    return font(griglia, casella).fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
 }
 
 bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {

@@ -21,7 +21,11 @@ public:
     /// Fonts follow the screen, as far as they stay legible.
     explicit CellPainter(double fontFactor);
 
-    void setFontFactor(double fontFactor);
+    /// `rows` is how much larger than designed the grid's rows are shown, `header` the same of its header.
+    void setFactors(double fontFactor, float header, float rows);
+
+    /// The height, in pixels, below which the letters of the rows would be cut.
+    int lowestRow() const;
 
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
@@ -33,6 +37,8 @@ private:
     int sideBesideText(const QRect& rect) const;
     /// Where a cell's text stands: beside its picture, and between what stands at either side.
     QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
+    const FittingFont& font(const Griglia& griglia, Casella casella) const;
+    int pictureSide(const QRect& rect) const;
     FittedText fittedText(const QRect& place, const Griglia& griglia, Casella casella) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
     void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, Casella casella);
@@ -42,7 +48,11 @@ private:
     void paintToday(QPainter& painter, const QRect& rect);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
 
-    std::array<FittingFont, Caratteri.size()> m_fonts;
+    using Fonts = std::array<FittingFont, Caratteri.size()>;
+
+    Fonts m_headerFonts;
+    Fonts m_rowFonts;
+    int m_largestPicture = 0;
     Pictures m_pictures;
 };
 

@@ -60,7 +60,7 @@ void PlcalWindow::addGridCommands() {
     for (const DescrizioneComandoGriglia& described : ComandiGriglia) {
         auto* action = new QAction(fromUtf8(described.didascalia), this);
         action->setObjectName(fromUtf8(described.nome));
-        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+        action->setShortcuts(QKeySequence::listFromString(fromUtf8(described.scorciatoia)));
         action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this,
                 [this, comando = described.comando] { m_form->griglia_Comando(comando); });
@@ -91,6 +91,8 @@ void PlcalWindow::connectEvents() {
 void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
+    connect(&grid, &GridView::commandGiven, this,
+            [this](ComandoGriglia comando) { m_form->griglia_Comando(comando); });
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -119,6 +121,7 @@ void PlcalWindow::aggiorna() {
     m_lblcollab->setVisible(panel.lblcollabVisibile);
     m_panel->show(panel);
     m_stato->setText(fromUtf8(m_form->stato()));
+    showZoom();
     updateGrid();
     m_Toolbar1->update(m_controlli.Toolbar1, visibleGrid());
     updateCalendar();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/controls.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/vista_plcal.h"
 #include "ui/plcal/cell_painter.h"
 
@@ -69,6 +70,8 @@ private:
     void showMenu(const QPoint& globalPosition);
     void updateCalendar();
     void updateGrid();
+    void showZoom();
+    void setGridFonts();
     void setSmallestSize();
     void fillRemainingSpace();
     GridView* visibleGrid() const;
@@ -77,6 +80,7 @@ private:
     ControlliPlcal& m_controlli;
     plcal* m_form = nullptr;
     Scala m_scala;
+    Ingrandimento m_ingrandimento; // as shown
     CellPainter m_painter{1};
 
     CommandBar* m_Toolbar1;

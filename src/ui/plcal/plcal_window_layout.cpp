@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/plcal.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
@@ -30,7 +31,7 @@ Dimensioni PlcalWindow::schermo() const {
 void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const Scala& scala) {
     m_scala = scala;
     const double factor = fontFactorFor(scala);
-    m_painter.setFontFactor(factor);
+    setGridFonts();
     setFont(qtFont(Carattere::normale, factor));
     m_lbldescr->setFont(qtFont(Carattere::grassetto, factor * TitleFontFactor));
     m_lblcollab->setFont(qtFont(Carattere::grassetto, factor));
@@ -46,6 +47,21 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
     fillRemainingSpace();
     for (GridView* grid : m_grids) {
         grid->setScala(scala);
+    }
+}
+
+void PlcalWindow::setGridFonts() {
+    m_painter.setFactors(fontFactorFor(m_scala), m_ingrandimento.cornice(), m_ingrandimento.righe());
+}
+
+void PlcalWindow::showZoom() {
+    if (m_ingrandimento == m_form->ingrandimento()) {
+        return;
+    }
+    m_ingrandimento = m_form->ingrandimento();
+    setGridFonts();
+    for (GridView* grid : m_grids) {
+        grid->setIngrandimento(m_ingrandimento);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "engine/contenuti.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
@@ -73,7 +74,7 @@ public:
     void Toolbar1_ButtonClick(std::string_view chiave);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
-    /// Copies or prints the visible grid; nothing without one.
+    /// Copies or prints the visible grid, or shows it larger or smaller; nothing without one.
     void griglia_Comando(ComandoGriglia comando);
 
     // What the widgets show besides the controls.
@@ -83,6 +84,7 @@ public:
     /// cell.
     std::string stato() const;
     const Scala& scala() const { return m_scala; }
+    const Ingrandimento& ingrandimento() const { return m_ingrandimento; }
 
 private:
     const RegoleTipo& tipo() const { return regole(*m_controlli.tipoVisibile); }
@@ -129,6 +131,7 @@ private:
     Porte m_porte;
     bool m_loaded = false;
     Scala m_scala;
+    Ingrandimento m_ingrandimento;
     PannelloDettagli m_pannello;
     std::string m_stato;
 };

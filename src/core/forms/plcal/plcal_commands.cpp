@@ -58,6 +58,10 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
         return;
     }
     esegui([&] {
+        if (m_ingrandimento.esegui(comando)) {
+            m_stato = "Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %.";
+            return;
+        }
         m_porte.suCarta(comando);
         if (comando == ComandoGriglia::copia) {
             m_stato = "La tabella è stata copiata.";
