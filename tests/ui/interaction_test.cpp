@@ -161,10 +161,12 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
         offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
     }
     menu->close();
-    EXPECT_EQ(offered, (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
-                                    QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
-                                    QStringLiteral("-"), QStringLiteral("Copia la tabella"),
-                                    QStringLiteral("Stampa…"), QStringLiteral("Stampa con i totali…")}));
+    EXPECT_EQ(offered,
+              (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
+                           QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
+                           QStringLiteral("-"), QStringLiteral("Copia la tabella"), QStringLiteral("Stampa…"),
+                           QStringLiteral("Stampa con i totali…"), QStringLiteral("Ingrandisci"),
+                           QStringLiteral("Riduci"), QStringLiteral("Grandezza normale")}));
 }
 
 TEST_F(InteractionTest, TabLeavesTheGrid) {

@@ -36,6 +36,7 @@ struct Casella {
 /// A rectangle of cells, bounds included; empty at first.
 struct AreaCelle {
     int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
+    bool intestazioni = false; // names or header cells beside it look different
 
     bool empty() const { return rigaMax < rigaMin || colonnaMax < colonnaMin; }
     void include(Casella casella);
@@ -103,6 +104,9 @@ public:
     /// True for the selected one; any place may be asked for.
     bool scelta(Casella casella) const { return m_scelta.riga >= 0 && casella == m_scelta; }
     bool sceltaAttiva() const { return m_scelta.riga >= 0; }
+    /// True for the name and the header cells of the highlighted row and of the selected cell; any place may
+    /// be asked for.
+    bool inEvidenza(Casella casella) const;
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;
@@ -139,6 +143,7 @@ private:
     std::size_t index(int row, int col) const;
     std::size_t heightIndex(int row) const;
     void includeRow(int row);
+    void includeSelected();
     template <typename Change>
     void change(int row, int col, Change apply);
     std::uint32_t intern(std::string_view text);

@@ -14,10 +14,6 @@ namespace planner {
 
 namespace {
 
-constexpr QRgb LineColor = qRgb(200, 200, 188);
-constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
-constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
-constexpr QRgb TodayColor = qRgb(0, 110, 60);
 constexpr int TextMargin = 4;
 
 /// Above and below the bars of a row: no more than a low row can spare.
@@ -83,7 +79,7 @@ int CellPainter::pictureSide(const QRect& rect) const {
 
 const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella) const {
     const Fonts& fonts = casella.riga < griglia.FixedRows() ? m_headerFonts : m_rowFonts;
-    return fonts.at(static_cast<std::size_t>(stile(griglia.cella(casella)).carattere));
+    return fonts.at(static_cast<std::size_t>(griglia.aspetto(casella).carattere));
 }
 
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
@@ -103,9 +99,7 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
     if (cella.testo != 0) {
         paintText(painter, textPlace(rect, cella, keptFree), griglia, casella);
     }
-    if (cella.oggi) {
-        paintToday(painter, rect);
-    }
+    paintMarks(painter, rect, griglia, casella);
 }
 
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
@@ -155,7 +149,7 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
                            Colore colore) {
     constexpr int lowestWithTwoEdges = 4;
-    const QColor edge(BarBorderColor);
+    const QColor edge = qtColor(Colore::bordoFascia);
     painter.fillRect(bar, qtColor(colore));
     painter.fillRect(topLine(bar), edge);
     if (bar.height() >= lowestWithTwoEdges) {
@@ -185,17 +179,40 @@ void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int pictu
     }
 }
 
-void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
-    constexpr int frame = 2;
-    painter.setPen(QPen(QColor(TodayColor), frame));
-    painter.drawRect(rect.adjusted(1, 1, -frame, -frame));
+void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness) {
+    const QColor colour = qtColor(colore);
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), thickness), colour);
+    painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - thickness, rect.width(), thickness), colour);
+    painter.fillRect(QRect(rect.left(), rect.top(), thickness, rect.height()), colour);
+    painter.fillRect(QRect(rect.right() + 1 - thickness, rect.top(), thickness, rect.height()), colour);
+}
+
+void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
+    const Colore fondo = griglia.aspetto(casella).fondo;
+    const QRect inside = rect.adjusted(0, 0, -1, -1); // the lines between the cells stay in sight
+    if (griglia.cella(casella).oggi) {
+        paintFrame(painter, inside, corniceOggi(fondo), 2);
+    }
+    if (casella.riga == griglia.RigaEvidenziata()) {
+        constexpr int highEnough = 24; // pixels, that two lines of two leave something of
+        const int thickness = rect.height() < highEnough ? 1 : 2;
+        const QColor colour = qtColor(cornice(fondo));
+        painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), thickness), colour);
+        painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - thickness, rect.width(), thickness), colour);
+    }
+    if (casella.riga == griglia.FixedRows() - 1 && griglia.inEvidenza(casella)) {
+        painter.fillRect(QRect(rect.left(), rect.bottom() - 1, rect.width(), 2), qtColor(cornice(fondo)));
+    }
+    if (griglia.scelta(casella)) {
+        paintFrame(painter, inside, cornice(fondo), 1);
+    }
 }
 
 void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
     painter.fillRect(bottomLine(rect),
-                     QColor(casella.riga < griglia.FixedRows() ? StrongLineColor : LineColor));
+                     qtColor(casella.riga < griglia.FixedRows() ? Colore::lineaForte : Colore::linea));
     painter.fillRect(rightLine(rect),
-                     QColor(finisceGruppo(griglia, casella.colonna) ? StrongLineColor : LineColor));
+                     qtColor(finisceGruppo(griglia, casella.colonna) ? Colore::lineaForte : Colore::linea));
 }
 
 } // namespace planner

@@ -30,6 +30,8 @@ public:
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
+    /// A line along the inside of the place's edges.
+    static void paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness);
     /// True when the cell's text is not shown whole in the place.
     bool cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree = 0) const;
 
@@ -45,7 +47,7 @@ private:
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
-    void paintToday(QPainter& painter, const QRect& rect);
+    void paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
 
     using Fonts = std::array<FittingFont, Caratteri.size()>;

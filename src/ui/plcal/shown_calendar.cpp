@@ -119,6 +119,13 @@ void ShownCalendar::resizeEvent(QResizeEvent* event) {
     QCalendarWidget::resizeEvent(event);
 }
 
+void ShownCalendar::changeEvent(QEvent* event) {
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colourDays();
+    }
+}
+
 bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) {
         m_selected = QDate();

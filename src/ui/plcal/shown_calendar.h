@@ -21,6 +21,7 @@ Q_SIGNALS:
     void dayPicked(planner::Data giorno);
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
