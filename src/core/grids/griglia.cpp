@@ -166,6 +166,23 @@ void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
     notify();
 }
 
+void Griglia::setRiepilogo(std::vector<int> perColonna, int massimo) {
+    if (perColonna == m_riepilogo && massimo == m_riepilogoMassimo) {
+        return;
+    }
+    m_riepilogo = std::move(perColonna);
+    m_riepilogoMassimo = massimo;
+    m_dirty.include({0, FixedCols()});
+    m_dirty.include({0, m_cols - 1});
+    notify();
+}
+
+std::optional<int> Griglia::riepilogo(int colonna) const {
+    const auto place = static_cast<std::size_t>(colonna);
+    const bool known = colonna >= 0 && place < m_riepilogo.size() && m_riepilogo[place] >= 0;
+    return known ? std::optional(m_riepilogo[place]) : std::nullopt;
+}
+
 int Griglia::RowHeight(int row) const {
     return m_rowHeights[heightIndex(row)];
 }

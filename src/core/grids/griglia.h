@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -112,6 +113,14 @@ public:
     std::span<const FasciaImpegno> fasce(int row) const;
     void setFasce(int row, std::vector<FasciaImpegno> fasce);
 
+    /// A number for each column, shown as a bar in the header: what the whole office has there. Columns past
+    /// the list's end, and those with a negative number, have none.
+    void setRiepilogo(std::vector<int> perColonna, int massimo);
+    /// Nothing for a column without a number; any column may be asked for.
+    std::optional<int> riepilogo(int colonna) const;
+    /// The number that a bar as high as the header stands for.
+    int RiepilogoMassimo() const { return m_riepilogoMassimo; }
+
     /// The colours that the cell shows, and those of them that have a name.
     Aspetto aspetto(Casella casella) const;
     Colore CellForeColor(int row, int col) const { return aspetto({row, col}).colore; }
@@ -158,6 +167,8 @@ private:
     std::vector<int> m_rowHeights; // of the fixed rows, and at last of every data row
     std::vector<int> m_colWidths;
     std::unordered_map<int, std::vector<FasciaImpegno>> m_fasce; // by row; few rows have any
+    std::vector<int> m_riepilogo;                                // by column
+    int m_riepilogoMassimo = 0;
 
     std::deque<std::string> m_texts{std::string()}; // a deque: the map's keys point into it
     std::unordered_map<std::string_view, std::uint32_t> m_textIndex{{std::string_view(), 0}};

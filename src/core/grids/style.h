@@ -34,9 +34,10 @@ enum class Colore : std::uint8_t {
     bordoFascia,
     oggi,
     oggiSuScuro,
+    riepilogo,
 };
 
-inline constexpr std::array<Rgb, 16> ColoriRgb{{
+inline constexpr std::array<Rgb, 17> ColoriRgb{{
     {0, 0, 0},       // predefinito, as text colour
     {0, 0, 0},       // nero: ordinary text
     {255, 255, 255}, // bianco: text of marked days
@@ -53,6 +54,7 @@ inline constexpr std::array<Rgb, 16> ColoriRgb{{
     {70, 110, 180},  // bordoFascia: edge of an appointment's bar
     {0, 110, 60},    // oggi: frame of today
     {144, 238, 170}, // oggiSuScuro: the same on a marked day
+    {64, 88, 128},   // riepilogo: a bar in the header
 }};
 
 constexpr Rgb rgb(Colore colore) {

@@ -187,6 +187,22 @@ void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore
     painter.fillRect(QRect(rect.right() + 1 - thickness, rect.top(), thickness, rect.height()), colour);
 }
 
+void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
+    constexpr int margin = 3; // leaves today's frame in sight
+    constexpr int share = 7;  // of the column's width that the bar takes
+    const int value = griglia.riepilogo(col).value_or(0);
+    if (value <= 0 || griglia.RiepilogoMassimo() <= 0) {
+        return;
+    }
+    const int room = rect.height() - 2 * margin;
+    const int height =
+        std::max(room * std::min(value, griglia.RiepilogoMassimo()) / griglia.RiepilogoMassimo(), 1);
+    const int width = std::clamp(rect.width() / share, 2, 8);
+    painter.fillRect(
+        QRect(rect.right() + 1 - margin - width, rect.bottom() + 1 - margin - height, width, height),
+        qtColor(Colore::riepilogo));
+}
+
 void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
     const Colore fondo = griglia.aspetto(casella).fondo;
     const QRect inside = rect.adjusted(0, 0, -1, -1); // the lines between the cells stay in sight

@@ -30,6 +30,9 @@ public:
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
+    /// The bar of a column in the header, at the right of its texts; `rect` is the whole height of the
+    /// header.
+    static void paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col);
     /// A line along the inside of the place's edges.
     static void paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness);
     /// True when the cell's text is not shown whole in the place.

@@ -32,7 +32,8 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 
 GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
                    std::function<std::string(Casella)> frase, QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_painter(painter), m_model(new GridModel(griglia, std::move(frase), this)),
+    : QTableView(parent), m_tipo(tipo), m_painter(painter),
+      m_model(new GridModel(griglia, std::move(frase), this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(
@@ -60,6 +61,13 @@ void GridView::connectEvents() {
         connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
     }
     connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
+}
+
+void GridView::setTips(const std::function<std::string(Casella)>& tips) {
+    for (GridHeader* header : {m_columns, m_names}) {
+        header->setTips(tips);
+        connect(header, &GridHeader::pointed, this, &GridView::headerPointed);
+    }
 }
 
 void GridView::announce(const QModelIndex& index, Mezzo mezzo) {

@@ -27,6 +27,9 @@ public:
 
     const Griglia& griglia() const;
 
+    /// What is said of a name or a column where the mouse rests on it.
+    void setTips(const std::function<std::string(Casella)>& tips);
+
     /// The factors that turn the grid's twips into pixels.
     void setScala(const Scala& scala);
     /// How much larger they are than that. The current cell stays in sight, and so does the first hour.
@@ -55,6 +58,8 @@ Q_SIGNALS:
     /// The wheel was turned in the manner of a command.
     void commandGiven(planner::ComandoGriglia comando);
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
+    /// The mouse is on a name or a column; empty when it is on none.
+    void headerPointed(const QString& tip);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -21,6 +21,7 @@ class CommandBar;
 class DetailPanel;
 class FittedLabel;
 class GridView;
+class LegendBar;
 class ShownCalendar;
 struct modpl;
 class plcal;
@@ -74,6 +75,8 @@ private:
     void setGridFonts();
     void setSmallestSize();
     void fillRemainingSpace();
+    void placeStatus();
+    void showStatus(const QString& text);
     GridView* visibleGrid() const;
 
     const modpl& m_sessione;
@@ -88,6 +91,7 @@ private:
     FittedLabel* m_lbldescr;
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
+    LegendBar* m_legenda;
     DetailPanel* m_panel;
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table

@@ -15,9 +15,9 @@ namespace {
 using Coppia = std::pair<Colore, Colore>; // what stands out, and its ground
 
 constexpr std::array<std::string_view, ColoriRgb.size()> Nomi{
-    "predefinito",  "nero",        "bianco",       "rosso",      "navy",         "giallo",
-    "gialloChiaro", "ciano",       "grigioChiaro", "azzurro",    "intestazione", "linea",
-    "lineaForte",   "bordoFascia", "oggi",         "oggiSuScuro"};
+    "predefinito",  "nero",        "bianco",       "rosso",       "navy",         "giallo",
+    "gialloChiaro", "ciano",       "grigioChiaro", "azzurro",     "intestazione", "linea",
+    "lineaForte",   "bordoFascia", "oggi",         "oggiSuScuro", "riepilogo"};
 
 std::string nome(Coppia coppia) {
     return std::string(Nomi.at(static_cast<std::size_t>(coppia.first))) + " su " +
@@ -104,6 +104,10 @@ TEST_F(ContrastTest, EveryFrameStandsOutFromItsGround) {
                 << nome({Colore::lineaForte, ground});
         }
     }
+}
+
+TEST_F(ContrastTest, TheHeadersBarsStandOut) {
+    EXPECT_GE(least({Colore::riepilogo, Colore::intestazione}), ShapeContrast);
 }
 
 TEST_F(ContrastTest, EveryBarHasAnEdgeThatStandsOutOnBothSides) {
