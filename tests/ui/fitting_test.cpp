@@ -77,11 +77,21 @@ TEST_F(FittingTest, ALabelFollowsItsFont) {
     FittedLabel label(nullptr);
     label.setText(LongName);
     label.setFont(font);
-    label.resize(width, 20);
+    label.resize(width, 60);
     EXPECT_FALSE(label.fitted().cut);
     label.setFont(qtFont(Carattere::normale, 3));
     EXPECT_TRUE(label.fitted().cut);
     EXPECT_DOUBLE_EQ(label.fitted().font.pointSizeF(), 27 * 0.9);
+}
+
+TEST_F(FittingTest, LettersHigherThanTheirLabelShrinkToIt) {
+    FittedLabel label(nullptr);
+    label.setText(QStringLiteral("È"));
+    label.setFont(qtFont(Carattere::normale, 3));
+    label.resize(width, 20);
+    label.show();
+    EXPECT_LE(QFontMetrics(label.fitted().font).height(), 20);
+    EXPECT_GT(label.fitted().font.pointSizeF(), 9);
 }
 
 TEST_F(FittingTest, ANameIsWholeInTheHeadersToolTipWhereItsColumnCutsItOff) {

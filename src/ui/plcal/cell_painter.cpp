@@ -73,6 +73,11 @@ int CellPainter::lowestRow() const {
     return static_cast<int>(std::ceil(metrics.capHeight() + metrics.descent())) + line;
 }
 
+int CellPainter::lowestHeader() const {
+    const QFontMetricsF metrics(m_headerFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
+    return static_cast<int>(std::ceil(metrics.ascent() + metrics.descent()));
+}
+
 int CellPainter::pictureSide(const QRect& rect) const {
     return std::min({rect.width() - 3, rect.height() - 2, m_largestPicture});
 }

@@ -26,6 +26,8 @@ public:
 
     /// The height, in pixels, below which the letters of the rows would be cut.
     int lowestRow() const;
+    /// The same of the header's lines, with their accents.
+    int lowestHeader() const;
 
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,

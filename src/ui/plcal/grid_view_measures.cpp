@@ -87,7 +87,8 @@ void GridView::applyMeasures() {
 void GridView::applyRowMeasures() {
     const float scale = rowScale();
     const auto header = sizes(griglia().FixedRows(), [&](int row) {
-        return pixels(griglia().RowHeight(row), scale * m_ingrandimento.cornice());
+        return std::max(pixels(griglia().RowHeight(row), scale * m_ingrandimento.cornice()),
+                        m_painter.lowestHeader());
     });
     m_columns->setThickness(header);
     m_corner->setRowHeights(header);

@@ -5,6 +5,7 @@
 #include "forms/plcal/legenda_in_vista.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/fitting_font.h"
 
 #include <QPainter>
 
@@ -37,8 +38,13 @@ int LegendBar::side() const {
     return std::max(height() - 2, 1);
 }
 
+QFont LegendBar::letters() const {
+    return fontWithin(font(), height());
+}
+
 int LegendBar::entryWidth(const VoceLegenda& voce, bool words) const {
-    const int word = words ? Gap + fontMetrics().horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap;
+    const int word =
+        words ? Gap + QFontMetrics(letters()).horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap;
     return side() + word;
 }
 
@@ -79,6 +85,7 @@ void LegendBar::paintSign(QPainter& painter, const QRect& square, const VoceLege
 
 void LegendBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.setFont(letters());
     painter.setPen(palette().color(foregroundRole()));
     int left = 0;
     for (const VoceLegenda& voce : m_voci) {

@@ -31,6 +31,7 @@ protected:
 
 private:
     int side() const;
+    QFont letters() const;
     int entryWidth(const VoceLegenda& voce, bool words) const;
     int widthOf(bool words) const;
     bool showsWords() const { return width() >= wholeWidth(); }

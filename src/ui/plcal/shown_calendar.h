@@ -27,6 +27,7 @@ protected:
 
 private:
     void hideNavigation();
+    void fitLetters();
     void fitHeading();
     void colourDays();
     void pick(QDate day);
