@@ -66,6 +66,22 @@ TEST_F(GlanceTest, TheDaysHeaderHasABarForWhoIsFree) {
     EXPECT_NEAR(barHeight(39), barHeight(38) * 2 / 3, 1.5);
 }
 
+TEST_F(GlanceTest, NoBarStandsOnTheTextOfItsColumn) {
+    for (const char* kind : {"M", "G"}) {
+        bench.open(kind);
+        const Painted header(*days().viewport());
+        for (int section = 0; section < days().count(); ++section) {
+            const double right = days().sectionViewportPosition(section) + days().sectionSize(section);
+            if (right < 8 || right > days().width() || !bench.griglia().riepilogo(section + 1)) {
+                continue;
+            }
+            const QRectF besideBar(right - 3 - std::clamp(days().sectionSize(section) / 7, 2, 8) - 1, 0, 1,
+                                   days().height() - 3.0);
+            EXPECT_FALSE(header.any(besideBar, isDark)) << kind << " " << section;
+        }
+    }
+}
+
 TEST_F(GlanceTest, AColumnsTipSaysItInWords) {
     bench.open("G");
     EXPECT_TRUE(toolTipAt(*days().viewport(), inColumn(39)).contains(QStringLiteral("2 liberi alle 9:30")));

@@ -34,6 +34,13 @@ QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
     return {bars.left(), bars.top() + std::max(top, 0), bars.width(), height};
 }
 
+constexpr int SummaryMargin = 3; // beside a column's bar: leaves today's frame in sight
+
+int summaryWidth(const QRect& rect) {
+    constexpr int share = 7; // of the column's width
+    return std::clamp(rect.width() / share, 2, 8);
+}
+
 /// Lines one pixel wide inside a rectangle's edges, sharp on every screen.
 QRect leftLine(const QRect& rect) {
     return {rect.left(), rect.top(), 1, rect.height()};
@@ -102,7 +109,7 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
-        paintText(painter, textPlace(rect, cella, keptFree), griglia, casella);
+        paintText(painter, textPlace(rect, griglia, casella, keptFree), griglia, casella);
     }
     paintMarks(painter, rect, griglia, casella);
 }
@@ -131,12 +138,23 @@ QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree
     return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
 
+QRect CellPainter::textPlace(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
+    QRect place = textPlace(rect, griglia.cella(casella), keptFree);
+    if (casella.riga < griglia.FixedRows() && griglia.riepilogo(casella.colonna)) {
+        const int taken = SummaryMargin + summaryWidth(rect) + 1;
+        const QFontMetrics letters(font(griglia, casella).font());
+        const int text = letters.horizontalAdvance(fromCp1252(griglia.TextMatrix(casella)));
+        place.setRight(rect.right() - (text > rect.width() - 2 * taken ? taken : 1));
+    }
+    return place;
+}
+
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
     return font(griglia, casella).fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
 }
 
 bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
-    const QRect place = textPlace(rect, griglia.cella(casella), keptFree);
+    const QRect place = textPlace(rect, griglia, casella, keptFree);
     return fittedText(place, griglia, casella).cut;
 }
 
@@ -193,19 +211,17 @@ void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore
 }
 
 void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
-    constexpr int margin = 3; // leaves today's frame in sight
-    constexpr int share = 7;  // of the column's width that the bar takes
     const int value = griglia.riepilogo(col).value_or(0);
     if (value <= 0 || griglia.RiepilogoMassimo() <= 0) {
         return;
     }
-    const int room = rect.height() - 2 * margin;
+    const int room = rect.height() - 2 * SummaryMargin;
     const int height =
         std::max(room * std::min(value, griglia.RiepilogoMassimo()) / griglia.RiepilogoMassimo(), 1);
-    const int width = std::clamp(rect.width() / share, 2, 8);
-    painter.fillRect(
-        QRect(rect.right() + 1 - margin - width, rect.bottom() + 1 - margin - height, width, height),
-        qtColor(Colore::riepilogo));
+    const int width = summaryWidth(rect);
+    painter.fillRect(QRect(rect.right() + 1 - SummaryMargin - width,
+                           rect.bottom() + 1 - SummaryMargin - height, width, height),
+                     qtColor(Colore::riepilogo));
 }
 
 void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {

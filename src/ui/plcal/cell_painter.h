@@ -44,6 +44,9 @@ private:
     int sideBesideText(const QRect& rect) const;
     /// Where a cell's text stands: beside its picture, and between what stands at either side.
     QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
+    /// The same for any cell: in the header a text too long to stand in the middle keeps clear of the
+    /// column's bar.
+    QRect textPlace(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const;
     const FittingFont& font(const Griglia& griglia, Casella casella) const;
     int pictureSide(const QRect& rect) const;
     FittedText fittedText(const QRect& place, const Griglia& griglia, Casella casella) const;
