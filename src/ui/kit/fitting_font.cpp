@@ -4,6 +4,7 @@
 
 #include "ui/kit/appearance.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace planner {
@@ -26,7 +27,10 @@ FittingFont::FittingFont(const QFont& font) {
     m_letters.emplace_back(font);
     m_letters.emplace_back(shrunk(font, Shrinking));
     if (desktopFontFactor() > 1) {
-        m_letters.emplace_back(shrunk(font, Shrinking / desktopFontFactor()));
+        constexpr double smallestLegible = 7; // points
+        const double usual = Shrinking / desktopFontFactor();
+        const double least = font.pointSizeF() > 0 ? smallestLegible / font.pointSizeF() : 0;
+        m_letters.emplace_back(shrunk(font, std::min(std::max(usual, least), Shrinking)));
     }
 }
 
