@@ -55,6 +55,9 @@ enum class ComandoGriglia : std::uint8_t {
     copia,
     stampa,
     stampaConTotali,
+    ingrandisci,
+    riduci,
+    grandezzaNormale,
     cerca,
     cercaAncora,
     vaiAData,
@@ -66,7 +69,7 @@ struct DescrizioneComandoGriglia {
     ComandoGriglia comando;
     std::string_view nome;
     std::string_view didascalia;  // Italian
-    std::string_view scorciatoia; // keyboard shortcut
+    std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
 };
 
 /// By command; the grids' menu has them below the buttons', in this order.
@@ -75,6 +78,10 @@ inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
+    DescrizioneComandoGriglia{ComandoGriglia::ingrandisci, "ingrandisci", "Ingrandisci", "Ctrl++; Ctrl+="},
+    DescrizioneComandoGriglia{ComandoGriglia::riduci, "riduci", "Riduci", "Ctrl+-"},
+    DescrizioneComandoGriglia{ComandoGriglia::grandezzaNormale, "grandezzaNormale", "Grandezza normale",
+                              "Ctrl+0"},
     DescrizioneComandoGriglia{ComandoGriglia::cerca, "cercaCollaboratore", "Cerca collaboratore…", "Ctrl+F"},
     DescrizioneComandoGriglia{ComandoGriglia::cercaAncora, "cercaAncora", "Cerca ancora", "F3"},
     DescrizioneComandoGriglia{ComandoGriglia::vaiAData, "vaiAData", "Vai alla data…", "Ctrl+D"},

@@ -110,7 +110,8 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     if (misure) {
         Q_EMIT measuresChanged();
     }
-    if (!area.empty() && (area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols())) {
+    const bool fixed = area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols();
+    if (!area.empty() && (fixed || area.intestazioni)) {
         Q_EMIT headersChanged();
     }
 }

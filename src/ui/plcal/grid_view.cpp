@@ -13,6 +13,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -31,7 +32,8 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 
 GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
                    std::function<std::string(Casella)> frase, QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, std::move(frase), this)),
+    : QTableView(parent), m_tipo(tipo), m_painter(painter),
+      m_model(new GridModel(griglia, std::move(frase), this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(
@@ -59,6 +61,13 @@ void GridView::connectEvents() {
         connect(m_names, &GridHeader::menuRequested, this, &GridView::menuRequested);
     }
     connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
+}
+
+void GridView::setTips(const std::function<std::string(Casella)>& tips) {
+    for (GridHeader* header : {m_columns, m_names}) {
+        header->setTips(tips);
+        connect(header, &GridHeader::pointed, this, &GridView::headerPointed);
+    }
 }
 
 void GridView::announce(const QModelIndex& index, Mezzo mezzo) {
@@ -96,6 +105,20 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     } else {
         event->ignore(); // the window may have a use for it
     }
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QTableView::wheelEvent(event);
+        return;
+    }
+    m_turned += event->angleDelta().y();
+    while (std::abs(m_turned) >= QWheelEvent::DefaultDeltasPerStep) {
+        const bool away = m_turned > 0;
+        m_turned -= away ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep;
+        Q_EMIT commandGiven(away ? ComandoGriglia::ingrandisci : ComandoGriglia::riduci);
+    }
+    event->accept();
 }
 
 std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QKeyEvent& event) {

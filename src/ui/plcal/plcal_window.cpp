@@ -3,6 +3,8 @@
 #include "ui/plcal/plcal_window.h"
 
 #include "engine/kinds/kind.h"
+#include "forms/plcal/colpo_docchio.h"
+#include "forms/plcal/legenda_in_vista.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
@@ -13,6 +15,7 @@
 #include "ui/plcal/detail_panel.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
+#include "ui/plcal/legend_bar.h"
 #include "ui/plcal/prompt_field.h"
 #include "ui/plcal/shown_calendar.h"
 
@@ -44,6 +47,7 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
       m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
+      m_legenda(new LegendBar(this)),
       m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
@@ -68,6 +72,11 @@ GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
+    grid->setTips([this, tipo](Casella casella) {
+        return casella.colonna < Griglia::FixedCols()
+                   ? fraseTotali(m_controlli, m_sessione, tipo, casella.riga)
+                   : fraseColonna(m_controlli, tipo, casella.colonna);
+    });
     return grid;
 }
 
@@ -77,7 +86,7 @@ void PlcalWindow::addGridCommands() {
     for (const DescrizioneComandoGriglia& described : ComandiGriglia) {
         auto* action = new QAction(fromUtf8(described.didascalia), this);
         action->setObjectName(fromUtf8(described.nome));
-        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+        action->setShortcuts(QKeySequence::listFromString(fromUtf8(described.scorciatoia)));
         action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this,
                 [this, comando = described.comando] { m_form->griglia_Comando(comando); });
@@ -127,6 +136,10 @@ void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
     addKeys(grid);
+    connect(&grid, &GridView::headerPointed, this,
+            [this](const QString& tip) { showStatus(tip.isEmpty() ? fromUtf8(m_form->stato()) : tip); });
+    connect(&grid, &GridView::commandGiven, this,
+            [this](ComandoGriglia comando) { m_form->griglia_Comando(comando); });
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -155,7 +168,9 @@ void PlcalWindow::aggiorna() {
     m_lblcollab->setText(fromCp1252(panel.lblcollab));
     m_lblcollab->setVisible(panel.lblcollabVisibile);
     m_panel->show(panel);
-    m_stato->setText(fromUtf8(m_form->stato()));
+    m_legenda->setEntries(legendaInVista(m_controlli));
+    showStatus(fromUtf8(m_form->stato()));
+    showZoom();
     updateGrid();
     m_Toolbar1->update(m_controlli.Toolbar1, visibleGrid());
     updateCalendar();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/controls.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/vista_plcal.h"
 #include "ui/plcal/cell_painter.h"
 
@@ -23,6 +24,7 @@ class FittedLabel;
 class GridView;
 class GuidaWindow;
 class PromptField;
+class LegendBar;
 class ShownCalendar;
 struct modpl;
 class plcal;
@@ -77,14 +79,19 @@ private:
     void placeField();
     void updateCalendar();
     void updateGrid();
+    void showZoom();
+    void setGridFonts();
     void setSmallestSize();
     void fillRemainingSpace();
+    void placeStatus();
+    void showStatus(const QString& text);
     GridView* visibleGrid() const;
 
     const modpl& m_sessione;
     ControlliPlcal& m_controlli;
     plcal* m_form = nullptr;
     Scala m_scala;
+    Ingrandimento m_ingrandimento; // as shown
     CellPainter m_painter{1};
 
     CommandBar* m_Toolbar1;
@@ -93,6 +100,7 @@ private:
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
     PromptField* m_campo;
+    LegendBar* m_legenda;
     DetailPanel* m_panel;
     std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
     std::array<GridView*, 3> m_grids;

@@ -42,6 +42,7 @@ private:
     QSize smallestSize() const;
     void placeControls();
     void placeStrip(const QRect& strip);
+    void placeTexts();
     /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
     void say(const QString& text, const QString& spoken = {});
     void showValue(const QModelIndex& index);
@@ -56,7 +57,10 @@ private:
     double m_fontFactor;
     ChartView* m_chart;
     ChartKindFrame* m_frame;
+    FittedLabel* m_piede; // whose hours, of when, in all and on the average
     FittedLabel* m_stato;
+    QRect m_texts;                       // what the buttons leave of the strip
+    bool m_resting = true;               // the line invites, and says nothing else
     std::vector<QPushButton*> m_buttons; // from left to right
 };
 

@@ -5,6 +5,7 @@
 #include "engine/contenuti.h"
 #include "forms/plcal/campi.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/panel.h"
 #include "forms/plcal/salti.h"
 #include "forms/plcal/vista_plcal.h"
@@ -96,6 +97,7 @@ public:
     /// cell.
     std::string stato() const;
     const Scala& scala() const { return m_scala; }
+    const Ingrandimento& ingrandimento() const { return m_ingrandimento; }
 
 private:
     const RegoleTipo& tipo() const { return regole(*m_controlli.tipoVisibile); }
@@ -129,6 +131,7 @@ private:
     bool mostraGiorno(Data giorno);
 
     // plcal_go.cpp
+    void ingrandisci(ComandoGriglia comando);
     void suCarta(ComandoGriglia comando);
     void apriCampo(CampoGriglia campo);
     bool cercaPersona();
@@ -151,6 +154,7 @@ private:
     Porte m_porte;
     bool m_loaded = false;
     Scala m_scala;
+    Ingrandimento m_ingrandimento;
     PannelloDettagli m_pannello;
     std::string m_stato;
     std::string m_testoCercato; // the last one, UTF-8

@@ -40,9 +40,20 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
         return apriCampo(CampoGriglia::data);
     case ComandoGriglia::vaiAOggi:
         return void(vaiA(m_contenuti.oggi()));
+    case ComandoGriglia::ingrandisci:
+    case ComandoGriglia::riduci:
+    case ComandoGriglia::grandezzaNormale:
+        return ingrandisci(comando);
     default:
         return suCarta(comando);
     }
+}
+
+void plcal::ingrandisci(ComandoGriglia comando) {
+    esegui([&] {
+        m_ingrandimento.esegui(comando);
+        m_stato = "Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %.";
+    });
 }
 
 void plcal::suCarta(ComandoGriglia comando) {
