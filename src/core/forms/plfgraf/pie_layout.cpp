@@ -72,14 +72,14 @@ double middleOf(const ChartSlice& slice) {
     return slice.start + slice.span / 2;
 }
 
-std::vector<SideLabel> makeLabels(const ChartLayoutTask& task) {
+std::vector<SideLabel> makeLabels(const ChartLayoutTask& task, bool shares) {
     std::vector<SideLabel> labels;
     const ChartLayout& layout = task.layout;
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::size_t number = layout.slices[i].number;
         const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " +
-                                 testoOre(task.grafico.valore(number)) + "  " +
-                                 testoQuota(task.grafico, number);
+                                 testoOre(task.grafico.valore(number)) +
+                                 (shares ? "  " + testoQuota(task.grafico, number) : "");
         ChartSize size = task.measure(ChartTextRole::value, text);
         size = {size.width + 2 * LabelPadding, size.height + LabelPadding};
         labels.push_back({i, text, size, layout.slices[i].span, 0});
@@ -87,15 +87,24 @@ std::vector<SideLabel> makeLabels(const ChartLayoutTask& task) {
     return labels;
 }
 
-/// The largest circle that leaves room for the labels on both sides.
-void placeCircle(const ChartLayoutTask& task, const std::vector<SideLabel>& labels) {
+/// The largest width that leaves room for the labels on both sides; may be negative.
+double widthBetween(const ChartLayoutTask& task, const std::vector<SideLabel>& labels) {
     double widest = 0;
     for (const SideLabel& label : labels) {
         widest = std::max(widest, label.size.width);
     }
-    const double aside = widest + LabelDistance;
+    return task.body.width - 2 * (widest + LabelDistance);
+}
+
+/// With each slice's share, unless that leaves no room for the circle.
+std::vector<SideLabel> makeFittingLabels(const ChartLayoutTask& task) {
+    std::vector<SideLabel> labels = makeLabels(task, /*shares=*/true);
+    return widthBetween(task, labels) >= 2 * SmallestRadius ? labels : makeLabels(task, /*shares=*/false);
+}
+
+void placeCircle(const ChartLayoutTask& task, const std::vector<SideLabel>& labels) {
     const double above = BendDistance + task.lineHeight(ChartTextRole::value);
-    const double diameter = std::min(task.body.width - 2 * aside, task.body.height - 2 * above);
+    const double diameter = std::min(widthBetween(task, labels), task.body.height - 2 * above);
     task.layout.plot = task.body;
     task.layout.pieCentre = task.body.centre();
     task.layout.pieRadius = std::max(diameter / 2, SmallestRadius);
@@ -185,7 +194,7 @@ void layoutPie(const ChartLayoutTask& task) {
         return;
     }
     colourSlices(task);
-    const std::vector<SideLabel> labels = makeLabels(task);
+    const std::vector<SideLabel> labels = makeFittingLabels(task);
     placeCircle(task, labels);
     placeSide(task, labels, /*right=*/true);
     placeSide(task, labels, /*right=*/false);

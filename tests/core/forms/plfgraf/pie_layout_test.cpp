@@ -45,6 +45,14 @@ TEST(PieLayout, LabelsNameTheRowAndItsHours) {
     EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("1  7:30  48 %", "3  8:15  52 %"));
 }
 
+TEST(PieLayout, SharesGiveWayWhereTheyLeaveNoRoomForTheCircle) {
+    const Grafico grafico = asPie(oneSeries({7.5, 0, 8.25}, 9));
+    EXPECT_THAT(textsOf(layoutOf(grafico, {300, 300}), ChartTextRole::value),
+                ElementsAre("1  7:30  48 %", "3  8:15  52 %"));
+    EXPECT_THAT(textsOf(layoutOf(grafico, {220, 300}), ChartTextRole::value),
+                ElementsAre("1  7:30", "3  8:15"));
+}
+
 TEST(PieLayout, ASliceOfSeveralSeriesIsLabelledWithItsSeries) {
     const ChartLayout layout = layoutOf(asPie(twelveSeries(std::vector<double>(12, 50))));
     EXPECT_THAT(layout.slices, SizeIs(12));
