@@ -31,7 +31,7 @@ double luminance(Rgb colour, const Vista& vista) {
 
 double contrasto(Rgb a, Rgb b, const Vista& vista) {
     constexpr double glare = 0.05;
-    const auto [dark, bright] = std::minmax(luminance(a, vista), luminance(b, vista));
+    const auto [dark, bright] = std::minmax({luminance(a, vista), luminance(b, vista)});
     return (bright + glare) / (dark + glare);
 }
 
