@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "painted.h"
 #include "support/contrast.h"
+#include "ui/kit/legible.h"
 #include "window_bench.h"
 
 #include <QApplication>
@@ -8,6 +10,9 @@
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QTextCharFormat>
 
@@ -125,6 +130,50 @@ TEST_P(DesktopContrastTest, TheCalendarFollowsTheDesktopWhileItIsOpen) {
     EXPECT_GE(least(calendar.weekdayTextFormat(Qt::Sunday).foreground().color(),
                     calendar.palette().color(QPalette::Base)),
               TextContrast);
+}
+
+TEST_P(DesktopContrastTest, WhatIsChosenAndWhatCannotBeUsedCanBeRead) {
+    QPalette palette = GetParam().palette;
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, QColor(239, 240, 241));
+    palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::Base));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, palette.color(QPalette::Window));
+    makeLegible(palette);
+    const auto contrast = [&](QPalette::ColorGroup group, QPalette::ColorRole ink,
+                              QPalette::ColorRole ground) {
+        return contrasto(rgbOf(palette.color(group, ink)), rgbOf(palette.color(group, ground)));
+    };
+    EXPECT_GE(contrast(QPalette::Active, QPalette::HighlightedText, QPalette::Highlight), TextContrast);
+    EXPECT_GE(contrast(QPalette::Inactive, QPalette::HighlightedText, QPalette::Highlight), TextContrast);
+    EXPECT_GE(contrast(QPalette::Active, QPalette::PlaceholderText, QPalette::Base), TextContrast);
+    EXPECT_GE(contrast(QPalette::Disabled, QPalette::Text, QPalette::Base), ShapeContrast);
+    EXPECT_GE(contrast(QPalette::Disabled, QPalette::WindowText, QPalette::Window), ShapeContrast);
+}
+
+TEST_P(DesktopContrastTest, ButtonsFieldsAndMarksHaveEdgesThatShow) {
+    QWidget window;
+    QPushButton button(&window);
+    QLineEdit field(&window);
+    QRadioButton mark(&window);
+    int left = 10;
+    for (QWidget* control :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(&field), static_cast<QWidget*>(&mark)}) {
+        control->setGeometry(left, 10, 40, 30);
+        left += 60;
+    }
+    const Painted painted(window);
+    for (const QRect& edge : {QRect(8, 24, 6, 1), QRect(68, 24, 6, 1), QRect(128, 24, 6, 1)}) {
+        EXPECT_TRUE(painted.any(edge, [](QRgb pixel) {
+            return least(QColor(pixel), GetParam().palette.color(QPalette::Window)) >= ShapeContrast - 0.1;
+        })) << edge.x();
+    }
+}
+
+TEST(LegiblePaletteTest, TheProgramsOwnColoursAreMadeLegible) {
+    const QPalette palette = QApplication::palette();
+    EXPECT_GE(
+        contrasto(rgbOf(palette.color(QPalette::HighlightedText)), rgbOf(palette.color(QPalette::Highlight))),
+        TextContrast);
 }
 
 INSTANTIATE_TEST_SUITE_P(
