@@ -10,6 +10,12 @@ namespace planner {
 
 FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent), m_font(font()) {}
 
+void FittedLabel::setLargestLetters(double points) {
+    m_largest = points;
+    fitHeight();
+    update();
+}
+
 FittedText FittedLabel::fitted() const {
     return m_font.fit(text(), contentsRect().width());
 }
@@ -36,7 +42,10 @@ void FittedLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void FittedLabel::fitHeight() {
-    const QFont fitting = fontWithin(font(), contentsRect().height());
+    QFont fitting = fontWithin(font(), contentsRect().height());
+    if (m_largest > 0 && fitting.pointSizeF() > m_largest) {
+        fitting.setPointSizeF(m_largest);
+    }
     if (fitting != m_font.font()) {
         m_font = FittingFont(fitting);
     }

@@ -14,6 +14,8 @@ class FittedLabel : public PlainLabel {
 public:
     explicit FittedLabel(QWidget* parent);
 
+    /// No letters larger than these, in points, for labels that are to have one size; 0 for no such limit.
+    void setLargestLetters(double points);
     /// What is shown of the text at present.
     FittedText fitted() const;
     /// As high as a line; as narrow as there is room for.
@@ -29,6 +31,7 @@ private:
     void fitHeight();
 
     FittingFont m_font;
+    double m_largest = 0;
 };
 
 } // namespace planner

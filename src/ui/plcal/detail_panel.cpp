@@ -8,6 +8,8 @@
 
 #include <QFrame>
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
@@ -54,6 +56,23 @@ void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta,
         coppia.didascalia->setGeometry(qtRect(pixels(caption, scala)));
         coppia.riquadro->setGeometry(qtRect(pixels(number, scala)));
         coppia.numero->setGeometry(coppia.riquadro->rect());
+    }
+    giveOneSize();
+}
+
+/// The captions have the letters of the one that has the least room.
+void DetailPanel::giveOneSize() {
+    double smallest = 0;
+    for (const Coppia& coppia : m_coppie) {
+        const FittedLabel& caption = *coppia.didascalia;
+        if (!caption.isHidden()) {
+            const FittingFont letters(fontWithin(caption.font(), caption.height()));
+            const double points = letters.fit(caption.text(), caption.width()).font.pointSizeF();
+            smallest = smallest == 0 ? points : std::min(smallest, points);
+        }
+    }
+    for (const Coppia& coppia : m_coppie) {
+        coppia.didascalia->setLargestLetters(smallest);
     }
 }
 
