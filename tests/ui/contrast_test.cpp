@@ -11,9 +11,11 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QStyleOption>
 #include <QTextCharFormat>
 
 #include <gtest/gtest.h>
@@ -167,6 +169,21 @@ TEST_P(DesktopContrastTest, ButtonsFieldsAndMarksHaveEdgesThatShow) {
             return least(QColor(pixel), GetParam().palette.color(QPalette::Window)) >= ShapeContrast - 0.1;
         })) << edge.x();
     }
+}
+
+TEST_P(DesktopContrastTest, TheFieldWithTheFocusHasAnEdgeThatShows) {
+    QStyleOptionFrame field;
+    field.rect = {0, 0, 40, 20};
+    field.state = QStyle::State_Enabled | QStyle::State_HasFocus;
+    field.lineWidth = 1;
+    field.palette = GetParam().palette;
+    field.palette.setColor(QPalette::Highlight, GetParam().palette.color(QPalette::Window));
+    const QColor ground = GetParam().palette.color(QPalette::Window);
+    const Painted painted(field.rect.size(), 1, [&](QPainter& painter) {
+        painter.fillRect(field.rect, ground);
+        QApplication::style()->drawPrimitive(QStyle::PE_FrameLineEdit, &field, &painter);
+    });
+    EXPECT_GE(contrasto(rgbOf(QColor(painted.at({0, 10}))), rgbOf(ground)), ShapeContrast);
 }
 
 TEST(LegiblePaletteTest, TheProgramsOwnColoursAreMadeLegible) {

@@ -58,6 +58,11 @@ void strengthenInvitation(QPalette& palette, QPalette::ColorGroup group) {
                      standingOut(ground, palette.color(group, QPalette::Text), {ground}, TextContrast));
 }
 
+QColor lineFrom(const QPalette& palette, QPalette::ColorRole start) {
+    return standingOut(palette.color(start), palette.color(QPalette::WindowText),
+                       {palette.color(QPalette::Window), palette.color(QPalette::Base)}, EdgeContrast);
+}
+
 } // namespace
 
 double contrastOf(const QColor& a, const QColor& b) {
@@ -79,9 +84,11 @@ void makeLegible(QPalette& palette) {
 }
 
 QColor edgeColor(const QPalette& palette) {
-    const QColor window = palette.color(QPalette::Window);
-    return standingOut(window, palette.color(QPalette::WindowText), {window, palette.color(QPalette::Base)},
-                       EdgeContrast);
+    return lineFrom(palette, QPalette::Window);
+}
+
+QColor focusColor(const QPalette& palette) {
+    return lineFrom(palette, QPalette::Highlight);
 }
 
 } // namespace planner

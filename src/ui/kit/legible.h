@@ -18,7 +18,8 @@ double contrastOf(const QColor& a, const QColor& b);
 /// text, and a text that cannot be used, or invites to write, comes nearer to the others.
 void makeLegible(QPalette& palette);
 
-/// A line that stands out from windows and fields.
+/// A line that stands out from windows and fields, and one in the colour of what is chosen that does.
 QColor edgeColor(const QPalette& palette);
+QColor focusColor(const QPalette& palette);
 
 } // namespace planner
