@@ -8,16 +8,27 @@
 
 namespace planner {
 
-FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent), m_font(font()) {}
+FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent) {}
+
+const FittingFont& FittedLabel::fittingFont() const {
+    if (!m_font) {
+        QFont letters = fontWithin(font(), contentsRect().height());
+        if (m_largest > 0 && letters.pointSizeF() > m_largest) {
+            letters.setPointSizeF(m_largest);
+        }
+        m_font.emplace(letters);
+    }
+    return *m_font;
+}
 
 void FittedLabel::setLargestLetters(double points) {
     m_largest = points;
-    fitHeight();
+    m_font.reset();
     update();
 }
 
 FittedText FittedLabel::fitted() const {
-    return m_font.fit(text(), contentsRect().width());
+    return fittingFont().fit(text(), contentsRect().width());
 }
 
 QSize FittedLabel::minimumSizeHint() const {
@@ -32,23 +43,13 @@ bool FittedLabel::event(QEvent* event) {
 void FittedLabel::changeEvent(QEvent* event) {
     PlainLabel::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        fitHeight();
+        m_font.reset();
     }
 }
 
 void FittedLabel::resizeEvent(QResizeEvent* event) {
     PlainLabel::resizeEvent(event);
-    fitHeight();
-}
-
-void FittedLabel::fitHeight() {
-    QFont fitting = fontWithin(font(), contentsRect().height());
-    if (m_largest > 0 && fitting.pointSizeF() > m_largest) {
-        fitting.setPointSizeF(m_largest);
-    }
-    if (fitting != m_font.font()) {
-        m_font = FittingFont(fitting);
-    }
+    m_font.reset();
 }
 
 void FittedLabel::paintEvent(QPaintEvent*) {

@@ -75,7 +75,7 @@ QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
     action->setData(command.position);
     action->setObjectName(command.name);
     action->setIconText(buttonText(caption));
-    action->setToolTip(captionWithKeys(caption, {QKeySequence(fromUtf8(command.keys))}));
+    action->setToolTip(captionWithKeys(caption, qtKeys(command.keys)));
     bar.widgetForAction(action)->setAccessibleName(caption);
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     return action;

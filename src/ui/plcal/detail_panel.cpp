@@ -62,13 +62,13 @@ void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta,
 
 /// The captions have the letters of the one that has the least room.
 void DetailPanel::giveOneSize() {
-    double smallest = 0;
+    const QLabel& first = *m_coppie.front().didascalia;
+    const FittingFont letters(fontWithin(first.font(), first.height())); // each caption has this height
+    double smallest = letters.font().pointSizeF();
     for (const Coppia& coppia : m_coppie) {
-        const FittedLabel& caption = *coppia.didascalia;
-        if (!caption.isHidden()) {
-            const FittingFont letters(fontWithin(caption.font(), caption.height()));
-            const double points = letters.fit(caption.text(), caption.width()).font.pointSizeF();
-            smallest = smallest == 0 ? points : std::min(smallest, points);
+        if (!coppia.didascalia->isHidden()) {
+            const FittedText fitted = letters.fit(coppia.didascalia->text(), coppia.didascalia->width());
+            smallest = std::min(smallest, fitted.font.pointSizeF());
         }
     }
     for (const Coppia& coppia : m_coppie) {
