@@ -227,7 +227,7 @@ void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore
 
 void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
     const auto value = griglia.riepilogo(col);
-    if (!value || griglia.RiepilogoMassimo() <= 0) {
+    if (!value || griglia.riepilogoMassimo() <= 0) {
         return;
     }
     const int width = summaryWidth(rect);
@@ -237,8 +237,8 @@ void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Grigl
     pale.setAlphaF(0.15F);
     painter.fillRect(most, pale);
     if (*value > 0) {
-        const int share = std::min(*value, griglia.RiepilogoMassimo());
-        const int height = std::max(most.height() * share / griglia.RiepilogoMassimo(), 1);
+        const int share = std::min(*value, griglia.riepilogoMassimo());
+        const int height = std::max(most.height() * share / griglia.riepilogoMassimo(), 1);
         painter.fillRect(most.adjusted(0, most.height() - height, 0, 0), qtColor(Colore::riepilogo));
     }
 }
