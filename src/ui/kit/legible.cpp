@@ -66,7 +66,7 @@ QColor lineFrom(const QPalette& palette, QPalette::ColorRole start) {
 } // namespace
 
 double contrastOf(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
