@@ -20,7 +20,7 @@ struct PlannerWindows {
 
     PlcalWindow vista;
     QtCollation alfabeto;
-    std::unique_ptr<PlfcollabWindow> m_vistaCollab;
+    std::unique_ptr<PlfcollabWindow> elenco;
     plfcollab collaboratori;
     plcal finestra;
 };

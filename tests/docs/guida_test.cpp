@@ -6,6 +6,7 @@
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "session/toolbar.h"
+#include "support/compiti.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -26,6 +27,7 @@ std::string guida() {
 std::string italianKeys(std::string keys) {
     for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"},
                                            {"Return", "Invio"},
+                                           {"Space", "Barra spaziatrice"},
                                            {"PgUp", "PagSu"},
                                            {"PgDown", "PagGiù"},
                                            {"Left", "Freccia sinistra"},
@@ -132,6 +134,24 @@ TEST(GuidaTest, NamesEveryGestureAndWhatFollowsIt) {
         const std::string after = mezzo.menu ? "si apre il menu |" : mezzo.consulta ? "consulta |" : "|";
         const std::string row = "| " + std::string(mezzo.nome) + " | " + after + "\n";
         EXPECT_NE(guida().find(row), std::string::npos) << row;
+    }
+}
+
+/// "| task | its keys | their number |".
+std::string rowOf(const test::Compito& compito) {
+    std::string keys;
+    for (const test::Battuta& battuta : compito.battute()) {
+        const std::string key(battuta.tasto);
+        keys += (keys.empty() ? "" : ", ") + (battuta.testo.empty() ? italianKeys(key) : key);
+    }
+    return "| " + std::string(compito.nome) + " | " + keys + " | " + std::to_string(compito.quante()) +
+           " |\n";
+}
+
+TEST(GuidaTest, SaysHowTheTasksOfTheDayAreDoneByKeysAlone) {
+    for (const test::Compito& compito : test::Compiti) {
+        EXPECT_LE(compito.quante(), test::MassimoBattute) << compito.nome;
+        EXPECT_NE(guida().find(rowOf(compito)), std::string::npos) << rowOf(compito);
     }
 }
 

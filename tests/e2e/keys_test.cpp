@@ -40,14 +40,6 @@ protected:
 
 } // namespace
 
-TEST_F(Keys, TheSixtiethOfSixtyIsFoundByName) {
-    showStaff(60);
-    write("ctrl+f", "collab60", "Return");
-    bus.waitFor(planner(), "Impegni di Neri Collab60");
-    finestra().press("Escape");
-    EXPECT_EQ(ospite.answer(), answeredWith("2006031560E", asked));
-}
-
 TEST_F(Keys, ADateIsGoneToAndEscapeClosesTheFieldAlone) {
     showStaff(3);
     write("ctrl+d", "20/8", "Escape");

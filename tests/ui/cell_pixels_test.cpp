@@ -100,6 +100,25 @@ TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
     }
 }
 
+TEST_P(CellPixels, ADayOfOneDigitHasTheLettersOfThoseOfTwo) {
+    const auto inkHeight = [&](const char* day) {
+        griglia.setCaption(1, 3, Ruolo::numeroGiorno, day);
+        const Painted cell = paint(1, 3);
+        double rows = 0;
+        for (int y = 0; y < CellSize.height() - 1; ++y) {
+            rows += cell.any({1, y * 1.0, size.width() - 3.0, 1}, isDark) ? 1 : 0;
+        }
+        return rows;
+    };
+    for (int width = 10; width < 24; ++width) {
+        size.setWidth(width);
+        const double two = inkHeight("88");
+        if (!painter.cut({{0, 0}, size}, griglia, {1, 3})) {
+            EXPECT_EQ(inkHeight("8"), two) << width;
+        }
+    }
+}
+
 TEST_P(CellPixels, EachColourOfACellIsItsGround) {
     const auto expectGround = [&](Colore colore) {
         EXPECT_EQ(griglia.aspetto({FirstRow, 3}).fondo, colore);

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "painted.h"
 #include "support/contrast.h"
+#include "ui/kit/legible.h"
 #include "window_bench.h"
 
 #include <QApplication>
@@ -8,7 +10,12 @@
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
+#include <QStyleOption>
 #include <QTextCharFormat>
 
 #include <gtest/gtest.h>
@@ -125,6 +132,65 @@ TEST_P(DesktopContrastTest, TheCalendarFollowsTheDesktopWhileItIsOpen) {
     EXPECT_GE(least(calendar.weekdayTextFormat(Qt::Sunday).foreground().color(),
                     calendar.palette().color(QPalette::Base)),
               TextContrast);
+}
+
+TEST_P(DesktopContrastTest, WhatIsChosenAndWhatCannotBeUsedCanBeRead) {
+    QPalette palette = GetParam().palette;
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, QColor(239, 240, 241));
+    palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::Base));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, palette.color(QPalette::Window));
+    makeLegible(palette);
+    const auto contrast = [&](QPalette::ColorGroup group, QPalette::ColorRole ink,
+                              QPalette::ColorRole ground) {
+        return contrasto(rgbOf(palette.color(group, ink)), rgbOf(palette.color(group, ground)));
+    };
+    EXPECT_GE(contrast(QPalette::Active, QPalette::HighlightedText, QPalette::Highlight), TextContrast);
+    EXPECT_GE(contrast(QPalette::Inactive, QPalette::HighlightedText, QPalette::Highlight), TextContrast);
+    EXPECT_GE(contrast(QPalette::Active, QPalette::PlaceholderText, QPalette::Base), TextContrast);
+    EXPECT_GE(contrast(QPalette::Disabled, QPalette::Text, QPalette::Base), ShapeContrast);
+    EXPECT_GE(contrast(QPalette::Disabled, QPalette::WindowText, QPalette::Window), ShapeContrast);
+}
+
+TEST_P(DesktopContrastTest, ButtonsFieldsAndMarksHaveEdgesThatShow) {
+    QWidget window;
+    QPushButton button(&window);
+    QLineEdit field(&window);
+    QRadioButton mark(&window);
+    int left = 10;
+    for (QWidget* control :
+         {static_cast<QWidget*>(&button), static_cast<QWidget*>(&field), static_cast<QWidget*>(&mark)}) {
+        control->setGeometry(left, 10, 40, 30);
+        left += 60;
+    }
+    const Painted painted(window);
+    for (const QRect& edge : {QRect(8, 24, 6, 1), QRect(68, 24, 6, 1), QRect(128, 24, 6, 1)}) {
+        EXPECT_TRUE(painted.any(edge, [](QRgb pixel) {
+            return least(QColor(pixel), GetParam().palette.color(QPalette::Window)) >= ShapeContrast - 0.1;
+        })) << edge.x();
+    }
+}
+
+TEST_P(DesktopContrastTest, TheFieldWithTheFocusHasAnEdgeThatShows) {
+    QStyleOptionFrame field;
+    field.rect = {0, 0, 40, 20};
+    field.state = QStyle::State_Enabled | QStyle::State_HasFocus;
+    field.lineWidth = 1;
+    field.palette = GetParam().palette;
+    field.palette.setColor(QPalette::Highlight, GetParam().palette.color(QPalette::Window));
+    const QColor ground = GetParam().palette.color(QPalette::Window);
+    const Painted painted(field.rect.size(), 1, [&](QPainter& painter) {
+        painter.fillRect(field.rect, ground);
+        QApplication::style()->drawPrimitive(QStyle::PE_FrameLineEdit, &field, &painter);
+    });
+    EXPECT_GE(contrasto(rgbOf(QColor(painted.at({0, 10}))), rgbOf(ground)), ShapeContrast);
+}
+
+TEST(LegiblePaletteTest, TheProgramsOwnColoursAreMadeLegible) {
+    const QPalette palette = QApplication::palette();
+    EXPECT_GE(
+        contrasto(rgbOf(palette.color(QPalette::HighlightedText)), rgbOf(palette.color(QPalette::Highlight))),
+        TextContrast);
 }
 
 INSTANTIATE_TEST_SUITE_P(

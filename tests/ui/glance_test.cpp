@@ -57,6 +57,9 @@ TEST_F(GlanceTest, TheMonthsHeaderHasABarForTheDeadlinesOfEachDay) {
     EXPECT_LE(most, days().height());
     EXPECT_NEAR(barHeight(18), most / 2, 1.5);
     EXPECT_EQ(barHeight(19), 0);
+    const Painted header(*days().viewport());
+    const double roomOfNone = days().sectionViewportPosition(18) + days().sectionSize(18) - 5;
+    EXPECT_TRUE(header.all({roomOfNone, 4, 1, 2}, isNot(qtColor(Colore::intestazione).rgb())));
     EXPECT_EQ(bench.griglia().FixedRows(), 2) << "no row more";
 }
 

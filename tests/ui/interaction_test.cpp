@@ -169,15 +169,18 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
                                QStringLiteral("Copia la tabella"),
                                QStringLiteral("Stampa…"),
                                QStringLiteral("Stampa con i totali…"),
+                               QStringLiteral("-"),
                                QStringLiteral("Ingrandisci"),
                                QStringLiteral("Riduci"),
                                QStringLiteral("Grandezza normale"),
+                               QStringLiteral("-"),
                                QStringLiteral("Cerca collaboratore…"),
                                QStringLiteral("Cerca ancora"),
                                QStringLiteral("Vai alla data…"),
                                QStringLiteral("Vai a oggi"),
-                               QStringLiteral("Guida"),
-                               QStringLiteral("Salta a")};
+                               QStringLiteral("Salta a"),
+                               QStringLiteral("-"),
+                               QStringLiteral("Guida")};
     EXPECT_EQ(offered, expected);
 }
 

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/design.h"
 #include "measures.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/screen_scale.h"
+#include "ui/kit/text.h"
 #include "ui/plcal/grid_corner.h"
 #include "window_bench.h"
 
@@ -16,6 +18,7 @@
 
 #include <gtest/gtest.h>
 #include <ostream>
+#include <set>
 
 namespace planner::test {
 
@@ -111,6 +114,20 @@ TEST_P(RoomTest, EveryLabelShowsItsWholeText) {
             EXPECT_LE(lineHeight(fitted.font), label->contentsRect().height()) << describe(*label);
         }
     }
+}
+
+TEST_P(RoomTest, TheCaptionsOfTheTotalsHaveLettersOfOneSize) {
+    std::set<double> sizes;
+    for (const FittedLabel* label : bench.vista.findChildren<FittedLabel*>()) {
+        const bool caption = std::any_of(EtichetteTotali.begin(), EtichetteTotali.end(),
+                                         [&](const EtichettaTotale& etichetta) {
+                                             return label->text() == fromUtf8(etichetta.didascalia);
+                                         });
+        if (caption && label->isVisible()) {
+            sizes.insert(label->fitted().font.pointSizeF());
+        }
+    }
+    EXPECT_EQ(sizes.size(), 1U);
 }
 
 TEST_P(RoomTest, EveryTotalHasRoomForFiveDigits) {

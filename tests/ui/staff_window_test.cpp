@@ -105,6 +105,18 @@ TEST_F(StaffWindowTest, TheSpaceBarWithoutACurrentRowDoesNothing) {
     EXPECT_EQ(bench.lista().spuntate(), 0);
 }
 
+TEST_F(StaffWindowTest, LettersGoToTheNameOrTheCodeThatBeginsWithThem) {
+    bench.open();
+    QTest::keyClicks(&bench.list(), QStringLiteral("ver"));
+    EXPECT_EQ(bench.lista().selezionata(), 2);
+    bench.list().keyboardSearch({}); // what is typed from here on is another text
+    QTest::keyClicks(&bench.list(), QStringLiteral("rb"));
+    EXPECT_EQ(bench.lista().selezionata(), 1);
+    QTest::keyClicks(&bench.list(), QStringLiteral("zz"));
+    EXPECT_EQ(bench.lista().selezionata(), 1);
+    EXPECT_EQ(bench.lista().spuntate(), 0);
+}
+
 TEST_F(StaffWindowTest, EnterConfirmsTheSelectedRow) {
     bench.open();
     bench.click(1, 1);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "painted.h"
 #include "ui/plcal/cell_painter.h"
 #include "window_bench.h"
 
@@ -126,6 +127,19 @@ TEST_F(ZoomTest, NoRowIsLowerThanTheLettersOfItsName) {
     CellPainter painter(1);
     painter.setFactors(1, 1, 0.4F);
     EXPECT_EQ(rowHeight(), painter.lowestRow());
+}
+
+TEST_F(ZoomTest, ANameKeepsItsLettersAsLongAsItsRowHasRoomForThem) {
+    bench.open("M");
+    const auto ink = [this] {
+        const int row = 3;
+        const QRectF place(0, names().sectionViewportPosition(row), names().width(), rowHeight() - 1.0);
+        return Painted(*names().viewport()).amount(place, isDark);
+    };
+    const double whole = ink();
+    EXPECT_GT(whole, 0);
+    shrinkTo(50);
+    EXPECT_EQ(ink(), whole);
 }
 
 TEST_F(ZoomTest, TheCurrentCellStaysInSight) {

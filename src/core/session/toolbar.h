@@ -70,23 +70,27 @@ struct DescrizioneComandoGriglia {
     std::string_view nome;
     std::string_view didascalia;  // Italian
     std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
+    bool primoDelGruppo = false;  // a line stands before it in the menu
 };
 
-/// By command; the grids' menu has them below the buttons', in this order.
+/// By command; the grids' menu has them below the buttons', in this order, and the jumps before the last
+/// group.
 inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::copia, "copia", "Copia la tabella", "Ctrl+C"},
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
-    DescrizioneComandoGriglia{ComandoGriglia::ingrandisci, "ingrandisci", "Ingrandisci", "Ctrl++; Ctrl+="},
+    DescrizioneComandoGriglia{ComandoGriglia::ingrandisci, "ingrandisci", "Ingrandisci",
+                              "Ctrl++; Ctrl+=", true},
     DescrizioneComandoGriglia{ComandoGriglia::riduci, "riduci", "Riduci", "Ctrl+-"},
     DescrizioneComandoGriglia{ComandoGriglia::grandezzaNormale, "grandezzaNormale", "Grandezza normale",
                               "Ctrl+0"},
-    DescrizioneComandoGriglia{ComandoGriglia::cerca, "cercaCollaboratore", "Cerca collaboratore…", "Ctrl+F"},
+    DescrizioneComandoGriglia{ComandoGriglia::cerca, "cercaCollaboratore", "Cerca collaboratore…", "Ctrl+F",
+                              true},
     DescrizioneComandoGriglia{ComandoGriglia::cercaAncora, "cercaAncora", "Cerca ancora", "F3"},
     DescrizioneComandoGriglia{ComandoGriglia::vaiAData, "vaiAData", "Vai alla data…", "Ctrl+D"},
     DescrizioneComandoGriglia{ComandoGriglia::vaiAOggi, "vaiAOggi", "Vai a oggi", "Ctrl+T"},
-    DescrizioneComandoGriglia{ComandoGriglia::guida, "guida", "Guida", "F1"},
+    DescrizioneComandoGriglia{ComandoGriglia::guida, "guida", "Guida", "F1", true},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

@@ -5,6 +5,7 @@
 #include "session/tipi_impegno.h"
 #include "ui/guida/folded_search.h"
 #include "ui/kit/appearance.h"
+#include "ui/kit/legible.h"
 #include "ui/kit/text.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -113,7 +114,7 @@ void GuidaView::formatTables() {
             QTextTableFormat format = table->format();
             format.setBorder(1);
             format.setBorderCollapse(true);
-            format.setBorderBrush(palette().mid());
+            format.setBorderBrush(edgeColor(palette()));
             format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
             format.setCellPadding(CellPadding);
             table->setFormat(format);

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
@@ -22,6 +23,13 @@ namespace {
 
 constexpr int ChaptersShare = 1;
 constexpr int TextShare = 3;
+constexpr int Indent = 9; // pixels, of each level of chapters
+
+QPixmap emptyPicture(int width) {
+    QPixmap picture(width, 1);
+    picture.fill(Qt::transparent);
+    return picture;
+}
 
 } // namespace
 
@@ -63,7 +71,10 @@ void GuidaWindow::layOut() {
 void GuidaWindow::listHeadings() {
     m_headings = m_text->headings();
     for (const GuidaView::Heading& heading : m_headings) {
-        m_chapters->addItem(QString(qsizetype{3} * (heading.level - 1), QLatin1Char(' ')) + heading.text);
+        auto* chapter = new QListWidgetItem(heading.text, m_chapters);
+        if (heading.level > 1) { // a long one's further lines stand under its first
+            chapter->setData(Qt::DecorationRole, emptyPicture(Indent * (heading.level - 1)));
+        }
     }
     connect(m_chapters, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {

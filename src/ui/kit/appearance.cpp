@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/appearance.h"
 
+#include "ui/kit/planner_style.h"
 #include "ui/kit/text.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QProxyStyle>
 #include <QTranslator>
 
 #include <algorithm>
@@ -24,20 +24,6 @@ namespace {
 
 constexpr double SmallestLegible = 7; // points
 constexpr const char* DesktopPoints = "desktopPoints";
-
-/// Buttons of message boxes and dialogs bear words alone, as those of the program's own windows: the
-/// toolkit's pictures for them are dark on dark desktops.
-class PlannerStyle : public QProxyStyle {
-public:
-    PlannerStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
 
 /// What stands for the design-time fonts where they are not installed.
 QFont fontNamed(std::string_view family) {

@@ -12,9 +12,19 @@ FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent) {}
 
 const FittingFont& FittedLabel::fittingFont() const {
     if (!m_font) {
-        m_font.emplace(fontWithin(font(), contentsRect().height()));
+        QFont letters = fontWithin(font(), contentsRect().height());
+        if (m_largest > 0 && letters.pointSizeF() > m_largest) {
+            letters.setPointSizeF(m_largest);
+        }
+        m_font.emplace(letters);
     }
     return *m_font;
+}
+
+void FittedLabel::setLargestLetters(double points) {
+    m_largest = points;
+    m_font.reset();
+    update();
 }
 
 FittedText FittedLabel::fitted() const {

@@ -16,6 +16,8 @@ class FittedLabel : public PlainLabel {
 public:
     explicit FittedLabel(QWidget* parent);
 
+    /// No letters larger than these, in points, for labels that are to have one size; 0 for no such limit.
+    void setLargestLetters(double points);
     /// What is shown of the text at present.
     FittedText fitted() const;
     /// As high as a line; as narrow as there is room for.
@@ -31,6 +33,7 @@ private:
     const FittingFont& fittingFont() const;
 
     mutable std::optional<FittingFont> m_font; // made when it is asked for: most labels are out of sight
+    double m_largest = 0;
 };
 
 } // namespace planner

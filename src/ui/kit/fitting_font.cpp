@@ -23,14 +23,18 @@ QFont shrunk(QFont font, double factor) {
 } // namespace
 
 FittingFont::FittingFont(const QFont& font) {
-    m_letters.reserve(3);
+    m_letters.reserve(5);
     m_letters.emplace_back(font);
     m_letters.emplace_back(shrunk(font, Shrinking));
     if (desktopFontFactor() > 1) {
         constexpr double smallestLegible = 7; // points
+        constexpr int steps = 3;
         const double usual = Shrinking / desktopFontFactor();
         const double least = font.pointSizeF() > 0 ? smallestLegible / font.pointSizeF() : 0;
-        m_letters.emplace_back(shrunk(font, std::min(std::max(usual, least), Shrinking)));
+        const double last = std::min(std::max(usual, least), Shrinking);
+        for (int step = 1; step <= steps; ++step) {
+            m_letters.emplace_back(shrunk(font, Shrinking + (last - Shrinking) * step / steps));
+        }
     }
 }
 

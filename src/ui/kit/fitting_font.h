@@ -18,8 +18,8 @@ struct FittedText {
 };
 
 /// A font whose texts fit their places: one that is too long shrinks to nine tenths, then is elided at its
-/// end. Where the desktop has larger letters than usual, it shrinks to nine tenths of the usual ones in
-/// between.
+/// end. Where the desktop has larger letters than usual, it shrinks by steps to nine tenths of the usual ones
+/// in between.
 class FittingFont {
 public:
     static constexpr double Shrinking = 0.9;

@@ -59,6 +59,11 @@ bool centred(const Cella& cella) {
     return stile(cella).allineamento == Allineamento::centro;
 }
 
+/// What a text's letters are chosen for: the days of one digit have those of two, which stand beside them.
+QString measured(const QString& text) {
+    return text.size() == 1 && text.front().isDigit() ? QStringLiteral("00") : text;
+}
+
 } // namespace
 
 CellPainter::CellPainter(double fontFactor) {
@@ -68,15 +73,21 @@ CellPainter::CellPainter(double fontFactor) {
 void CellPainter::setFactors(double fontFactor, float header, float rows) {
     constexpr float largestPicture = 64; // pixels, as designed
     for (std::size_t i = 0; i < Caratteri.size(); ++i) {
-        m_headerFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * header));
-        m_rowFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * rows));
+        const auto sized = [&](float factor) {
+            return FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * factor));
+        };
+        m_headerFonts[i] = sized(header);
+        m_rowFonts[i] = sized(std::max(rows, 1.0F));
+        m_lowRowFonts[i] = sized(rows);
     }
+    m_highEnough =
+        QFontMetrics(m_rowFonts.at(static_cast<std::size_t>(Carattere::grassetto)).font()).height();
     m_largestPicture = qRound(largestPicture * std::max(rows, 1.0F));
 }
 
 int CellPainter::lowestRow() const {
     constexpr int line = 1;
-    const QFontMetricsF metrics(m_rowFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
+    const QFontMetricsF metrics(m_lowRowFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
     return static_cast<int>(std::ceil(metrics.capHeight() + metrics.descent())) + line;
 }
 
@@ -89,8 +100,10 @@ int CellPainter::pictureSide(const QRect& rect) const {
     return std::min({rect.width() - 3, rect.height() - 2, m_largestPicture});
 }
 
-const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella) const {
-    const Fonts& fonts = casella.riga < griglia.FixedRows() ? m_headerFonts : m_rowFonts;
+const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella, int height) const {
+    const Fonts& fonts = casella.riga < griglia.FixedRows() ? m_headerFonts
+                         : height < m_highEnough            ? m_lowRowFonts
+                                                            : m_rowFonts;
     return fonts.at(static_cast<std::size_t>(griglia.aspetto(casella).carattere));
 }
 
@@ -142,15 +155,17 @@ QRect CellPainter::textPlace(const QRect& rect, const Griglia& griglia, Casella 
     QRect place = textPlace(rect, griglia.cella(casella), keptFree);
     if (casella.riga < griglia.FixedRows() && griglia.riepilogo(casella.colonna)) {
         const int taken = SummaryMargin + summaryWidth(rect) + 1;
-        const QFontMetrics letters(font(griglia, casella).font());
-        const int text = letters.horizontalAdvance(fromCp1252(griglia.TextMatrix(casella)));
+        const QFontMetrics letters(font(griglia, casella, rect.height()).font());
+        const int text = letters.horizontalAdvance(measured(fromCp1252(griglia.TextMatrix(casella))));
         place.setRight(rect.right() - (text > rect.width() - 2 * taken ? taken : 1));
     }
     return place;
 }
 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
-    return font(griglia, casella).fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
+    const QString text = fromCp1252(griglia.TextMatrix(casella));
+    FittedText fitted = font(griglia, casella, place.height()).fit(measured(text), place.width());
+    return text == measured(text) ? fitted : FittedText{fitted.font, text, fitted.cut};
 }
 
 bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
@@ -211,17 +226,21 @@ void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore
 }
 
 void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
-    const int value = griglia.riepilogo(col).value_or(0);
-    if (value <= 0 || griglia.RiepilogoMassimo() <= 0) {
+    const auto value = griglia.riepilogo(col);
+    if (!value || griglia.riepilogoMassimo() <= 0) {
         return;
     }
-    const int room = rect.height() - 2 * SummaryMargin;
-    const int height =
-        std::max(room * std::min(value, griglia.RiepilogoMassimo()) / griglia.RiepilogoMassimo(), 1);
     const int width = summaryWidth(rect);
-    painter.fillRect(QRect(rect.right() + 1 - SummaryMargin - width,
-                           rect.bottom() + 1 - SummaryMargin - height, width, height),
-                     qtColor(Colore::riepilogo));
+    const QRect most(rect.right() + 1 - SummaryMargin - width, rect.top() + SummaryMargin, width,
+                     rect.height() - 2 * SummaryMargin);
+    QColor pale = qtColor(Colore::riepilogo); // where nothing tells it from a point, the bar shows its room
+    pale.setAlphaF(0.15F);
+    painter.fillRect(most, pale);
+    if (*value > 0) {
+        const int share = std::min(*value, griglia.riepilogoMassimo());
+        const int height = std::max(most.height() * share / griglia.riepilogoMassimo(), 1);
+        painter.fillRect(most.adjusted(0, most.height() - height, 0, 0), qtColor(Colore::riepilogo));
+    }
 }
 
 void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {

@@ -32,8 +32,8 @@ public:
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
-    /// The bar of a column in the header, at the right of its texts; `rect` is the whole height of the
-    /// header.
+    /// The bar of a column in the header, at the right of its texts, and the room for the longest; `rect` is
+    /// the whole height of the header.
     static void paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col);
     /// A line along the inside of the place's edges.
     static void paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness);
@@ -47,7 +47,7 @@ private:
     /// The same for any cell: in the header a text too long to stand in the middle keeps clear of the
     /// column's bar.
     QRect textPlace(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const;
-    const FittingFont& font(const Griglia& griglia, Casella casella) const;
+    const FittingFont& font(const Griglia& griglia, Casella casella, int height) const;
     int pictureSide(const QRect& rect) const;
     FittedText fittedText(const QRect& place, const Griglia& griglia, Casella casella) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
@@ -61,7 +61,9 @@ private:
     using Fonts = std::array<FittingFont, Caratteri.size()>;
 
     Fonts m_headerFonts;
-    Fonts m_rowFonts;
+    Fonts m_rowFonts;    // as large as designed, where a row is high enough for them
+    Fonts m_lowRowFonts; // as much smaller as the rows are lower
+    int m_highEnough = 0;
     int m_largestPicture = 0;
     Pictures m_pictures;
 };

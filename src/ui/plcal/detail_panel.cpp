@@ -8,6 +8,8 @@
 
 #include <QFrame>
 
+#include <algorithm>
+
 namespace planner {
 
 namespace {
@@ -54,6 +56,23 @@ void DetailPanel::arrange(std::optional<TipoPlanner> tipo, bool varianteRidotta,
         coppia.didascalia->setGeometry(qtRect(pixels(caption, scala)));
         coppia.riquadro->setGeometry(qtRect(pixels(number, scala)));
         coppia.numero->setGeometry(coppia.riquadro->rect());
+    }
+    giveOneSize();
+}
+
+/// The captions have the letters of the one that has the least room.
+void DetailPanel::giveOneSize() {
+    const QLabel& first = *m_coppie.front().didascalia;
+    const FittingFont letters(fontWithin(first.font(), first.height())); // each caption has this height
+    double smallest = letters.font().pointSizeF();
+    for (const Coppia& coppia : m_coppie) {
+        if (!coppia.didascalia->isHidden()) {
+            const FittedText fitted = letters.fit(coppia.didascalia->text(), coppia.didascalia->width());
+            smallest = std::min(smallest, fitted.font.pointSizeF());
+        }
+    }
+    for (const Coppia& coppia : m_coppie) {
+        coppia.didascalia->setLargestLetters(smallest);
     }
 }
 

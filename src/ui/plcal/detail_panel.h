@@ -13,6 +13,7 @@ class QWidget;
 
 namespace planner {
 
+class FittedLabel;
 enum class TipoPlanner : char;
 struct PannelloDettagli;
 struct Scala;
@@ -30,8 +31,10 @@ public:
     void show(const PannelloDettagli& contents);
 
 private:
+    void giveOneSize();
+
     struct Coppia {
-        QLabel* didascalia;
+        FittedLabel* didascalia;
         QFrame* riquadro; // stays in sight when there is no number to show
         QLabel* numero;
     };

@@ -154,11 +154,14 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
             menu->addAction(action);
         }
     }
-    menu->addSeparator();
-    for (QAction* action : m_comandiGriglia) {
-        menu->addAction(action);
+    QAction* line = menu->addSeparator();
+    for (std::size_t i = 0; i < m_comandiGriglia.size(); ++i) {
+        line = ComandiGriglia.at(i).primoDelGruppo ? menu->addSeparator() : line;
+        menu->addAction(m_comandiGriglia[i]);
     }
-    menu->addMenu(QStringLiteral("Salta a"))->addActions(visibleGrid()->actions());
+    auto* jumps = new QMenu(QStringLiteral("Salta a"), menu);
+    jumps->addActions(visibleGrid()->actions());
+    menu->insertMenu(line, jumps);
     menu->popup(globalPosition);
 }
 

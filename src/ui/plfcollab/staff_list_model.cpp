@@ -121,4 +121,18 @@ Qt::ItemFlags StaffListModel::flags(const QModelIndex& index) const {
     return index.column() == Codice ? plain | Qt::ItemIsUserCheckable : plain;
 }
 
+QModelIndexList StaffListModel::match(const QModelIndex& start, int role, const QVariant& value, int /*hits*/,
+                                      Qt::MatchFlags /*flags*/) const {
+    const auto begins = [&](int row, int column) {
+        return index(row, column).data(role).toString().startsWith(value.toString(), Qt::CaseInsensitive);
+    };
+    for (int step = 0; start.isValid() && step < m_rows; ++step) {
+        const int row = (start.row() + step) % m_rows;
+        if (begins(row, Nome) || begins(row, Codice)) {
+            return {index(row, start.column())};
+        }
+    }
+    return {};
+}
+
 } // namespace planner

@@ -30,6 +30,10 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// The first row, from `start` on and round the end, whose name or code begins with the text, in whatever
+    /// letter case: where the user goes who types in the list. Of the last two arguments nothing matters.
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override;
 
 Q_SIGNALS:
     void checkRequested(int riga, bool spuntata);

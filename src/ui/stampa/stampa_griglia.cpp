@@ -59,7 +59,7 @@ void setUpPages(QPagedPaintDevice& device, const Carta& carta) {
 }
 
 QString documentName(const DocumentoStampa& documento) {
-    return fromUtf8(titoloStampa(documento.controlli));
+    return fromUtf8(nomeStampa(documento.controlli));
 }
 
 bool printPages(QPainter& painter, QPagedPaintDevice& device, const DocumentoStampa& documento) {

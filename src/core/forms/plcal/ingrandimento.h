@@ -15,7 +15,7 @@ namespace planner {
 class Ingrandimento {
 public:
     /// The steps, in ascending order.
-    static constexpr std::array Gradi{0.4F, 0.45F, 0.5F,  0.6F, 0.7F, 0.8F, 0.9F,
+    static constexpr std::array Gradi{0.4F, 0.45F, 0.5F,  0.6F, 0.7F,  0.8F, 0.9F,
                                       1.0F, 1.1F,  1.25F, 1.5F, 1.75F, 2.0F};
 
     /// Of the rows, and of what stands in them.

@@ -32,7 +32,7 @@ std::string meseMostrato(const Calendario& calendario) {
 std::string intestazioneMensile(const Collaboratore& collaboratore, const Calendario& calendario) {
     const std::string name(collaboratore.nome.trimmed());
     const std::string code(collaboratore.codice.trimmed());
-    const std::string chi = !name.empty() ? "di " + name : !code.empty() ? "di " + code : "senza nome";
+    const std::string chi = !name.empty() ? "di " + name : !code.empty() ? "di " + code : "non assegnate";
     return "Ore " + chi + " - " + meseMostrato(calendario);
 }
 

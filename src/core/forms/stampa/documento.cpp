@@ -66,6 +66,13 @@ std::string sottotitoloStampa(const ControlliPlcal& controlli) {
                                                     : visibleFromCp1252(controlli.Caption);
 }
 
+std::string nomeStampa(const ControlliPlcal& controlli) {
+    std::string nome =
+        regole(*controlli.tipoVisibile).unGiorno ? sottotitoloStampa(controlli) : titoloStampa(controlli);
+    std::replace(nome.begin(), nome.end(), '/', '-');
+    return nome;
+}
+
 std::vector<int> righeStampate(const ControlliPlcal& controlli) {
     const Griglia& griglia = *controlli.grigliaVisibile();
     std::vector<int> righe;

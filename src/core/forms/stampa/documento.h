@@ -35,6 +35,9 @@ struct DocumentoStampa {
 std::string titoloStampa(const ControlliPlcal& controlli);
 std::string sottotitoloStampa(const ControlliPlcal& controlli);
 
+/// Which of both says what is printed, as a file's name: the day, else the title. UTF-8.
+std::string nomeStampa(const ControlliPlcal& controlli);
+
 /// The data rows of the visible grid that hold something: a name or an entry.
 std::vector<int> righeStampate(const ControlliPlcal& controlli);
 

@@ -257,7 +257,7 @@ TEST_F(MonthlyChart, ItsHeadingSaysWhoseHoursOfWhichMonth) {
     form.VisualizzaGraficoMensile({0});
     EXPECT_EQ(form.MSChartm().intestazione, "Ore di " + std::string(50, 'W') + " - febbraio 2004");
     form.VisualizzaGraficoMensile({2});
-    EXPECT_EQ(form.MSChartm().intestazione, "Ore senza nome - febbraio 2004");
+    EXPECT_EQ(form.MSChartm().intestazione, "Ore non assegnate - febbraio 2004");
 }
 
 TEST_F(MonthlyChart, AnErrorNamesFileRecordAndDay) {

@@ -213,6 +213,15 @@ TEST_F(ImpaginazioneTest, TheTitleIsTheWindowsAndADaysPageNamesTheDay) {
     EXPECT_EQ(sottotitoloStampa(bench.controlli), "mercoledì 15 marzo 2006");
 }
 
+TEST_F(ImpaginazioneTest, AFileIsNamedByTheMonthOrTheDay) {
+    bench.init("M", "20060315");
+    EXPECT_EQ(nomeStampa(bench.controlli), "Mese di Marzo 2006");
+    bench.controlli.lbldescr = "Studio A/B";
+    EXPECT_EQ(nomeStampa(bench.controlli), "Studio A-B");
+    bench.init("G", "20060315");
+    EXPECT_EQ(nomeStampa(bench.controlli), "mercoledì 15 marzo 2006");
+}
+
 TEST_F(ImpaginazioneTest, DaysOffAreToldApartInTheMonthAndInTheYear) {
     bench.init("M", "20060415");
     EXPECT_EQ(giornoStampato(bench.controlli, {2, 5}), GiornoStampa::nessuno) << "before the first";
