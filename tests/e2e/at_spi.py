@@ -29,7 +29,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PAUSE = 0.05  # seconds between two looks: what comes late gives no event
-TABLES = (Atspi.Role.TABLE, Atspi.Role.TREE_TABLE, Atspi.Role.TREE, Atspi.Role.LIST)
+TABLES = (Atspi.Role.TABLE, Atspi.Role.LAYERED_PANE, Atspi.Role.LIST)
 
 
 def application(pid):
@@ -94,10 +94,15 @@ def where(program, wanted):
     return None if node is None else place(node)
 
 
+def said(node):
+    """An item of a grid is called what it holds; whose and of which day it is says its description."""
+    return (node.get_description(), node.get_name())
+
+
 def cell(program, wanted):
     table = table_iface(program, wanted)
     found = None if table is None else table.get_accessible_at(wanted.row, wanted.column)
-    return place(found) if found is not None and found.get_name() == wanted.name else None
+    return place(found) if found is not None and wanted.name in said(found) else None
 
 
 def everything(program, _):
@@ -160,7 +165,7 @@ def walk(program, _):
 def hear(program, wanted):
     def got_focus(event, *_):
         if event.detail1 and event.source.get_process_id() == wanted.pid:
-            print(event.source.get_name(), flush=True)
+            print(next(filter(None, said(event.source)), ""), flush=True)
 
     listener = Atspi.EventListener.new(got_focus)
     listener.register("object:state-changed:focused")

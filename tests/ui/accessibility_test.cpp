@@ -4,6 +4,7 @@
 #include "window_bench.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QToolBar>
 #include <QToolButton>
@@ -20,6 +21,12 @@ struct AccessibilityTest : testing::Test {
     AccessibilityTest() {
         bench.base.putRighe({riga("RB", "20060315", {{1, "00003"}, {8, "00001"}}), RigaPlanner{},
                              RigaPlanner{}, RigaPlanner{}});
+    }
+    QAccessibleTableInterface& table() {
+        return *QAccessible::queryAccessibleInterface(&bench.view())->tableInterface();
+    }
+    std::string said(int row, int column, QAccessible::Text what) {
+        return table().cellAt(row, column)->text(what).toStdString();
     }
     static QString nameOf(QObject& object) {
         return QAccessible::queryAccessibleInterface(&object)->text(QAccessible::Name);
@@ -54,11 +61,43 @@ TEST_F(AccessibilityTest, ATotalIsItsCaptionAndNumber) {
     EXPECT_EQ(nameOf(bench.widget("lblpers")), QStringLiteral("Impegni vari: 1"));
 }
 
-TEST_F(AccessibilityTest, ADayCellIsOneSentence) {
+TEST_F(AccessibilityTest, ACellIsCalledWhatItHoldsAndDescribedByOneSentence) {
     bench.open("M");
-    const QModelIndex cell = bench.view().model()->index(1, 16);
-    EXPECT_EQ(cell.data(Qt::AccessibleTextRole).toString(),
-              QStringLiteral("Rossi Bruno, mercoledì 15 marzo 2006: scadenze, impegni vari"));
+    EXPECT_EQ(said(1, 16, QAccessible::Name), "scadenze, impegni vari");
+    EXPECT_EQ(said(1, 16, QAccessible::Description),
+              "Rossi Bruno, mercoledì 15 marzo 2006: 3 scadenze, 1 impegno vario");
+    EXPECT_EQ(said(1, 17, QAccessible::Name), "nessun impegno");
+    EXPECT_EQ(said(1, 17, QAccessible::Description), "Rossi Bruno, giovedì 16 marzo 2006");
+}
+
+TEST_F(AccessibilityTest, TheHeadersOfACellAreItsPersonAndItsWholeDate) {
+    bench.open("M", "20061215");
+    QAccessibleTableCellInterface* cell = table().cellAt(1, 11)->tableCellInterface();
+    ASSERT_EQ(cell->rowHeaderCells().size(), 1);
+    ASSERT_EQ(cell->columnHeaderCells().size(), 1);
+    EXPECT_EQ(cell->rowHeaderCells()[0]->text(QAccessible::Name), QStringLiteral("Rossi Bruno"));
+    EXPECT_EQ(cell->columnHeaderCells()[0]->text(QAccessible::Name),
+              QStringLiteral("venerdì 8 dicembre 2006, Immacolata Concezione"));
+    EXPECT_EQ(table().rowDescription(1), QStringLiteral("Rossi Bruno"));
+    EXPECT_EQ(table().columnDescription(4), QStringLiteral("venerdì 1 dicembre 2006"));
+}
+
+TEST_F(AccessibilityTest, ItemsAreWhereTheGridShowsThemAndTheOneUnderTheCursorHasTheFocus) {
+    bench.open("M");
+    QApplication::setActiveWindow(&bench.vista);
+    bench.view().setFocus();
+    QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(&bench.view());
+    const QModelIndex current = bench.view().currentIndex();
+    QAccessibleInterface* cell = grid->tableInterface()->cellAt(current.row(), current.column());
+    EXPECT_EQ(grid->focusChild(), cell);
+    EXPECT_TRUE(cell->state().focused);
+    EXPECT_FALSE(grid->tableInterface()->cellAt(current.row(), current.column() + 1)->state().focused);
+    EXPECT_EQ(grid->child(grid->indexOfChild(cell)), cell);
+    const QPoint centre = cell->rect().center();
+    EXPECT_EQ(grid->childAt(centre.x(), centre.y()), cell);
+    EXPECT_FALSE(cell->state().offscreen);
+    QAccessibleInterface* last = grid->tableInterface()->cellAt(grid->tableInterface()->rowCount() - 1, 0);
+    EXPECT_TRUE(last->state().offscreen);
 }
 
 TEST_F(AccessibilityTest, EverythingThatTakesTheFocusHasAName) {

@@ -5,6 +5,7 @@
 #include "engine/kinds/kind.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/view_accessible.h"
 #include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/grid_corner.h"
 #include "ui/plcal/grid_header.h"
@@ -29,13 +30,14 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 
 } // namespace
 
-GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-                   std::function<std::string(Casella)> frase, QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, std::move(frase), this)),
+GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, const VociGriglia& voci,
+                   QWidget* parent)
+    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, voci, this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(
           new GridCorner(griglia, tipo, painter, parent)) { // in a table a screen reader finds only cells
+    installViewAccessible<GridView>();
     setHorizontalHeader(m_columns);
     setVerticalHeader(m_names);
     setModel(m_model);

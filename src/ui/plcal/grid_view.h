@@ -15,14 +15,15 @@ class CellPainter;
 class GridCorner;
 class GridHeader;
 class GridModel;
+struct VociGriglia;
 
 /// One of the planner's grids on the screen: header rows and names stay in sight, the rest scrolls.
 class GridView : public QTableView {
     Q_OBJECT
 public:
-    /// `frase` gives a sentence on a cell.
-    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-             std::function<std::string(Casella)> frase, QWidget* parent);
+    /// `voci` give what is said of a place.
+    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, const VociGriglia& voci,
+             QWidget* parent);
 
     const Griglia& griglia() const;
 

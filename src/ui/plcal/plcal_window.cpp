@@ -10,6 +10,7 @@
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
 #include "ui/plcal/detail_panel.h"
+#include "ui/plcal/grid_model.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
 #include "ui/plcal/shown_calendar.h"
@@ -44,11 +45,10 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
 }
 
 GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
-    const auto frase = [this, tipo](Casella casella) {
-        return casella.colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, casella.riga)
-                                                      : fraseCella(m_controlli, m_sessione, tipo, casella);
-    };
-    auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
+    const VociGriglia voci{
+        [this, tipo](Casella casella) { return nomeCasella(m_controlli, m_sessione, tipo, casella); },
+        [this, tipo](Casella casella) { return fraseCella(m_controlli, m_sessione, tipo, casella); }};
+    auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, voci, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
     return grid;
