@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "ui/kit/text.h"
+#include "ui/kit/told_events.h"
 #include "window_bench.h"
 
 #include <QAccessible>
@@ -10,10 +11,45 @@
 #include <QToolButton>
 
 #include <gtest/gtest.h>
+#include <map>
 
 namespace planner::test {
 
 namespace {
+
+/// What assistive programs are told, as long as it lives.
+class Recorder {
+public:
+    Recorder() : m_before(QAccessible::installUpdateHandler(note)) {
+        heard() = {};
+        QAccessible::setActive(true);
+    }
+    ~Recorder() {
+        QAccessible::installUpdateHandler(m_before);
+        QAccessible::setActive(false);
+    }
+    Recorder(const Recorder&) = delete;
+    Recorder& operator=(const Recorder&) = delete;
+
+    std::vector<std::string> focused() const { return heard()[QAccessible::Focus]; }
+    std::vector<std::string> shown() const { return heard()[QAccessible::ObjectShow]; }
+    int names() const { return static_cast<int>(heard()[QAccessible::NameChanged].size()); }
+
+private:
+    using Heard = std::map<int, std::vector<std::string>>;
+    static Heard& heard() {
+        static Heard all;
+        return all;
+    }
+    static void note(QAccessibleEvent* event) {
+        QAccessibleInterface* told = event->accessibleInterface();
+        if (told != nullptr && isPerceived(*event)) {
+            heard()[event->type()].push_back(told->text(QAccessible::Name).toStdString());
+        }
+    }
+
+    QAccessible::UpdateHandler m_before;
+};
 
 struct AccessibilityTest : testing::Test {
     WindowBench bench;
@@ -98,6 +134,38 @@ TEST_F(AccessibilityTest, ItemsAreWhereTheGridShowsThemAndTheOneUnderTheCursorHa
     EXPECT_FALSE(cell->state().offscreen);
     QAccessibleInterface* last = grid->tableInterface()->cellAt(grid->tableInterface()->rowCount() - 1, 0);
     EXPECT_TRUE(last->state().offscreen);
+}
+
+TEST_F(AccessibilityTest, AKeyTellsOfTheCellAndOfWhatChangesInSight) {
+    bench.open("M");
+    QApplication::setActiveWindow(&bench.vista);
+    bench.view().setFocus();
+    bench.key(Qt::Key_Right);
+    const Recorder told;
+    bench.key(Qt::Key_Right);
+    EXPECT_EQ(told.focused(), (std::vector<std::string>{"nessun impegno"})) << "not the calendar";
+    EXPECT_LE(told.names(), 1) << "the status line";
+}
+
+TEST_F(AccessibilityTest, AMessageIsShownToAssistiveProgramsOnceAndOnlyInAVisibleWindow) {
+    bench.open("M");
+    const Recorder told;
+    bench.vista.annuncia("aprile 2006");
+    bench.vista.annuncia("");
+    EXPECT_EQ(told.shown(), (std::vector<std::string>{"aprile 2006"}));
+    bench.vista.hide();
+    bench.vista.annuncia("maggio 2006");
+    EXPECT_EQ(told.shown().size(), 1U);
+}
+
+TEST_F(AccessibilityTest, WhatGetsTheFocusOfAGridIsItsCell) {
+    bench.open("M");
+    QApplication::setActiveWindow(&bench.vista);
+    bench.widget("Toolbar1").setFocus();
+    bench.view().setFocus();
+    const QAccessibleEvent event(&bench.view(), QAccessible::Focus);
+    ASSERT_NE(focusedItem(event), nullptr);
+    EXPECT_EQ(focusedItem(event)->text(QAccessible::Name), QStringLiteral("nessun impegno"));
 }
 
 TEST_F(AccessibilityTest, EverythingThatTakesTheFocusHasAName) {

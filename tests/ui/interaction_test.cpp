@@ -161,10 +161,11 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
         offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
     }
     menu->close();
-    EXPECT_EQ(offered, (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
-                                    QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
-                                    QStringLiteral("-"), QStringLiteral("Copia la tabella"),
-                                    QStringLiteral("Stampa…"), QStringLiteral("Stampa con i totali…")}));
+    EXPECT_EQ(offered,
+              (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
+                           QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
+                           QStringLiteral("-"), QStringLiteral("Copia la tabella"), QStringLiteral("Stampa…"),
+                           QStringLiteral("Stampa con i totali…"), QStringLiteral("Leggi")}));
 }
 
 TEST_F(InteractionTest, TabLeavesTheGrid) {

@@ -51,7 +51,7 @@ inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pu
                                          Pulsante::dettno, Pulsante::dettsi};
 
 /// The grids' own commands, which no button repeats.
-enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali };
+enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali, leggi };
 
 struct DescrizioneComandoGriglia {
     ComandoGriglia comando;
@@ -66,6 +66,7 @@ inline constexpr std::array ComandiGriglia{
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
+    DescrizioneComandoGriglia{ComandoGriglia::leggi, "leggi", "Leggi", "Ctrl+Space"},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

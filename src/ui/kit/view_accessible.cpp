@@ -245,8 +245,15 @@ QString ViewAccessible::rowDescription(int row) const {
     return header == nullptr ? QString() : header->text(QAccessible::Name);
 }
 
-void ViewAccessible::modelChange(QAccessibleTableModelChangeEvent*) {
-    forgetItems();
+void ViewAccessible::modelChange(QAccessibleTableModelChangeEvent* event) {
+    if (event->modelChangeType() != QAccessibleTableModelChangeEvent::DataChanged) {
+        forgetItems();
+    }
+}
+
+void renewItems(QAbstractItemView& view) {
+    QAccessibleTableModelChangeEvent others(&view, QAccessibleTableModelChangeEvent::ModelReset);
+    QAccessible::updateAccessibility(&others);
 }
 
 void ViewAccessible::forgetItems() {

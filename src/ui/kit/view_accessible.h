@@ -54,7 +54,8 @@ public:
     bool selectColumn(int) override { return false; }
     bool unselectRow(int) override { return false; }
     bool unselectColumn(int) override { return false; }
-    /// Whatever has changed, the items are new ones: an assistive program may keep what it has read of one.
+    /// After any change but that of single cells the items are new ones: an assistive program may keep what
+    /// it has read of one.
     void modelChange(QAccessibleTableModelChangeEvent* event) override;
 
 private:
@@ -63,6 +64,10 @@ private:
 
     mutable QHash<int, QAccessible::Id> m_items; // by number
 };
+
+/// What the view's items say is other than before: they become new ones. Whoever has the focus on one must be
+/// told of it again.
+void renewItems(QAbstractItemView& view);
 
 /// Has the views of these classes described so.
 template <typename... Views>

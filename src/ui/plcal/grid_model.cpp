@@ -112,6 +112,9 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     if (misure) {
         Q_EMIT measuresChanged();
     }
+    if (!area.empty() && area.rigaMin < m_griglia.FixedRows()) {
+        Q_EMIT periodChanged();
+    }
     if (!area.empty() && (area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols())) {
         Q_EMIT headersChanged();
     }

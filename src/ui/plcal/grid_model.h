@@ -48,6 +48,8 @@ Q_SIGNALS:
     void measuresChanged();
     /// Something in the fixed rows or the first column changed.
     void headersChanged();
+    /// The fixed rows are of another period.
+    void periodChanged();
 
 private:
     QVariant cellData(Casella casella, int role) const;

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace planner {
 
@@ -53,6 +54,7 @@ void GridView::connectEvents() {
         m_names->viewport()->update();
         m_corner->update();
     });
+    connect(m_model, &GridModel::periodChanged, this, [this] { m_otherPeriod = true; });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
         Q_EMIT gesture({{m_model->gridRow(row), 0}, mezzo});
@@ -154,10 +156,17 @@ QModelIndex GridView::currentCell() const {
 }
 
 void GridView::showCurrentCell() {
+    const bool otherPeriod = std::exchange(m_otherPeriod, false);
+    if (otherPeriod) {
+        renewItems(*this); // in the same place, another day
+    }
     if (currentCell() != currentIndex()) {
         setAutoScroll(false);
         selectionModel()->setCurrentIndex(currentCell(), QItemSelectionModel::NoUpdate);
         setAutoScroll(true);
+    } else if (otherPeriod && hasFocus()) {
+        QAccessibleEvent onCell(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&onCell);
     }
 }
 

@@ -83,6 +83,7 @@ private:
     GridHeader* m_names;
     GridCorner* m_corner;
     Scala m_scala;
+    bool m_otherPeriod = false; // since the current cell was shown last
 };
 
 } // namespace planner

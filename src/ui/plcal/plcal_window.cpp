@@ -6,6 +6,7 @@
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
+#include "ui/kit/annuncio.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
@@ -27,8 +28,8 @@ namespace planner {
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
-      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
-      m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
+      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_panel(new DetailPanel(this)),
+      m_annuncio(new Annuncio(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
     setObjectName(QStringLiteral("plcal"));
@@ -214,6 +215,10 @@ void PlcalWindow::LockWindowUpdate(bool locked) {
 
 void PlcalWindow::mostraInformazioni() {
     showInfoDialog(this);
+}
+
+void PlcalWindow::annuncia(const std::string& testo) {
+    m_annuncio->di(fromUtf8(testo));
 }
 
 } // namespace planner

@@ -16,6 +16,7 @@ class QAction;
 
 namespace planner {
 
+class Annuncio;
 class CommandBar;
 class DetailPanel;
 class FittedLabel;
@@ -48,6 +49,7 @@ public:
     void portaDavanti() override;
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
+    void annuncia(const std::string& testo) override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.
@@ -85,6 +87,7 @@ private:
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
     DetailPanel* m_panel;
+    Annuncio* m_annuncio;
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table
     QTimer m_mezzanotte;

@@ -11,6 +11,7 @@ class QPushButton;
 
 namespace planner {
 
+class Annuncio;
 class ChartKindFrame;
 class ChartView;
 class FittedLabel;
@@ -44,6 +45,8 @@ private:
     void placeStrip(const QRect& strip);
     /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
     void say(const QString& text, const QString& spoken = {});
+    /// Writes it too, and has a screen reader say it.
+    void announce(const QString& text);
     void showValue(const QModelIndex& index);
     Drawing drawing() const;
     QString fileName() const;
@@ -57,6 +60,7 @@ private:
     ChartView* m_chart;
     ChartKindFrame* m_frame;
     FittedLabel* m_stato;
+    Annuncio* m_annuncio;
     std::vector<QPushButton*> m_buttons; // from left to right
 };
 

@@ -73,7 +73,7 @@ public:
     void Toolbar1_ButtonClick(std::string_view chiave);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
-    /// Copies or prints the visible grid; nothing without one.
+    /// Copies, prints or reads the visible grid; nothing without one.
     void griglia_Comando(ComandoGriglia comando);
 
     // What the widgets show besides the controls.
@@ -105,6 +105,7 @@ private:
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();
+    void annunciaTotali(Mezzo mezzo);
     int rigaCursore() const;
     void posizionaCursore(int colonnaGiornaliera);
 
@@ -118,6 +119,8 @@ private:
     void reply(std::string_view azione);
     void consult();
     bool canConsult() const;
+    /// Writes the status line and has it spoken.
+    void annunciaStato(const std::string& testo);
     void insimp();
     void showStaffList();
     void showChart();
@@ -131,6 +134,7 @@ private:
     Scala m_scala;
     PannelloDettagli m_pannello;
     std::string m_stato;
+    std::string m_totaliDetti; // the last ones that were spoken
 };
 
 } // namespace planner

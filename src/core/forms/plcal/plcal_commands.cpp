@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/lettura.h"
 #include "forms/plcal/notices.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/yearly_day.h"
@@ -57,12 +58,21 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
     if (!m_controlli.tipoVisibile) {
         return;
     }
+    if (comando == ComandoGriglia::leggi) {
+        esegui([&] { annunciaStato(fraseLettura(m_controlli, m_sessione)); });
+        return;
+    }
     esegui([&] {
         m_porte.suCarta(comando);
         if (comando == ComandoGriglia::copia) {
-            m_stato = "La tabella è stata copiata.";
+            annunciaStato("La tabella è stata copiata.");
         }
     });
+}
+
+void plcal::annunciaStato(const std::string& testo) {
+    m_stato = testo;
+    m_porte.vista.annuncia(testo);
 }
 
 void plcal::reply(std::string_view azione) {
@@ -74,7 +84,7 @@ void plcal::consult() {
     if (canConsult()) {
         reply("D");
     } else {
-        m_stato = "Qui non ci sono scadenze o pratiche da consultare.";
+        annunciaStato("Qui non ci sono scadenze o pratiche da consultare.");
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/lettura.h"
 #include "forms/plcal/plcal.h"
 
 #include <algorithm>
@@ -29,6 +30,9 @@ void plcal::premi(std::string_view gruppo, int indice) {
             m_sessione.FinePlanner = false;
         }
         refill(target);
+        if (target != shown) {
+            m_porte.vista.annuncia(nomePeriodo(m_controlli));
+        }
     });
 }
 
@@ -64,7 +68,12 @@ void plcal::calendario_DateClick(Data giorno) {
         if (!m_controlli.tipoVisibile || !tipo().limiti(m_sessione.periodo, shown).contiene(giorno)) {
             return;
         }
-        tipo().mostraAnche(giorno, shown) ? showPickedDay(giorno) : refill(giorno);
+        if (tipo().mostraAnche(giorno, shown)) {
+            showPickedDay(giorno);
+        } else {
+            refill(giorno);
+            m_porte.vista.annuncia(nomePeriodo(m_controlli));
+        }
     });
 }
 

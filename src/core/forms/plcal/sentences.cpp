@@ -113,7 +113,12 @@ std::string yearlySubject(const ControlliPlcal& controlli, Casella casella) {
     return day ? giornoInParole(*day) : std::string();
 }
 
-/// What `write` makes of each total of the day that is more than 0.
+bool isDone(Totale totale) {
+    return totale == Totale::scadenzeConcluse || totale == Totale::praticheConcluse ||
+           totale == Totale::altro;
+}
+
+/// What `write` makes of each total of the day that is more than 0, if anything.
 template <typename Write>
 std::string yearlyTotals(const ControlliPlcal& controlli, const modpl& sessione, Casella casella,
                          Write write) {
@@ -125,7 +130,8 @@ std::string yearlyTotals(const ControlliPlcal& controlli, const modpl& sessione,
     for (const EtichettaTotale& etichetta : EtichetteTotali) {
         const double number = somma(valori, etichetta.totale);
         if (etichetta.annuale && !formatoTotale(number).empty()) {
-            totals.push_back(write(etichetta, number));
+            const std::string text = write(etichetta, number);
+            text.empty() ? void() : totals.push_back(text);
         }
     }
     return join(totals);
@@ -145,7 +151,7 @@ std::string yearlyDetails(const ControlliPlcal& controlli, const modpl& sessione
 
 std::string yearlyName(const ControlliPlcal& controlli, const modpl& sessione, Casella casella) {
     return yearlyTotals(controlli, sessione, casella, [](const EtichettaTotale& etichetta, double) {
-        return std::string(etichetta.nomeInFrase);
+        return isDone(etichetta.totale) ? std::string() : std::string(etichetta.nomeInFrase);
     });
 }
 
@@ -203,7 +209,13 @@ std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, T
         return {};
     }
     return withDetails(fraseTipo(tipo).soggetto(controlli, casella),
-                       fraseTipo(tipo).dettagli(controlli, sessione, casella));
+                       dettagliCella(controlli, sessione, tipo, casella));
+}
+
+std::string dettagliCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                          Casella casella) {
+    return isShown(controlli, tipo, casella) ? fraseTipo(tipo).dettagli(controlli, sessione, casella)
+                                             : std::string();
 }
 
 std::string contenutoCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,

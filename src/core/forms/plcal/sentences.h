@@ -29,6 +29,10 @@ std::string nomeCasella(const ControlliPlcal& controlli, const modpl& sessione, 
 std::string fraseCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
                        Casella casella);
 
+/// The part of the sentence that says what the cell holds; empty for a cell that holds nothing.
+std::string dettagliCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
+                          Casella casella);
+
 /// What a cell holds, without numbers of the entries; empty for a cell that holds nothing.
 std::string contenutoCella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
                            Casella casella);

@@ -5,6 +5,7 @@
 #include "forms/plcal/geometry.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace planner {
@@ -38,6 +39,8 @@ public:
     virtual void LockWindowUpdate(bool locked) = 0;
     /// Shows the program's name and version and what each picture means, until the user closes it.
     virtual void mostraInformazioni() = 0;
+    /// Has a screen reader say the text, UTF-8.
+    virtual void annuncia(const std::string& testo) = 0;
 };
 
 } // namespace planner
