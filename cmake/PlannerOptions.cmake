@@ -37,6 +37,7 @@ endif()
 
 if(PLANNER_COVERAGE)
     target_compile_options(planner_options INTERFACE --coverage -fprofile-update=atomic)
+    target_compile_definitions(planner_options INTERFACE PLANNER_COVERAGE)
     target_link_options(planner_options INTERFACE --coverage)
 endif()
 

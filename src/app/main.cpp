@@ -5,6 +5,7 @@
 #include "host/abandonment.h"
 #include "host/event_conversation.h"
 #include "host/ftavtrmpl.h"
+#include "host/program_texts.h"
 #include "platform/ipc/tavterm_host_ipc.h"
 #include "platform/posix/end_signals.h"
 #include "platform/posix/fault_watch.h"
@@ -20,6 +21,7 @@
 
 #include <QSocketNotifier>
 
+#include <iostream>
 #include <optional>
 #include <span>
 
@@ -105,6 +107,9 @@ int main(int argc, char* argv[]) {
     const std::string line = joinArguments({argv, static_cast<std::size_t>(argc)});
     if (line.empty()) {
         return EXIT_SUCCESS;
+    }
+    if (const auto text = testoChiesto(line)) {
+        return std::cout << *text << std::flush ? EXIT_SUCCESS : EXIT_FAILURE;
     }
     const FileDescriptor endSignals = holdEndSignals(); // before the toolkit makes its threads
     const FileDescriptor starter = watchStarter();

@@ -33,7 +33,8 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
                 [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); },
                 [&, this](ComandoGriglia comando) {
                     suCarta(comando, {controlli, sessione, contenuti.oggi()}, vista, messaggi);
-                }}) {
+                },
+                alfabeto}) {
     fitFontsTo(*vista.screen());
     vista.setForm(finestra);
     vistaCollab.setForm(collaboratori);

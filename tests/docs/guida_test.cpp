@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/design.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/salti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "session/toolbar.h"
@@ -9,6 +10,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <vector>
 
 namespace planner {
 namespace {
@@ -26,8 +28,11 @@ std::string italianKeys(std::string keys) {
                                            {"Return", "Invio"},
                                            {"PgUp", "PagSu"},
                                            {"PgDown", "PagGiù"},
+                                           {"Space", "Spazio"},
                                            {"Left", "Freccia sinistra"},
-                                           {"Right", "Freccia destra"}}) {
+                                           {"Right", "Freccia destra"},
+                                           {"Up", "Freccia su"},
+                                           {"Down", "Freccia giù"}}) {
         const std::size_t at = keys.find(english);
         if (at != std::string::npos) {
             keys.replace(at, std::string_view(english).size(), italian);
@@ -36,14 +41,25 @@ std::string italianKeys(std::string keys) {
     return keys;
 }
 
-/// The table row of a command holds its caption, and its keys in the second column.
+std::vector<std::string> each(std::string_view keys) {
+    std::istringstream list{std::string(keys)};
+    std::vector<std::string> all;
+    for (std::string one; std::getline(list >> std::ws, one, ';');) {
+        all.push_back(italianKeys(one));
+    }
+    return all;
+}
+
+/// The table row of a command holds its caption, and each of its keys in the second column.
 void expectDocumented(std::string_view caption, std::string_view keys) {
     std::istringstream lines(guida());
     std::string line;
     while (std::getline(lines, line)) {
         const std::size_t second = line.find('|', 1);
         if (line.starts_with("| ") && line.substr(0, second).find(caption) != std::string::npos) {
-            EXPECT_NE(line.find(italianKeys(std::string(keys)), second), std::string::npos) << line;
+            for (const std::string& one : each(keys)) {
+                EXPECT_NE(line.find(one, second), std::string::npos) << one << ": " << line;
+            }
             return;
         }
     }
@@ -59,6 +75,18 @@ TEST(GuidaTest, EveryToolbarCommandHasItsRowAndKeys) {
 TEST(GuidaTest, EveryCommandOfTheGridsMenuHasItsRowAndKeys) {
     for (const DescrizioneComandoGriglia& command : ComandiGriglia) {
         expectDocumented(command.didascalia, command.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryPeriodKeyHasItsRowAndKeys) {
+    for (const TastoPeriodo& key : TastiPeriodo) {
+        expectDocumented(key.didascalia, key.scorciatoia);
+    }
+}
+
+TEST(GuidaTest, EveryJumpHasItsRowAndKeys) {
+    for (const Salto& jump : Salti) {
+        expectDocumented(jump.didascalia, jump.scorciatoia);
     }
 }
 
@@ -110,9 +138,8 @@ TEST(GuidaTest, NamesEveryGestureAndWhatFollowsIt) {
 
 TEST(GuidaTest, NamesTheKeysOfEveryPeriodButton) {
     for (const PulsantePeriodo& button : PulsantiPeriodo) {
-        std::istringstream keys{std::string(button.scorciatoia)};
-        for (std::string each; std::getline(keys >> std::ws, each, ';');) {
-            EXPECT_NE(guida().find(italianKeys(each)), std::string::npos) << italianKeys(each);
+        for (const std::string& one : each(button.scorciatoia)) {
+            EXPECT_NE(guida().find(one), std::string::npos) << one;
         }
     }
 }

@@ -177,7 +177,7 @@ TEST_F(Charts, TheMonthlyOneAsksForAStaffMember) {
     confirmMessage(planner(), "information",
                    "Selezionare un collaboratore prima di visualizzare il grafico.");
     // Keys are taken in their order: with this window there, the one before has had its effect.
-    finestra().press("F1");
+    finestra().press("shift+F1");
     const Finestra information = window(planner(), "Informazioni");
     EXPECT_FALSE(Finestra::find(schermo, planner(), "Planner").has_value());
     information.press("Escape");

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/support/scenario.h"
 
+#include <cstring>
+#include <filesystem>
+#include <gmock/gmock.h>
+
 namespace planner::e2e {
 
 namespace {
@@ -51,6 +55,17 @@ TEST_F(CommandLine, WithoutArgumentsTheProgramEndsWithoutADisplay) {
     Programma planner({}, utente.environment());
     EXPECT_EQ(planner.exitCode(), 0);
     EXPECT_EQ(planner.readToEnd(), "");
+}
+
+TEST_F(CommandLine, HelpAndVersionArePrintedWithoutADisplayAndLeaveNoFile) {
+    for (const auto& [argument, words] :
+         {std::pair("--help", "Uso: planner TRANSITO FLAG EVENTO\n"), std::pair("--version", "planner ")}) {
+        Environment environment = utente.environment();
+        Programma planner({argument}, environment, Errors::InOutput);
+        EXPECT_THAT(planner.readToEnd(), testing::StartsWith(words));
+        EXPECT_EQ(planner.exitCode(), 0);
+        EXPECT_FALSE(std::filesystem::exists(std::string(argument).substr(0, std::strlen(argument) - 2)));
+    }
 }
 
 TEST_F(CommandLine, TheWordForPollingMayBeInAnyLetterCase) {

@@ -29,7 +29,7 @@ protected:
     }
     /// Everything that the user has done so far has had its effect: keys and clicks are taken in their order.
     void settle() const {
-        finestra().press("F1");
+        finestra().press("shift+F1");
         const Finestra information = window(planner(), "Informazioni");
         information.press("Escape");
         EXPECT_TRUE(information.disappears());

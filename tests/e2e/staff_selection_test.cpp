@@ -221,7 +221,7 @@ TEST_F(StaffSelection, DoesNotComeInTheYearlyPlanner) {
     finestra().press("ctrl+l");
     click(Elenco);
     // Keys and clicks are taken in their order: with this window there, those before have had their effect.
-    finestra().press("F1");
+    finestra().press("shift+F1");
     const Finestra information = window(planner(), "Informazioni");
     EXPECT_FALSE(showsTheList());
     information.press("Escape");

@@ -169,12 +169,17 @@ public:
     void scorriA(int colonna) override { m_journal.push_back("scroll to " + std::to_string(colonna)); }
     int primaColonnaInVista() const override { return firstColumn; }
     void scorriAlCursore() override { m_journal.push_back("scroll to the cursor"); }
+    void apriCampo(const DescrizioneCampo& campo, const std::string& testo) override {
+        m_journal.push_back("ask " + std::string(campo.nome) + " [" + testo + "]");
+    }
+    void portaCursoreInVista() override { m_journal.push_back("cursor in sight"); }
     void rinvia(Action azione) override { azione(); }
     void mostra() override { m_journal.push_back("show"); }
     void nascondi() override { m_journal.push_back("hide"); }
     void portaDavanti() override { m_journal.push_back("bring to front"); }
     void LockWindowUpdate(bool locked) override { m_journal.push_back(locked ? "lock" : "unlock"); }
     void mostraInformazioni() override { m_journal.push_back("information"); }
+    void mostraGuida() override { m_journal.push_back("guide"); }
     void annuncia(const std::string& testo) override { announced.push_back(testo); }
 
     std::vector<std::string> announced;

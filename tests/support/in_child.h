@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/end_child.h"
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,7 +15,7 @@ template <typename Work>
 int inChild(Work work) {
     const pid_t child = ::fork();
     if (child == 0) {
-        ::_exit(work());
+        endChild(work());
     }
     int status = 0;
     ::waitpid(child, &status, 0);

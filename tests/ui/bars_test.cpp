@@ -235,7 +235,7 @@ TEST_F(BarsTest, AMarkedCellKeepsItsPictures) {
     griglia.scegli({Row, 5});
     const QImage image = paint();
     EXPECT_GT(ink(image, cell(5, height)), 20);
-    EXPECT_EQ(image.pixel(cell(5, height).left(), height / 2), Edge);
+    EXPECT_EQ(image.pixel(cell(5, height).left(), height / 2), qtColor(cornice(Colore::ciano)).rgb());
 }
 
 TEST_F(BarsTest, TodaysFrameStandsAroundItsCell) {

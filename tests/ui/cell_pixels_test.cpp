@@ -23,7 +23,8 @@ constexpr int DeadlinePicture = 10;
 
 const QRgb PlainRow = qtColor(Colore::gialloChiaro).rgb();
 const QRgb Line = qRgb(200, 200, 188);
-const QRgb StrongLine = qRgb(136, 136, 128);
+const QRgb StrongLine = qRgb(112, 112, 104);
+const QRgb Mark = qtColor(Colore::navy).rgb();
 const QRgb Today = qRgb(0, 110, 60);
 const QRgb BarEdge = qRgb(70, 110, 180);
 
@@ -61,6 +62,9 @@ protected:
 
     /// Inside of the lines that each cell has.
     static QRectF inside() { return {0, 0, CellSize.width() - 1.0, CellSize.height() - 1.0}; }
+
+    /// Inside of what marks a chosen cell.
+    static QRectF withinMarks() { return {2, 2, CellSize.width() - 4.0, CellSize.height() - 4.0}; }
 
     Griglia griglia{4, 15, FirstRow, Colore::gialloChiaro};
     CellPainter painter{1};
@@ -100,7 +104,8 @@ TEST_P(CellPixels, TheLineAtTheEndOfAnHourIsStronger) {
 TEST_P(CellPixels, EachColourOfACellIsItsGround) {
     const auto expectGround = [&](Colore colore) {
         EXPECT_EQ(griglia.aspetto({FirstRow, 3}).fondo, colore);
-        EXPECT_TRUE(paint(FirstRow, 3).all(inside(), is(qtColor(colore).rgb()))) << static_cast<int>(colore);
+        EXPECT_TRUE(paint(FirstRow, 3).all(withinMarks(), is(qtColor(colore).rgb())))
+            << static_cast<int>(colore);
     };
     griglia.setCaption(FirstRow, 3, Ruolo::giornoAnno, "");
     expectGround(Colore::grigioChiaro);
@@ -204,6 +209,62 @@ TEST_P(CellPixels, TheFocusFrameCoversTodays) {
     griglia.setCellToday(FirstRow + 1, 3, true);
     expectFrame(paintFocused(true), qtColor(Colore::navy).rgb());
     expectFrame(paintFocused(false), Today);
+}
+
+TEST_P(CellPixels, TheHighlightedRowHasALineAboveAndOneBelow) {
+    griglia.evidenzia(FirstRow);
+    for (const int column : {0, 3, 14}) {
+        const Painted cell = paint(FirstRow, column);
+        EXPECT_TRUE(cell.all({0, 0, CellSize.width() * 1.0, 2}, is(Mark))) << column;
+        EXPECT_TRUE(cell.all({0, CellSize.height() - 2.0, CellSize.width() * 1.0, 2}, is(Mark))) << column;
+        EXPECT_FALSE(cell.any(withinMarks(), is(Mark))) << column;
+        EXPECT_FALSE(paint(FirstRow + 1, column).any(inside(), is(Mark))) << column;
+    }
+    size = {CellSize.width(), 10};
+    const Painted low = paint(FirstRow, 3);
+    EXPECT_TRUE(low.all({0, 0, CellSize.width() * 1.0, 1}, is(Mark)));
+    EXPECT_FALSE(low.any({0, 1, CellSize.width() * 1.0, 8}, is(Mark))) << "a low row is not filled by them";
+}
+
+TEST_P(CellPixels, TheSelectedCellHasAFrameWithoutTheFocusToo) {
+    griglia.scegli({FirstRow, 3});
+    const Painted cell = paint(FirstRow, 3);
+    EXPECT_TRUE(cell.all({0, 0, 1, CellSize.height() - 1.0}, is(Mark)));
+    EXPECT_TRUE(cell.all({CellSize.width() - 2.0, 0, 1, CellSize.height() - 1.0}, is(Mark)));
+    EXPECT_TRUE(cell.all({0, 0, CellSize.width() - 1.0, 1}, is(Mark)));
+    EXPECT_TRUE(cell.all({0, CellSize.height() - 2.0, CellSize.width() - 1.0, 1}, is(Mark)));
+    EXPECT_FALSE(paint(FirstRow, 4).any(inside(), is(Mark)));
+}
+
+TEST_P(CellPixels, TheCurrentCellHasAThinFrameWhereTheFocusIsElsewhere) {
+    griglia.setCurrent({FirstRow + 1, 3});
+    const Painted cell = paintFocused(false);
+    EXPECT_TRUE(cell.all({0, 0, 1, CellSize.height() - 1.0}, is(Mark)));
+    EXPECT_FALSE(cell.any({1, 1, CellSize.width() - 3.0, CellSize.height() - 3.0}, is(Mark)));
+    expectFrame(paintFocused(true), Mark);
+}
+
+TEST_P(CellPixels, AFrameOnAMarkedDayIsLight) {
+    griglia.setCaption(FirstRow + 1, 3, Ruolo::giornoAnno, "");
+    griglia.segna(FirstRow + 1, 3);
+    expectFrame(paintFocused(true), qRgb(255, 255, 255));
+    griglia.setCellToday(FirstRow + 1, 3, true);
+    expectFrame(paintFocused(false), qtColor(Colore::oggiSuScuro).rgb());
+}
+
+TEST_P(CellPixels, NameAndDayOfTheSelectedCellAreBoldAndTheDayIsUnderlined) {
+    griglia.setCaption(FirstRow, 0, Ruolo::nomeMensile, "Rossi");
+    griglia.setCaption(1, 3, Ruolo::numeroGiorno, "15");
+    const double name = paint(FirstRow, 0).amount(withinMarks(), isDark);
+    const double day = paint(1, 3).amount(withinMarks(), isDark);
+    const QRectF underline(0, CellSize.height() - 2.0, CellSize.width() * 1.0, 2);
+    EXPECT_FALSE(paint(1, 3).any(underline, is(Mark)));
+    griglia.evidenzia(FirstRow);
+    griglia.scegli({FirstRow, 3});
+    EXPECT_GT(paint(FirstRow, 0).amount(withinMarks(), isDark), name * 1.15);
+    EXPECT_GT(paint(1, 3).amount(withinMarks(), isDark), day * 1.15);
+    EXPECT_TRUE(paint(1, 3).all(underline, is(Mark)));
+    EXPECT_FALSE(paint(1, 4).any(underline, is(Mark)));
 }
 
 TEST_P(CellPixels, ABarHasItsFillItsEdgesAndItsPicture) {

@@ -36,11 +36,11 @@ TEST_F(ChartValuesTest, InAPieTheArrowKeysWalkTheSlices) {
         choose(dialog, 2);
         chart(dialog).setFocus();
         QTest::keyClick(&chart(dialog), Qt::Key_Home);
-        EXPECT_EQ(status(dialog), QStringLiteral("14 marzo: 4:00"));
+        EXPECT_EQ(status(dialog), QStringLiteral("14 marzo: 4:00, 35 %"));
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30"));
+        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30, 65 %"));
         QTest::keyClick(&chart(dialog), Qt::Key_Right);
-        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30"));
+        EXPECT_EQ(status(dialog), QStringLiteral("15 marzo: 7:30, 65 %"));
     });
 }
 
@@ -50,7 +50,7 @@ TEST_F(ChartValuesTest, TheMouseReadsTheValueUnderIt) {
         EXPECT_EQ(status(dialog), QStringLiteral("Rossi Bruno (RB): 7:30"));
         choose(dialog, 2);
         hover(chart(dialog), 0);
-        EXPECT_EQ(status(dialog), QStringLiteral("Bianchi Rosa (BI): 6:45"));
+        EXPECT_EQ(status(dialog), QStringLiteral("Bianchi Rosa (BI): 6:45, 47 %"));
     });
 }
 

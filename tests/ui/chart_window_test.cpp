@@ -122,7 +122,9 @@ TEST_F(ChartWindowTest, SaysWhoseHoursItShows) {
         {"A", QStringLiteral("Ore dell'anno 2006")}};
     for (const auto& [tipo, heading] : headings) {
         openChart(tipo, [&heading = heading](QDialog& dialog) {
-            EXPECT_TRUE(status(dialog).startsWith(heading + QStringLiteral(". "))) << heading.toStdString();
+            const auto* foot = dialog.findChild<FittedLabel*>(QStringLiteral("piede"));
+            EXPECT_TRUE(foot->text().startsWith(heading + QStringLiteral(": "))) << heading.toStdString();
+            EXPECT_FALSE(foot->fitted().cut) << heading.toStdString();
             EXPECT_EQ(chart(dialog).accessibleDescription(), heading);
             EXPECT_EQ(dialog.accessibleDescription(), heading);
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Planner"));
@@ -137,7 +139,7 @@ TEST_F(ChartWindowTest, TheLineSaysFirstThatTheHoursAreNotUpToDate) {
     const QString notice = QStringLiteral("Dati non aggiornati: wgrafici non si legge. ");
     bench.base.files.remove(PlannerBench::path(FileGrafici));
     openChart("G", [&notice](QDialog& dialog) {
-        EXPECT_TRUE(status(dialog).startsWith(notice + QStringLiteral("Ore dei collaboratori")));
+        EXPECT_TRUE(status(dialog).startsWith(notice));
         hover(chart(dialog), 1);
         EXPECT_EQ(status(dialog), notice + QStringLiteral("Rossi Bruno (RB): 0:00"));
     });

@@ -77,14 +77,24 @@ TEST_F(FittingTest, ALabelFollowsItsFont) {
     FittedLabel label(nullptr);
     label.setText(LongName);
     label.setFont(font);
-    label.resize(width, 20);
+    label.resize(width, 60);
     EXPECT_FALSE(label.fitted().cut);
     label.setFont(qtFont(Carattere::normale, 3));
     EXPECT_TRUE(label.fitted().cut);
     EXPECT_DOUBLE_EQ(label.fitted().font.pointSizeF(), 27 * 0.9);
 }
 
-TEST_F(FittingTest, ANameThatItsColumnCutsOffIsTheHeadersToolTip) {
+TEST_F(FittingTest, LettersHigherThanTheirLabelShrinkToIt) {
+    FittedLabel label(nullptr);
+    label.setText(QStringLiteral("È"));
+    label.setFont(qtFont(Carattere::normale, 3));
+    label.resize(width, 20);
+    label.show();
+    EXPECT_LE(QFontMetrics(label.fitted().font).height(), 20);
+    EXPECT_GT(label.fitted().font.pointSizeF(), 9);
+}
+
+TEST_F(FittingTest, ANameIsWholeInTheHeadersToolTipWhereItsColumnCutsItOff) {
     WindowBench bench;
     bench.base.putCollaboratori({collaboratore("RB", "Rossi"), collaboratore("DM", std::string(30, 'W'))});
     for (const char* kind : {"M", "G"}) {
@@ -96,8 +106,8 @@ TEST_F(FittingTest, ANameThatItsColumnCutsOffIsTheHeadersToolTip) {
         const Griglia& griglia = *bench.base.controlli.grigliaVisibile();
         for (int row = 0; row < 2; ++row) {
             const QString name = fromCp1252(griglia.TextMatrix(row + griglia.FixedRows(), 0));
-            const bool whole = name == QLatin1String("Rossi");
-            EXPECT_EQ(tip(row), whole ? QString() : plainToolTip(name)) << kind << " " << name.toStdString();
+            EXPECT_EQ(tip(row), plainToolTip(name + QStringLiteral(": nessun impegno")))
+                << kind << " " << name.toStdString();
         }
     }
 }

@@ -161,11 +161,25 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
         offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
     }
     menu->close();
-    EXPECT_EQ(offered,
-              (QStringList{QStringLiteral("Consultazione"), QStringLiteral("Inserimento impegni"),
-                           QStringLiteral("Agenda"), QStringLiteral("Planner non dettagliato"),
-                           QStringLiteral("-"), QStringLiteral("Copia la tabella"), QStringLiteral("Stampa…"),
-                           QStringLiteral("Stampa con i totali…"), QStringLiteral("Leggi")}));
+    const QStringList expected{QStringLiteral("Consultazione"),
+                               QStringLiteral("Inserimento impegni"),
+                               QStringLiteral("Agenda"),
+                               QStringLiteral("Planner non dettagliato"),
+                               QStringLiteral("-"),
+                               QStringLiteral("Leggi"),
+                               QStringLiteral("Copia la tabella"),
+                               QStringLiteral("Stampa…"),
+                               QStringLiteral("Stampa con i totali…"),
+                               QStringLiteral("Ingrandisci"),
+                               QStringLiteral("Riduci"),
+                               QStringLiteral("Grandezza normale"),
+                               QStringLiteral("Cerca collaboratore…"),
+                               QStringLiteral("Cerca ancora"),
+                               QStringLiteral("Vai alla data…"),
+                               QStringLiteral("Vai a oggi"),
+                               QStringLiteral("Guida"),
+                               QStringLiteral("Salta a")};
+    EXPECT_EQ(offered, expected);
 }
 
 TEST_F(InteractionTest, TabLeavesTheGrid) {

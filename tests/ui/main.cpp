@@ -10,6 +10,7 @@
 namespace {
 
 constexpr const char* ScreenVariable = "PLANNER_TEST_SCREEN"; // the screen's size, "WIDTHxHEIGHT"
+constexpr const char* FontVariable = "PLANNER_TEST_FONT";     // the desktop's letters, in points
 
 /// The description of the toolkit's offscreen platform: one screen of the size asked for.
 QByteArray screenDescription() {
@@ -33,6 +34,11 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toLocal8Bit());
     }
     planner::GuardedApplication application(argc, argv);
+    if (const double points = qEnvironmentVariable(FontVariable).toDouble(); points > 0) {
+        QFont desktop = QApplication::font();
+        desktop.setPointSizeF(points);
+        QApplication::setFont(desktop);
+    }
     planner::setUpAppearance(application);
     return RUN_ALL_TESTS();
 }

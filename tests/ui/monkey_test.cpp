@@ -68,7 +68,8 @@ private:
             Qt::Key_Left, Qt::Key_Right,  Qt::Key_Up,       Qt::Key_Down,   Qt::Key_Home,  Qt::Key_End,
             Qt::Key_Tab,  Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Space, Qt::Key_F1,
             Qt::Key_N,    Qt::Key_Q,      Qt::Key_Escape,   Qt::Key_A,      Qt::Key_Menu,  Qt::Key_F,
-            Qt::Key_G,    Qt::Key_L,      Qt::Key_F3};
+            Qt::Key_G,    Qt::Key_L,      Qt::Key_F3,       Qt::Key_D,      Qt::Key_T,     Qt::Key_S,
+            Qt::Key_I,    Qt::Key_M};
         constexpr std::array<Qt::KeyboardModifiers, 4> modifiers{
             Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier, Qt::ControlModifier | Qt::AltModifier};
         QWidget* focus = m_target->focusWidget();

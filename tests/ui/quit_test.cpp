@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/guarded_application.h"
 
+#include <QWidget>
+
 #include <gtest/gtest.h>
 
 namespace planner {

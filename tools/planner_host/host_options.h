@@ -41,6 +41,8 @@ struct OpzioniHost {
     std::string riservato1;
     std::string riservato2;
 
+    std::filesystem::path
+        daControllare;              // a host's folder, to be read and judged; empty: to talk with a planner
     std::filesystem::path archivio; // empty: a fresh temporary folder
     OpzioniCampione opzioniCampione;
     std::optional<int> anno; // as given; `opzioniCampione.anno` always holds a year

@@ -1,12 +1,40 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "planner_host/check/check_folder.h"
 #include "planner_host/errors.h"
 #include "planner_host/host.h"
 #include "planner_host/option_table.h"
+#include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+
+namespace {
+
+/// What the surroundings lack, for a person who wonders why no window has come; empty when nothing.
+const char* avvisoSchermo() {
+    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    const bool named = std::any_of(names.begin(), names.end(), [](const char* name) {
+        const char* value = std::getenv(name);
+        return value != nullptr && *value != '\0';
+    });
+    return named ? "" : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
+}
+
+/// Says what is wrong in a host's files; the exit code.
+int esitoControllo(const planner::OpzioniHost& opzioni) {
+    const planner::Rilievi rilievi = controllaCartella(planner::PosixFileSystem(), opzioni.daControllare,
+                                                       opzioni.transito, planner::SystemClock().today());
+    std::cout << rilievi.testo() << (rilievi.empty() ? "non c'è nulla di sbagliato\n" : "");
+    return static_cast<int>(rilievi.empty() ? planner::CodiceUscita::Riuscito
+                                            : planner::CodiceUscita::ErroreFile);
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace planner;
@@ -17,6 +45,9 @@ int main(int argc, char** argv) {
             std::cout << testoAiuto();
             return 0;
         }
+        if (!opzioni.daControllare.empty()) {
+            return esitoControllo(opzioni);
+        }
         const Interruzioni interruzioni;
         Host(opzioni, interruzioni, std::cout).esegui();
         return 0;
@@ -24,6 +55,9 @@ int main(int argc, char** argv) {
         std::cerr << "planner-host: " << error.what() << "\n";
         if (error.exitCode() == static_cast<int>(CodiceUscita::UsoErrato)) {
             std::cerr << "Le opzioni: planner-host --help\n";
+        }
+        if (error.exitCode() == static_cast<int>(CodiceUscita::PlannerFallito)) {
+            std::cerr << avvisoSchermo();
         }
         return error.exitCode();
     } catch (const std::exception& error) {

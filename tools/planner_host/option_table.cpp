@@ -71,6 +71,10 @@ constexpr std::array Tabella{
                 [](OpzioniHost& o, std::string_view) { o.soloArchivio = true; }},
     OpzioneRiga{Archivio, "conserva", "", "non toglie la cartella temporanea alla fine",
                 [](OpzioniHost& o, std::string_view) { o.conserva = true; }},
+    OpzioneRiga{Archivio, "check", "CARTELLA",
+                "legge file di transito e archivi di un host, senza toccarli e senza\n"
+                "avviare il planner, e dice che cosa non va, con record e byte",
+                [](OpzioniHost& o, std::string_view v) { o.daControllare = folder(v); }},
     OpzioneRiga{
         Archivio, "anno", "AAAA",
         "anno dell'archivio campione (normale: l'anno di --inizio o --giorno,\naltrimenti quello di oggi)",

@@ -6,6 +6,7 @@
 #include "grids/entries.h"
 
 #include <algorithm>
+#include <bitset>
 #include <charconv>
 #include <map>
 
@@ -52,6 +53,25 @@ void setBars(Griglia& flxg, FasceRighe& rows) {
         assegnaCorsie(bars);
         flxg.setFasce(row, std::move(bars));
     }
+}
+
+/// How many of the staff have no appointment at each quarter.
+void showFree(Griglia& flxg, int staff, const FasceRighe& rows) {
+    std::vector<int> free(static_cast<std::size_t>(flxg.Cols()), staff);
+    free.front() = -1;
+    for (const auto& [row, bars] : rows) {
+        std::bitset<ColonneQuarti + 1> busy;
+        for (const FasciaImpegno& bar : bars) {
+            for (int column = bar.prima; column <= bar.ultima; ++column) {
+                busy.set(static_cast<std::size_t>(column));
+            }
+        }
+        const bool oneOfThem = indiceDiRiga(flxg, row).valore < staff;
+        for (std::size_t column = 1; oneOfThem && column < free.size(); ++column) {
+            free[column] -= busy.test(column) ? 1 : 0;
+        }
+    }
+    flxg.setRiepilogo(staff > 0 ? std::move(free) : std::vector<int>(), staff);
 }
 
 } // namespace
@@ -124,6 +144,7 @@ EsitoRiempimento PopolaGrid2(modpl& sessione, const Calendario& calendario, Grig
             bars[row].push_back({columns.prima, columns.ultima, impegno.immagine});
         }
     });
+    showFree(flxg, sessione.archivi.NumCollab, bars);
     setBars(flxg, bars);
     flxg.setCurrent({PrimaRigaGiornaliera, 1});
     return esito;

@@ -18,7 +18,7 @@ constexpr int DefaultColWidth = 350;
 void AreaCelle::include(Casella casella) {
     const auto [riga, colonna] = casella;
     if (empty()) {
-        *this = {riga, colonna, riga, colonna};
+        *this = {riga, colonna, riga, colonna, intestazioni};
         return;
     }
     rigaMin = std::min(rigaMin, riga);
@@ -120,12 +120,12 @@ void Griglia::scegli(Casella casella) {
     index(casella.riga, casella.colonna);
     scegliNessuna();
     m_scelta = casella;
-    m_dirty.include(casella);
+    includeSelected();
 }
 
 void Griglia::scegliNessuna() {
     if (m_scelta.riga >= 0) {
-        m_dirty.include(m_scelta);
+        includeSelected();
         m_scelta = {Nessuna, Nessuna};
         notify();
     }
@@ -135,7 +135,21 @@ void Griglia::includeRow(int row) {
     if (row >= 0 && row < m_rows) {
         m_dirty.include({row, FixedCols()});
         m_dirty.include({row, m_cols - 1});
+        m_dirty.intestazioni = true;
     }
+}
+
+void Griglia::includeSelected() {
+    m_dirty.include(m_scelta);
+    m_dirty.intestazioni = true;
+}
+
+bool Griglia::inEvidenza(Casella casella) const {
+    const auto [riga, colonna] = casella;
+    if (colonna < FixedCols()) {
+        return riga >= m_fixedRows && (riga == m_evidenziata || riga == m_scelta.riga);
+    }
+    return riga < m_fixedRows && colonna == m_scelta.colonna;
 }
 
 std::span<const FasciaImpegno> Griglia::fasce(int row) const {
@@ -152,6 +166,23 @@ void Griglia::setFasce(int row, std::vector<FasciaImpegno> fasce) {
     notify();
 }
 
+void Griglia::setRiepilogo(std::vector<int> perColonna, int massimo) {
+    if (perColonna == m_riepilogo && massimo == m_riepilogoMassimo) {
+        return;
+    }
+    m_riepilogo = std::move(perColonna);
+    m_riepilogoMassimo = massimo;
+    m_dirty.include({0, FixedCols()});
+    m_dirty.include({0, m_cols - 1});
+    notify();
+}
+
+std::optional<int> Griglia::riepilogo(int colonna) const {
+    const auto place = static_cast<std::size_t>(colonna);
+    const bool known = colonna >= 0 && place < m_riepilogo.size() && m_riepilogo[place] >= 0;
+    return known ? std::optional(m_riepilogo[place]) : std::nullopt;
+}
+
 int Griglia::RowHeight(int row) const {
     return m_rowHeights[heightIndex(row)];
 }
@@ -164,9 +195,9 @@ int Griglia::ColWidth(int col) const {
 Aspetto Griglia::aspetto(Casella casella) const {
     const auto [row, col] = casella;
     const bool fixed = row < m_fixedRows || col < FixedCols();
-    return planner::aspetto(cella(casella),
-                            {fixed ? Colore::intestazione : m_sfondoBase,
-                             row == m_evidenziata && col >= FixedCols(), casella == m_scelta});
+    return planner::aspetto(cella(casella), {fixed ? Colore::intestazione : m_sfondoBase,
+                                             row == m_evidenziata && col >= FixedCols(), casella == m_scelta,
+                                             inEvidenza(casella)});
 }
 
 void Griglia::setRowHeight(int row, int twips) {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,6 +37,7 @@ struct Casella {
 /// A rectangle of cells, bounds included; empty at first.
 struct AreaCelle {
     int rigaMin = 0, colonnaMin = 0, rigaMax = -1, colonnaMax = -1;
+    bool intestazioni = false; // names or header cells beside it look different
 
     bool empty() const { return rigaMax < rigaMin || colonnaMax < colonnaMin; }
     void include(Casella casella);
@@ -103,10 +105,21 @@ public:
     /// True for the selected one; any place may be asked for.
     bool scelta(Casella casella) const { return m_scelta.riga >= 0 && casella == m_scelta; }
     bool sceltaAttiva() const { return m_scelta.riga >= 0; }
+    /// True for the name and the header cells of the highlighted row and of the selected cell; any place may
+    /// be asked for.
+    bool inEvidenza(Casella casella) const;
 
     /// The appointments' bars of a row, from its first column on; none after a clear.
     std::span<const FasciaImpegno> fasce(int row) const;
     void setFasce(int row, std::vector<FasciaImpegno> fasce);
+
+    /// A number for each column, shown as a bar in the header: what the whole office has there. Columns past
+    /// the list's end, and those with a negative number, have none.
+    void setRiepilogo(std::vector<int> perColonna, int massimo);
+    /// Nothing for a column without a number; any column may be asked for.
+    std::optional<int> riepilogo(int colonna) const;
+    /// The number that a bar as high as the header stands for.
+    int RiepilogoMassimo() const { return m_riepilogoMassimo; }
 
     /// The colours that the cell shows, and those of them that have a name.
     Aspetto aspetto(Casella casella) const;
@@ -139,6 +152,7 @@ private:
     std::size_t index(int row, int col) const;
     std::size_t heightIndex(int row) const;
     void includeRow(int row);
+    void includeSelected();
     template <typename Change>
     void change(int row, int col, Change apply);
     std::uint32_t intern(std::string_view text);
@@ -153,6 +167,8 @@ private:
     std::vector<int> m_rowHeights; // of the fixed rows, and at last of every data row
     std::vector<int> m_colWidths;
     std::unordered_map<int, std::vector<FasciaImpegno>> m_fasce; // by row; few rows have any
+    std::vector<int> m_riepilogo;                                // by column
+    int m_riepilogoMassimo = 0;
 
     std::deque<std::string> m_texts{std::string()}; // a deque: the map's keys point into it
     std::unordered_map<std::string_view, std::uint32_t> m_textIndex{{std::string_view(), 0}};

@@ -12,6 +12,14 @@ void writeWeekdayLetters(Griglia& griglia) {
     }
 }
 
+int ultimaRigaConNome(const Griglia& griglia) {
+    int riga = griglia.Rows() - 1;
+    while (riga > griglia.FixedRows() && trimRight(griglia.TextMatrix(riga, 0)).empty()) {
+        --riga;
+    }
+    return riga;
+}
+
 void writeStaffCaptions(Griglia& griglia, const Archivi& archivi, Ruolo ruolo) {
     for (int i = 0; i < archivi.NumCollab; ++i) {
         griglia.setCaption(rigaCollaboratore(griglia, {i}), 0, ruolo,

@@ -59,6 +59,9 @@ inline IndiceCollaboratore indiceDiRiga(const Griglia& griglia, int riga) {
     return {riga - griglia.FixedRows()};
 }
 
+/// The last data row that has a name; the first one where none has.
+int ultimaRigaConNome(const Griglia& griglia);
+
 /// Writes the staff names into column 0 of the data rows, in table order, and below them the row for
 /// appointments whose staff code matches nobody.
 void writeStaffCaptions(Griglia& griglia, const Archivi& archivi, Ruolo ruolo);

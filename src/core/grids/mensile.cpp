@@ -5,6 +5,9 @@
 #include "archive/numeric_value.h"
 #include "grids/entries.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace planner {
 
 namespace {
@@ -28,6 +31,22 @@ void writeDay(Griglia& Flxm, int column, int day, int month) {
     if (CheckGiornoFestivo(Flxm, 0, column, day - 1, month)) {
         Flxm.setCellHoliday(1, column);
     }
+}
+
+/// The office's deadlines of each day of a month, counted from 1.
+using ScadenzeGiorni = std::array<double, GiorniMassimi + 1>;
+
+void showDeadlines(Griglia& Flxm, int firstDay, int days, const ScadenzeGiorni& scadenze) {
+    std::vector<int> columns(static_cast<std::size_t>(Flxm.Cols()), -1);
+    int most = 0;
+    for (int day = 1; day <= days; ++day) {
+        constexpr double limit = 1e6; // an archive may hold any number
+        const double sum = std::clamp(scadenze.at(static_cast<std::size_t>(day)), 0.0, limit);
+        const int count = static_cast<int>(std::lround(sum));
+        columns.at(static_cast<std::size_t>(firstDay + day - 1)) = count;
+        most = std::max(most, count);
+    }
+    Flxm.setRiepilogo(std::move(columns), most);
 }
 
 } // namespace
@@ -65,14 +84,22 @@ EsitoRiempimento PopolaGrid1(modpl& sessione, const Calendario& calendario, Grig
         return numericValue(riga.mese.view()) == calendario.Month() &&
                numericValue(riga.anno.view()) == calendario.Year();
     };
+    ScadenzeGiorni deadlines{};
     EsitoRiempimento esito = forEachRecord(sessione.archivi, inShownMonth, [&](const RigaPlanner& riga) {
         const Impegno impegno = leggiImpegno(riga, sessione, dettagliato);
         sessione.TotaliImpegni.aggiungi(impegno.indice, impegno.valori);
+        deadlines.at(static_cast<std::size_t>(dayOf(impegno.data))) +=
+            somma(impegno.valori, Totale::scadenze);
         if (impegno.immagine != 0) {
             Flxm.setCellPicture(rigaCollaboratore(Flxm, impegno.indice), firstDay + dayOf(impegno.data) - 1,
                                 impegno.immagine, impegno.tipi);
         }
     });
+    if (sessione.varianteRidotta()) {
+        Flxm.setRiepilogo({}, 0);
+    } else {
+        showDeadlines(Flxm, firstDay, lunghezzaMese(sessione.GiorniMese, calendario.Month()), deadlines);
+    }
     Flxm.setCurrent({PrimaRigaMensile, 1});
     return esito;
 }

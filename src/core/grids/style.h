@@ -28,9 +28,16 @@ enum class Colore : std::uint8_t {
     grigioChiaro,
     azzurro,
     intestazione,
+    // The program's own, for what the given ones leave open.
+    linea,
+    lineaForte,
+    bordoFascia,
+    oggi,
+    oggiSuScuro,
+    riepilogo,
 };
 
-inline constexpr std::array<Rgb, 11> ColoriRgb{{
+inline constexpr std::array<Rgb, 17> ColoriRgb{{
     {0, 0, 0},       // predefinito, as text colour
     {0, 0, 0},       // nero: ordinary text
     {255, 255, 255}, // bianco: text of marked days
@@ -42,14 +49,30 @@ inline constexpr std::array<Rgb, 11> ColoriRgb{{
     {224, 224, 224}, // grigioChiaro: days of the yearly grid
     {176, 208, 255}, // azzurro: quarters of an appointment
     {240, 240, 240}, // intestazione: fixed cells
+    {200, 200, 188}, // linea: between cells; no meaning hangs on it
+    {112, 112, 104}, // lineaForte: at the end of a week or an hour, and below the header
+    {70, 110, 180},  // bordoFascia: edge of an appointment's bar
+    {0, 110, 60},    // oggi: frame of today
+    {144, 238, 170}, // oggiSuScuro: the same on a marked day
+    {64, 88, 128},   // riepilogo: a bar in the header
 }};
 
 constexpr Rgb rgb(Colore colore) {
     return ColoriRgb.at(static_cast<std::size_t>(colore));
 }
 
+/// Lines around the current and the selected cell, and above and below the highlighted row: told from the
+/// ground without their colour.
+constexpr Colore cornice(Colore fondo) {
+    return fondo == Colore::navy ? Colore::bianco : Colore::navy;
+}
+/// Today's frame on the ground.
+constexpr Colore corniceOggi(Colore fondo) {
+    return fondo == Colore::navy ? Colore::oggiSuScuro : Colore::oggi;
+}
+
 /// The fonts of the grids.
-enum class Carattere : std::uint8_t { normale, grassetto, ora, minuti, anno };
+enum class Carattere : std::uint8_t { normale, grassetto, ora, minuti, anno, minutiGrassetto };
 
 struct DescrizioneCarattere {
     std::string_view famiglia;
@@ -57,16 +80,24 @@ struct DescrizioneCarattere {
     bool grassetto;
 };
 
-inline constexpr std::array<DescrizioneCarattere, 5> Caratteri{{
+inline constexpr std::array<DescrizioneCarattere, 6> Caratteri{{
     {"Tahoma", 9, false},       // normale
     {"Tahoma", 9, true},        // grassetto
     {"MS Sans Serif", 9, true}, // ora: hours of the daily header
     {"SmallFonts", 7, false},   // minuti: quarters of the daily header
     {"Tahoma", 10, true},       // anno: corner of the yearly grid
+    {"SmallFonts", 7, true},    // minutiGrassetto: the quarter of the selected cell
 }};
 
 constexpr const DescrizioneCarattere& carattere(Carattere which) {
     return Caratteri.at(static_cast<std::size_t>(which));
+}
+
+/// The same letters, bold.
+constexpr Carattere inGrassetto(Carattere which) {
+    return which == Carattere::normale  ? Carattere::grassetto
+           : which == Carattere::minuti ? Carattere::minutiGrassetto
+                                        : which;
 }
 
 enum class Allineamento : std::uint8_t { sinistra, centro };
@@ -103,22 +134,24 @@ struct PostoCella {
     Colore base;      // of cells without a colour of their own
     bool evidenziata; // in the highlighted row
     bool scelta;      // the selected cell
+    bool inEvidenza;  // name or header of either
 };
 
-/// The colours in which a cell appears.
+/// The colours in which a cell appears, and its letters.
 struct Aspetto {
     Colore colore; // of the text
     Colore sfondo; // of the cell, appointments included
     Colore fondo;  // of what is in sight around an appointment's bar
     Colore barra;  // of an appointment's bar
+    Carattere carattere;
 };
 
-/// The one place where meaning becomes colour.
+/// The one place where meaning becomes colour. Red on grey stands out little: its letters are bold.
 constexpr Aspetto aspetto(const Cella& cella, const PostoCella& posto) {
-    if (posto.scelta) {
-        return {Colore::nero, Colore::ciano, Colore::ciano, Colore::ciano};
-    }
     const Stile& proprio = stile(cella);
+    if (posto.scelta) {
+        return {Colore::nero, Colore::ciano, Colore::ciano, Colore::ciano, inGrassetto(proprio.carattere)};
+    }
     const Colore colore = cella.segnato                          ? Colore::bianco
                           : cella.fineSettimana || cella.festivo ? Colore::rosso
                                                                  : proprio.colore;
@@ -127,7 +160,9 @@ constexpr Aspetto aspetto(const Cella& cella, const PostoCella& posto) {
                          : proprio.sfondo != Colore::predefinito ? proprio.sfondo
                                                                  : posto.base;
     const bool colorato = cella.impegno && !posto.evidenziata;
-    return {colore, colorato ? Colore::azzurro : fondo, fondo, Colore::azzurro};
+    const bool grassetto = posto.inEvidenza || colore == Colore::rosso;
+    return {colore, colorato ? Colore::azzurro : fondo, fondo, Colore::azzurro,
+            grassetto ? inGrassetto(proprio.carattere) : proprio.carattere};
 }
 
 } // namespace planner

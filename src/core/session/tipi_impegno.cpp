@@ -61,15 +61,18 @@ std::string nomiTipi(unsigned tipi) {
 
 std::vector<VoceLegenda> legendaDisegni(bool dettagliato) {
     if (!dettagliato) {
-        return {{ImmaginePresenza, "Planner non dettagliato: nel giorno c'è almeno un impegno"}};
+        return {{ImmaginePresenza, "Planner non dettagliato: nel giorno c'è almeno un impegno",
+                 "almeno un impegno"}};
     }
     std::vector<VoceLegenda> entries;
     entries.reserve(TipiImpegno.size() + 1);
     for (const DescrizioneImpegno& tipo : TipiImpegno) {
-        entries.push_back({Eval_imagedisplay({&tipo.cifra, 1}), inizialeMaiuscola(tipo.nome)});
+        entries.push_back(
+            {Eval_imagedisplay({&tipo.cifra, 1}), inizialeMaiuscola(tipo.nome), std::string(tipo.nome)});
     }
     entries.push_back({Eval_imagedisplay(ChiaviImmagini.front()),
-                       "Più disegni insieme: più tipi di impegno nello stesso giorno"});
+                       "Più disegni insieme: più tipi di impegno nello stesso giorno",
+                       {}});
     return entries;
 }
 

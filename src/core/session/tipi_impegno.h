@@ -65,8 +65,11 @@ std::string inizialeMaiuscola(std::string_view text);
 
 /// What a picture means.
 struct VoceLegenda {
+    static constexpr int GiornoSegnato = 0; // no picture: the ground of a marked day
+
     int immagine;
     std::string significato; // UTF-8
+    std::string breve;       // the same in a word or two; empty where that would say nothing new
 };
 
 /// The legend of the pictures in the grid that shows details, or in the one that shows none.

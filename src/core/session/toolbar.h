@@ -36,14 +36,14 @@ struct DescrizionePulsante {
 inline constexpr std::array PulsantiToolbar{
     DescrizionePulsante{Pulsante::exit, "exit", "Uscita", "Ctrl+Q"},
     DescrizionePulsante{Pulsante::coll, "coll", "Selezione Collaboratori", "Ctrl+L"},
-    DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", ""},
-    DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", ""},
+    DescrizionePulsante{Pulsante::filtri, "filtri", "Filtri", "Ctrl+I"},
+    DescrizionePulsante{Pulsante::agenda, "agenda", "Agenda", "Ctrl+E"},
     DescrizionePulsante{Pulsante::consult, "consult", "Consultazione", ""},
     DescrizionePulsante{Pulsante::insimp, "insimp", "Inserimento impegni", "Ctrl+N"},
-    DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", ""},
-    DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", ""},
+    DescrizionePulsante{Pulsante::dettno, "dettno", "Planner non dettagliato", "Ctrl+M"},
+    DescrizionePulsante{Pulsante::dettsi, "dettsi", "Planner dettagliato", "Ctrl+M"},
     DescrizionePulsante{Pulsante::grafici, "grafici", "Grafici", "Ctrl+G"},
-    DescrizionePulsante{Pulsante::info, "info", "Informazioni", "F1"},
+    DescrizionePulsante{Pulsante::info, "info", "Informazioni", "Shift+F1"},
 };
 
 /// The buttons whose commands the grids' menu repeats, in its order.
@@ -51,22 +51,44 @@ inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pu
                                          Pulsante::dettno, Pulsante::dettsi};
 
 /// The grids' own commands, which no button repeats.
-enum class ComandoGriglia : std::uint8_t { copia, stampa, stampaConTotali, leggi };
+enum class ComandoGriglia : std::uint8_t {
+    leggi,
+    copia,
+    stampa,
+    stampaConTotali,
+    ingrandisci,
+    riduci,
+    grandezzaNormale,
+    cerca,
+    cercaAncora,
+    vaiAData,
+    vaiAOggi,
+    guida,
+};
 
 struct DescrizioneComandoGriglia {
     ComandoGriglia comando;
     std::string_view nome;
     std::string_view didascalia;  // Italian
-    std::string_view scorciatoia; // keyboard shortcut
+    std::string_view scorciatoia; // keyboard shortcuts, separated by "; "
 };
 
 /// By command; the grids' menu has them below the buttons', in this order.
 inline constexpr std::array ComandiGriglia{
+    DescrizioneComandoGriglia{ComandoGriglia::leggi, "leggi", "Leggi", "Ctrl+Space"},
     DescrizioneComandoGriglia{ComandoGriglia::copia, "copia", "Copia la tabella", "Ctrl+C"},
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",
                               "Ctrl+Shift+P"},
-    DescrizioneComandoGriglia{ComandoGriglia::leggi, "leggi", "Leggi", "Ctrl+Space"},
+    DescrizioneComandoGriglia{ComandoGriglia::ingrandisci, "ingrandisci", "Ingrandisci", "Ctrl++; Ctrl+="},
+    DescrizioneComandoGriglia{ComandoGriglia::riduci, "riduci", "Riduci", "Ctrl+-"},
+    DescrizioneComandoGriglia{ComandoGriglia::grandezzaNormale, "grandezzaNormale", "Grandezza normale",
+                              "Ctrl+0"},
+    DescrizioneComandoGriglia{ComandoGriglia::cerca, "cercaCollaboratore", "Cerca collaboratore…", "Ctrl+F"},
+    DescrizioneComandoGriglia{ComandoGriglia::cercaAncora, "cercaAncora", "Cerca ancora", "F3"},
+    DescrizioneComandoGriglia{ComandoGriglia::vaiAData, "vaiAData", "Vai alla data…", "Ctrl+D"},
+    DescrizioneComandoGriglia{ComandoGriglia::vaiAOggi, "vaiAOggi", "Vai a oggi", "Ctrl+T"},
+    DescrizioneComandoGriglia{ComandoGriglia::guida, "guida", "Guida", "F1"},
 };
 
 /// The button that stands in the same place and takes turns with it; nothing for a button of its own place.

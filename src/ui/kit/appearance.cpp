@@ -23,6 +23,7 @@ namespace planner {
 namespace {
 
 constexpr double SmallestLegible = 7; // points
+constexpr const char* DesktopPoints = "desktopPoints";
 
 /// Buttons of message boxes and dialogs bear words alone, as those of the program's own windows: the
 /// toolkit's pictures for them are dark on dark desktops.
@@ -49,6 +50,7 @@ QFont fontNamed(std::string_view family) {
 
 void setUpAppearance(QApplication& application) {
     initResources();
+    application.setProperty(DesktopPoints, QApplication::font().pointSizeF());
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     auto* translator = new QTranslator(&application);
     if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -63,6 +65,14 @@ void setUpAppearance(QApplication& application) {
     QApplication::setFont(qtFont(Carattere::normale, 1));
     QApplication::setWindowIcon(qtIcon("planner"));
     QApplication::setQuitOnLastWindowClosed(false);
+}
+
+double desktopFontFactor() {
+    constexpr double usual = 10; // points; desktops come with 9 to 11
+    constexpr double tolerated = 11;
+    constexpr double largest = 1.5;
+    const double points = qApp->property(DesktopPoints).toDouble();
+    return points <= tolerated ? 1 : std::min(points / usual, largest);
 }
 
 QColor qtColor(Colore colore) {

@@ -26,7 +26,19 @@ bool FittedLabel::event(QEvent* event) {
 void FittedLabel::changeEvent(QEvent* event) {
     PlainLabel::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        m_font = FittingFont(font());
+        fitHeight();
+    }
+}
+
+void FittedLabel::resizeEvent(QResizeEvent* event) {
+    PlainLabel::resizeEvent(event);
+    fitHeight();
+}
+
+void FittedLabel::fitHeight() {
+    const QFont fitting = fontWithin(font(), contentsRect().height());
+    if (fitting != m_font.font()) {
+        m_font = FittingFont(fitting);
     }
 }
 

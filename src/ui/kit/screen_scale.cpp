@@ -23,7 +23,9 @@ Dimensioni roomOn(const QScreen& screen) {
 }
 
 double fontFactorFor(const Scala& scala) {
-    return std::max(static_cast<double>(scala.ScalaMin()), SmallestFontFactor);
+    const double desktop = desktopFontFactor();
+    const double smallest = desktop > 1 ? desktop : SmallestFontFactor;
+    return std::max(static_cast<double>(scala.ScalaMin()), smallest);
 }
 
 double fontFactorFor(const QScreen& screen) {

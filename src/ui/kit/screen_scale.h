@@ -12,7 +12,7 @@ namespace planner {
 Dimensioni roomOn(const QScreen& screen);
 
 /// How much larger than designed letters are where positions are scaled by `scala`; they shrink only as far
-/// as they stay legible.
+/// as they stay legible, and are as large as the desktop's letters at least, see `desktopFontFactor`.
 double fontFactorFor(const Scala& scala);
 double fontFactorFor(const QScreen& screen);
 

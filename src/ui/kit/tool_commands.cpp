@@ -48,6 +48,23 @@ void fitPictures(QToolBar& bar, int height) {
     setMargin(bar, std::clamp(SmallestMargin + (height - rest - side) / 2, SmallestMargin, Margin));
 }
 
+void fitLetters(QToolBar& bar, QSize room) {
+    constexpr double step = 0.95;
+    constexpr double smallest = 7; // points
+    QFont letters = bar.window()->font();
+    const auto whole = [&] {
+        if (bar.font().pointSizeF() != letters.pointSizeF()) {
+            bar.setFont(letters);
+        }
+        const QSize hint = bar.sizeHint();
+        const int spared = bar.iconSize().height() - SmallestIconSide;
+        return hint.width() <= room.width() && hint.height() - spared <= room.height();
+    };
+    while (!whole() && letters.pointSizeF() * step >= smallest) {
+        letters.setPointSizeF(letters.pointSizeF() * step);
+    }
+}
+
 QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
     const QList<QAction*> before = bar.actions();
     if (!before.isEmpty() && before.last()->data().toInt() + 1 < command.position) {

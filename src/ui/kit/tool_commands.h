@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 #include <string_view>
@@ -26,6 +27,9 @@ void setUpToolBar(QToolBar& bar);
 /// Makes the pictures as large as the bar's font asks for, or as small as the captions below them require to
 /// fit into `height` pixels.
 void fitPictures(QToolBar& bar, int height);
+
+/// Makes the bar's letters those of its window, or as small as all commands need to be in sight in the room.
+void fitLetters(QToolBar& bar, QSize room);
 
 /// Adds a button, reached by Tab too, whose tool tip tells its keys, and a separator before it where its
 /// position leaves one out. Whether the keys work everywhere in the

@@ -15,11 +15,13 @@ CellDelegate::CellDelegate(const GridModel& model, CellPainter& painter, QObject
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     painter->save();
-    m_painter.paint(*painter, option.rect, m_model.griglia(), m_model.casella(index));
-    if (option.state & QStyle::State_HasFocus) {
-        constexpr int frame = 2;
-        painter->setPen(QPen(qtColor(Colore::navy), frame));
-        painter->drawRect(option.rect.adjusted(1, 1, -frame, -frame));
+    const Griglia& griglia = m_model.griglia();
+    const Casella casella = m_model.casella(index);
+    m_painter.paint(*painter, option.rect, griglia, casella);
+    const bool focus = option.state.testFlag(QStyle::State_HasFocus);
+    if (focus || casella == griglia.corrente()) {
+        CellPainter::paintFrame(*painter, option.rect.adjusted(0, 0, -1, -1),
+                                cornice(griglia.aspetto(casella).fondo), focus ? 2 : 1);
     }
     painter->restore();
 }

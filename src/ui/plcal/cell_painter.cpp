@@ -8,20 +8,13 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace planner {
 
 namespace {
 
-constexpr QRgb LineColor = qRgb(200, 200, 188);
-constexpr QRgb StrongLineColor = qRgb(136, 136, 128);
-constexpr QRgb BarBorderColor = qRgb(70, 110, 180);
-constexpr QRgb TodayColor = qRgb(0, 110, 60);
 constexpr int TextMargin = 4;
-
-int pictureSide(const QRect& rect) {
-    return std::min({rect.width() - 3, rect.height() - 2, 64});
-}
 
 /// Above and below the bars of a row: no more than a low row can spare.
 int barMargin(const QRect& cell) {
@@ -39,6 +32,13 @@ QRect laneOf(const QRect& cell, const FasciaImpegno& fascia) {
     const int height = std::max(share - gap, lowest);
     const int top = std::min(bars.height() * fascia.corsia / fascia.corsie, bars.height() - height);
     return {bars.left(), bars.top() + std::max(top, 0), bars.width(), height};
+}
+
+constexpr int SummaryMargin = 3; // beside a column's bar: leaves today's frame in sight
+
+int summaryWidth(const QRect& rect) {
+    constexpr int share = 7; // of the column's width
+    return std::clamp(rect.width() / share, 2, 8);
 }
 
 /// Lines one pixel wide inside a rectangle's edges, sharp on every screen.
@@ -62,13 +62,36 @@ bool centred(const Cella& cella) {
 } // namespace
 
 CellPainter::CellPainter(double fontFactor) {
-    setFontFactor(fontFactor);
+    setFactors(fontFactor, 1, 1);
 }
 
-void CellPainter::setFontFactor(double fontFactor) {
-    for (std::size_t i = 0; i < m_fonts.size(); ++i) {
-        m_fonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor));
+void CellPainter::setFactors(double fontFactor, float header, float rows) {
+    constexpr float largestPicture = 64; // pixels, as designed
+    for (std::size_t i = 0; i < Caratteri.size(); ++i) {
+        m_headerFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * header));
+        m_rowFonts[i] = FittingFont(qtFont(static_cast<Carattere>(i), fontFactor * rows));
     }
+    m_largestPicture = qRound(largestPicture * std::max(rows, 1.0F));
+}
+
+int CellPainter::lowestRow() const {
+    constexpr int line = 1;
+    const QFontMetricsF metrics(m_rowFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
+    return static_cast<int>(std::ceil(metrics.capHeight() + metrics.descent())) + line;
+}
+
+int CellPainter::lowestHeader() const {
+    const QFontMetricsF metrics(m_headerFonts.at(static_cast<std::size_t>(Carattere::normale)).font());
+    return static_cast<int>(std::ceil(metrics.ascent() + metrics.descent()));
+}
+
+int CellPainter::pictureSide(const QRect& rect) const {
+    return std::min({rect.width() - 3, rect.height() - 2, m_largestPicture});
+}
+
+const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella) const {
+    const Fonts& fonts = casella.riga < griglia.FixedRows() ? m_headerFonts : m_rowFonts;
+    return fonts.at(static_cast<std::size_t>(griglia.aspetto(casella).carattere));
 }
 
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
@@ -86,11 +109,9 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
         paintPicture(painter, rect, cella.immagine, /*besideText=*/cella.testo != 0);
     }
     if (cella.testo != 0) {
-        paintText(painter, textPlace(rect, cella, keptFree), griglia, casella);
+        paintText(painter, textPlace(rect, griglia, casella, keptFree), griglia, casella);
     }
-    if (cella.oggi) {
-        paintToday(painter, rect);
-    }
+    paintMarks(painter, rect, griglia, casella);
 }
 
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
@@ -103,7 +124,7 @@ void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture
 
 int CellPainter::sideBesideText(const QRect& rect) const {
     constexpr int lines = 2;
-    const QFont& font = m_fonts.at(static_cast<std::size_t>(Carattere::normale)).font();
+    const QFont& font = m_rowFonts.at(static_cast<std::size_t>(Carattere::normale)).font();
     return std::min(pictureSide(rect), lines * QFontMetrics(font).height());
 }
 
@@ -117,13 +138,23 @@ QRect CellPainter::textPlace(const QRect& rect, const Cella& cella, int keptFree
     return rect.adjusted(std::max(keptFree, margin), 0, -1 - std::max(keptFree, right), -1);
 }
 
+QRect CellPainter::textPlace(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
+    QRect place = textPlace(rect, griglia.cella(casella), keptFree);
+    if (casella.riga < griglia.FixedRows() && griglia.riepilogo(casella.colonna)) {
+        const int taken = SummaryMargin + summaryWidth(rect) + 1;
+        const QFontMetrics letters(font(griglia, casella).font());
+        const int text = letters.horizontalAdvance(fromCp1252(griglia.TextMatrix(casella)));
+        place.setRight(rect.right() - (text > rect.width() - 2 * taken ? taken : 1));
+    }
+    return place;
+}
+
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
-    const FittingFont& font = m_fonts.at(static_cast<std::size_t>(stile(griglia.cella(casella)).carattere));
-    return font.fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
+    return font(griglia, casella).fit(fromCp1252(griglia.TextMatrix(casella)), place.width());
 }
 
 bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
-    const QRect place = textPlace(rect, griglia.cella(casella), keptFree);
+    const QRect place = textPlace(rect, griglia, casella, keptFree);
     return fittedText(place, griglia, casella).cut;
 }
 
@@ -141,7 +172,7 @@ void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,
                            Colore colore) {
     constexpr int lowestWithTwoEdges = 4;
-    const QColor edge(BarBorderColor);
+    const QColor edge = qtColor(Colore::bordoFascia);
     painter.fillRect(bar, qtColor(colore));
     painter.fillRect(topLine(bar), edge);
     if (bar.height() >= lowestWithTwoEdges) {
@@ -171,17 +202,54 @@ void CellPainter::paintBarPicture(QPainter& painter, const QRect& bar, int pictu
     }
 }
 
-void CellPainter::paintToday(QPainter& painter, const QRect& rect) {
-    constexpr int frame = 2;
-    painter.setPen(QPen(QColor(TodayColor), frame));
-    painter.drawRect(rect.adjusted(1, 1, -frame, -frame));
+void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness) {
+    const QColor colour = qtColor(colore);
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), thickness), colour);
+    painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - thickness, rect.width(), thickness), colour);
+    painter.fillRect(QRect(rect.left(), rect.top(), thickness, rect.height()), colour);
+    painter.fillRect(QRect(rect.right() + 1 - thickness, rect.top(), thickness, rect.height()), colour);
+}
+
+void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
+    const int value = griglia.riepilogo(col).value_or(0);
+    if (value <= 0 || griglia.RiepilogoMassimo() <= 0) {
+        return;
+    }
+    const int room = rect.height() - 2 * SummaryMargin;
+    const int height =
+        std::max(room * std::min(value, griglia.RiepilogoMassimo()) / griglia.RiepilogoMassimo(), 1);
+    const int width = summaryWidth(rect);
+    painter.fillRect(QRect(rect.right() + 1 - SummaryMargin - width,
+                           rect.bottom() + 1 - SummaryMargin - height, width, height),
+                     qtColor(Colore::riepilogo));
+}
+
+void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
+    const Colore fondo = griglia.aspetto(casella).fondo;
+    const QRect inside = rect.adjusted(0, 0, -1, -1); // the lines between the cells stay in sight
+    if (griglia.cella(casella).oggi) {
+        paintFrame(painter, inside, corniceOggi(fondo), 2);
+    }
+    if (casella.riga == griglia.RigaEvidenziata()) {
+        constexpr int highEnough = 24; // pixels, that two lines of two leave something of
+        const int thickness = rect.height() < highEnough ? 1 : 2;
+        const QColor colour = qtColor(cornice(fondo));
+        painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), thickness), colour);
+        painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - thickness, rect.width(), thickness), colour);
+    }
+    if (casella.riga == griglia.FixedRows() - 1 && griglia.inEvidenza(casella)) {
+        painter.fillRect(QRect(rect.left(), rect.bottom() - 1, rect.width(), 2), qtColor(cornice(fondo)));
+    }
+    if (griglia.scelta(casella)) {
+        paintFrame(painter, inside, cornice(fondo), 1);
+    }
 }
 
 void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
     painter.fillRect(bottomLine(rect),
-                     QColor(casella.riga < griglia.FixedRows() ? StrongLineColor : LineColor));
+                     qtColor(casella.riga < griglia.FixedRows() ? Colore::lineaForte : Colore::linea));
     painter.fillRect(rightLine(rect),
-                     QColor(finisceGruppo(griglia, casella.colonna) ? StrongLineColor : LineColor));
+                     qtColor(finisceGruppo(griglia, casella.colonna) ? Colore::lineaForte : Colore::linea));
 }
 
 } // namespace planner

@@ -21,11 +21,22 @@ public:
     /// Fonts follow the screen, as far as they stay legible.
     explicit CellPainter(double fontFactor);
 
-    void setFontFactor(double fontFactor);
+    /// `rows` is how much larger than designed the grid's rows are shown, `header` the same of its header.
+    void setFactors(double fontFactor, float header, float rows);
+
+    /// The height, in pixels, below which the letters of the rows would be cut.
+    int lowestRow() const;
+    /// The same of the header's lines, with their accents.
+    int lowestHeader() const;
 
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
+    /// The bar of a column in the header, at the right of its texts; `rect` is the whole height of the
+    /// header.
+    static void paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col);
+    /// A line along the inside of the place's edges.
+    static void paintFrame(QPainter& painter, const QRect& rect, Colore colore, int thickness);
     /// True when the cell's text is not shown whole in the place.
     bool cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree = 0) const;
 
@@ -33,16 +44,25 @@ private:
     int sideBesideText(const QRect& rect) const;
     /// Where a cell's text stands: beside its picture, and between what stands at either side.
     QRect textPlace(const QRect& rect, const Cella& cella, int keptFree) const;
+    /// The same for any cell: in the header a text too long to stand in the middle keeps clear of the
+    /// column's bar.
+    QRect textPlace(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const;
+    const FittingFont& font(const Griglia& griglia, Casella casella) const;
+    int pictureSide(const QRect& rect) const;
     FittedText fittedText(const QRect& place, const Griglia& griglia, Casella casella) const;
     void paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText);
     void paintText(QPainter& painter, const QRect& place, const Griglia& griglia, Casella casella);
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
-    void paintToday(QPainter& painter, const QRect& rect);
+    void paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
     void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
 
-    std::array<FittingFont, Caratteri.size()> m_fonts;
+    using Fonts = std::array<FittingFont, Caratteri.size()>;
+
+    Fonts m_headerFonts;
+    Fonts m_rowFonts;
+    int m_largestPicture = 0;
     Pictures m_pictures;
 };
 

@@ -32,6 +32,7 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
 }
 
 void CommandBar::resizeEvent(QResizeEvent* event) {
+    fitLetters(*this, size());
     fitPictures(*this, height());
     QToolBar::resizeEvent(event);
 }

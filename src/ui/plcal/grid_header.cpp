@@ -21,6 +21,7 @@ GridHeader::GridHeader(Qt::Orientation orientation, const GridModel& model, Cell
     setSectionResizeMode(QHeaderView::Fixed);
     setSectionsClickable(false);
     setHighlightSections(false);
+    viewport()->setMouseTracking(true);
     // Where there are no sections it is as light as they are, on a dark desktop too.
     QPalette light = palette();
     light.setColor(QPalette::Button, qtColor(Colore::intestazione));
@@ -54,15 +55,39 @@ void GridHeader::contextMenuEvent(QContextMenuEvent* event) {
     }
 }
 
+QString GridHeader::tipAt(const QPoint& position) const {
+    const int section = logicalIndexAt(position);
+    if (section < 0 || !m_tips) {
+        return {};
+    }
+    return fromUtf8(m_tips(orientation() == Qt::Vertical ? Casella{m_model.gridRow(section), 0}
+                                                         : Casella{0, GridModel::gridCol(section)}));
+}
+
+void GridHeader::point(const QString& tip) {
+    if (tip != m_pointed) {
+        m_pointed = tip;
+        Q_EMIT pointed(tip);
+    }
+}
+
+void GridHeader::mouseMoveEvent(QMouseEvent* event) {
+    point(tipAt(event->position().toPoint()));
+}
+
 bool GridHeader::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave) {
+        point({});
+    }
     return showToolTip(*event, *viewport(), [this](QPoint position) { return toolTipAt(position); }) ||
            QHeaderView::viewportEvent(event);
 }
 
 QString GridHeader::toolTipAt(const QPoint& position) const {
     const int section = logicalIndexAt(position);
-    if (orientation() == Qt::Horizontal || section < 0) {
-        return {};
+    const QString tip = tipAt(position);
+    if (!tip.isEmpty() || orientation() == Qt::Horizontal || section < 0) {
+        return tip;
     }
     const QRect place(0, sectionViewportPosition(section), width(), sectionSize(section));
     const int row = m_model.gridRow(section);
@@ -83,6 +108,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int logicalI
                             {row, GridModel::gridCol(logicalIndex)});
             top += height;
         }
+        CellPainter::paintSummary(*painter, rect, m_model.griglia(), GridModel::gridCol(logicalIndex));
     }
     painter->restore();
 }

@@ -115,7 +115,8 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     if (!area.empty() && area.rigaMin < m_griglia.FixedRows()) {
         Q_EMIT periodChanged();
     }
-    if (!area.empty() && (area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols())) {
+    const bool fixed = area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols();
+    if (!area.empty() && (fixed || area.intestazioni)) {
         Q_EMIT headersChanged();
     }
 }

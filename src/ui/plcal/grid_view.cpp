@@ -14,6 +14,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -33,7 +34,7 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 
 GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, const VociGriglia& voci,
                    QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_model(new GridModel(griglia, voci, this)),
+    : QTableView(parent), m_tipo(tipo), m_painter(painter), m_model(new GridModel(griglia, voci, this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(
@@ -65,6 +66,13 @@ void GridView::connectEvents() {
     connect(m_corner, &GridCorner::periodButtonClicked, this, &GridView::periodButtonClicked);
 }
 
+void GridView::setTips(const std::function<std::string(Casella)>& tips) {
+    for (GridHeader* header : {m_columns, m_names}) {
+        header->setTips(tips);
+        connect(header, &GridHeader::pointed, this, &GridView::headerPointed);
+    }
+}
+
 void GridView::announce(const QModelIndex& index, Mezzo mezzo) {
     if (index.isValid()) {
         Q_EMIT gesture({m_model->casella(index), mezzo});
@@ -93,11 +101,27 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         announce(currentCell(), Mezzo::invio);
     } else if (event->key() == Qt::Key_Space) {
         announce(currentCell(), Mezzo::spazio);
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Q_EMIT menuRequested(currentCellOnScreen()); // the Menu key comes as a context menu event
     } else if (const auto action = cursorActionOf(*event)) {
         moveByKey(*action, event->modifiers());
     } else {
         event->ignore(); // the window may have a use for it
     }
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QTableView::wheelEvent(event);
+        return;
+    }
+    m_turned += event->angleDelta().y();
+    while (std::abs(m_turned) >= QWheelEvent::DefaultDeltasPerStep) {
+        const bool away = m_turned > 0;
+        m_turned -= away ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep;
+        Q_EMIT commandGiven(away ? ComandoGriglia::ingrandisci : ComandoGriglia::riduci);
+    }
+    event->accept();
 }
 
 std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QKeyEvent& event) {
@@ -120,7 +144,11 @@ std::optional<QAbstractItemView::CursorAction> GridView::cursorActionOf(const QK
 
 void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
     showCurrentCell(); // from which the toolkit moves
-    const QModelIndex target = moveCursor(action, modifiers);
+    QModelIndex target = moveCursor(action, modifiers);
+    if (action == MoveEnd && modifiers.testFlag(Qt::ControlModifier)) {
+        const int last = ultimaRigaConNome(griglia()) - griglia().FixedRows(); // none of the rows to spare
+        target = target.siblingAtRow(last);
+    }
     if (target.isValid() && target != currentCell()) {
         announce(target, Mezzo::frecce);
         scrollToCurrentCell();
@@ -143,8 +171,12 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     if (byMouse && !under.isValid()) {
         return;
     }
-    const QPoint atCell = viewport()->mapToGlobal(visualRect(currentCell()).center());
-    Q_EMIT menuRequested(byMouse ? event->globalPos() : atCell);
+    Q_EMIT menuRequested(byMouse ? event->globalPos() : currentCellOnScreen());
+}
+
+QPoint GridView::currentCellOnScreen() {
+    scrollToCurrentCell();
+    return viewport()->mapToGlobal(visualRect(currentCell()).center());
 }
 
 const Griglia& GridView::griglia() const {

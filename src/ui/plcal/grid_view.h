@@ -4,6 +4,7 @@
 
 #include "forms/plcal/design.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/ingrandimento.h"
 
 #include <QTableView>
 
@@ -26,9 +27,15 @@ public:
              QWidget* parent);
 
     const Griglia& griglia() const;
+    TipoPlanner tipo() const { return m_tipo; }
+
+    /// What is said of a name or a column where the mouse rests on it.
+    void setTips(const std::function<std::string(Casella)>& tips);
 
     /// The factors that turn the grid's twips into pixels.
     void setScala(const Scala& scala);
+    /// How much larger they are than that. The current cell stays in sight, and so does the first hour.
+    void setIngrandimento(const Ingrandimento& ingrandimento);
     void placeButtons();
     /// Makes a grid column, counted from 1, the first one in sight.
     void scrollToColumn(int colonna);
@@ -50,7 +57,11 @@ Q_SIGNALS:
     /// The user acted on a place of the grid: once for each gesture, and for nothing that the toolkit does.
     void gesture(const planner::Gesto& gesto);
     void menuRequested(const QPoint& globalPosition);
+    /// The wheel was turned in the manner of a command.
+    void commandGiven(planner::ComandoGriglia comando);
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);
+    /// The mouse is on a name or a column; empty when it is on none.
+    void headerPointed(const QString& tip);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -58,6 +69,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override {} // a click acts at the press
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyboardSearch(const QString&) override {} // letters are no way to a cell
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -69,6 +81,8 @@ private:
     void setUpBehaviour();
     void connectEvents();
     QModelIndex currentCell() const;
+    /// The centre of the current cell, scrolled into sight.
+    QPoint currentCellOnScreen();
     void announce(const QModelIndex& index, Mezzo mezzo);
     static std::optional<CursorAction> cursorActionOf(const QKeyEvent& event);
     void moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers);
@@ -78,11 +92,14 @@ private:
     float rowScale() const;
 
     TipoPlanner m_tipo;
+    CellPainter& m_painter;
     GridModel* m_model;
     GridHeader* m_columns;
     GridHeader* m_names;
     GridCorner* m_corner;
     Scala m_scala;
+    Ingrandimento m_ingrandimento;
+    int m_turned = 0;           // of the wheel, short of a step
     bool m_otherPeriod = false; // since the current cell was shown last
 };
 

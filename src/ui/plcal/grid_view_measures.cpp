@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "engine/kinds/kind.h"
+#include "ui/plcal/cell_painter.h"
 #include "ui/plcal/grid_corner.h"
 #include "ui/plcal/grid_header.h"
 #include "ui/plcal/grid_model.h"
@@ -43,13 +44,24 @@ void GridView::setScala(const Scala& scala) {
     applyMeasures();
 }
 
+void GridView::setIngrandimento(const Ingrandimento& ingrandimento) {
+    const int first = firstColumnInSight();
+    m_ingrandimento = ingrandimento;
+    applyMeasures();
+    if (regole(m_tipo).unGiorno) {
+        scrollToColumn(first);
+    }
+    scrollToCurrentCell();
+}
+
 float GridView::columnScale() const {
     if (regole(m_tipo).unGiorno) {
-        return m_scala.ScalaX;
+        return m_scala.ScalaX * m_ingrandimento.cornice();
     }
     // A month is as wide as the window: what rounding and the scroll bar leave over is shared out too.
     const int scrollBar = regole(m_tipo).perCollaboratore ? verticalScrollBar()->sizeHint().width() : 0;
-    return fittingScale(width() - 2 * frameWidth() - scrollBar, columnWidths(griglia()));
+    return fittingScale(width() - 2 * frameWidth() - scrollBar, columnWidths(griglia())) *
+           m_ingrandimento.cornice();
 }
 
 float GridView::rowScale() const {
@@ -74,14 +86,17 @@ void GridView::applyMeasures() {
 
 void GridView::applyRowMeasures() {
     const float scale = rowScale();
-    const auto header =
-        sizes(griglia().FixedRows(), [&](int row) { return pixels(griglia().RowHeight(row), scale); });
+    const auto header = sizes(griglia().FixedRows(), [&](int row) {
+        return std::max(pixels(griglia().RowHeight(row), scale * m_ingrandimento.cornice()),
+                        m_painter.lowestHeader());
+    });
     m_columns->setThickness(header);
     m_corner->setRowHeights(header);
     if (griglia().Rows() > griglia().FixedRows()) { // all data rows are of one height
-        const auto height =
-            static_cast<float>(griglia().RowHeight(griglia().FixedRows())) * scale / TwipsPerPixel;
-        m_names->setDefaultSectionSize(static_cast<int>(height)); // cut, so that what is to fit does fit
+        const auto height = static_cast<float>(griglia().RowHeight(griglia().FixedRows())) * scale *
+                            m_ingrandimento.righe() / TwipsPerPixel;
+        // Cut, so that what is to fit does fit.
+        m_names->setDefaultSectionSize(std::max(static_cast<int>(height), m_painter.lowestRow()));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/plcal/info_dialog.h"
 
 #include "session/tipi_impegno.h"
+#include "session/versione.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/pictures.h"
 #include "ui/kit/plain_label.h"
@@ -61,7 +62,7 @@ void showInfoDialog(QWidget* parent) {
     auto* layout = new QGridLayout(&dialog);
     layout->setColumnStretch(1, 1);
     layout->setHorizontalSpacing(12);
-    QLabel* title = textLabel(&dialog, QStringLiteral("Planner grafico, versione " PLANNER_VERSION));
+    QLabel* title = textLabel(&dialog, QStringLiteral("Planner grafico, versione ") + fromUtf8(versione()));
     title->setFont(titleFont(dialog.font()));
     layout->addWidget(title, 0, 0, 1, 2);
     addLegend(*layout, &dialog, /*dettagliato=*/true);

@@ -3,9 +3,12 @@
 #include "ui/plcal/plcal_window.h"
 
 #include "engine/kinds/kind.h"
+#include "forms/plcal/colpo_docchio.h"
+#include "forms/plcal/legenda_in_vista.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
+#include "ui/guida/guida_window.h"
 #include "ui/kit/annuncio.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
@@ -14,6 +17,8 @@
 #include "ui/plcal/grid_model.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
+#include "ui/plcal/legend_bar.h"
+#include "ui/plcal/prompt_field.h"
 #include "ui/plcal/shown_calendar.h"
 
 #include <QAction>
@@ -25,10 +30,26 @@
 
 namespace planner {
 
+namespace {
+
+/// A command that the grid alone has, by name, caption and keys.
+template <typename Described>
+QAction* addKey(GridView& grid, const Described& described) {
+    auto* action = new QAction(fromUtf8(described.didascalia), &grid);
+    action->setObjectName(fromUtf8(described.nome));
+    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcutContext(Qt::WidgetShortcut); // fields keep their letters
+    grid.addAction(action);
+    return action;
+}
+
+} // namespace
+
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
-      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_panel(new DetailPanel(this)),
+      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
+      m_legenda(new LegendBar(this)), m_panel(new DetailPanel(this)),
       m_annuncio(new Annuncio(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
@@ -52,6 +73,11 @@ GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, voci, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
+    grid->setTips([this, tipo](Casella casella) {
+        return casella.colonna < Griglia::FixedCols()
+                   ? fraseTotali(m_controlli, m_sessione, tipo, casella.riga)
+                   : fraseColonna(m_controlli, tipo, casella.colonna);
+    });
     return grid;
 }
 
@@ -61,12 +87,25 @@ void PlcalWindow::addGridCommands() {
     for (const DescrizioneComandoGriglia& described : ComandiGriglia) {
         auto* action = new QAction(fromUtf8(described.didascalia), this);
         action->setObjectName(fromUtf8(described.nome));
-        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+        action->setShortcuts(QKeySequence::listFromString(fromUtf8(described.scorciatoia)));
         action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this,
                 [this, comando = described.comando] { m_form->griglia_Comando(comando); });
         addAction(action);
         m_comandiGriglia.push_back(action);
+    }
+}
+
+void PlcalWindow::addKeys(GridView& grid) {
+    for (const Salto& salto : Salti) {
+        connect(addKey(grid, salto), &QAction::triggered, this,
+                [this, &salto] { m_form->griglia_Salto(salto); });
+    }
+    for (const TastoPeriodo& tasto : TastiPeriodo) {
+        if (tasto.tipo == grid.tipo()) {
+            connect(addKey(grid, tasto), &QAction::triggered, this,
+                    [this, &tasto] { m_form->tastoPeriodo(tasto); });
+        }
     }
 }
 
@@ -78,6 +117,11 @@ void PlcalWindow::connectEvents() {
         m_form->calendario_DateClick(giorno);
         if (GridView* grid = visibleGrid()) {
             grid->scrollToCurrentCell();
+        }
+    });
+    connect(m_campo, &PromptField::left, this, [this] {
+        if (GridView* grid = visibleGrid()) {
+            grid->setFocus();
         }
     });
     connect(&m_mezzanotte, &QTimer::timeout, this, [this] {
@@ -92,6 +136,11 @@ void PlcalWindow::connectEvents() {
 void PlcalWindow::connectGrid(GridView& grid) {
     connect(&grid, &GridView::gesture, this, [this](const Gesto& gesto) { m_form->griglia_Gesto(gesto); });
     connect(&grid, &GridView::menuRequested, this, &PlcalWindow::showMenu);
+    addKeys(grid);
+    connect(&grid, &GridView::headerPointed, this,
+            [this](const QString& tip) { showStatus(tip.isEmpty() ? fromUtf8(m_form->stato()) : tip); });
+    connect(&grid, &GridView::commandGiven, this,
+            [this](ComandoGriglia comando) { m_form->griglia_Comando(comando); });
     connect(&grid, &GridView::periodButtonClicked, this,
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
@@ -109,6 +158,7 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
     for (QAction* action : m_comandiGriglia) {
         menu->addAction(action);
     }
+    menu->addMenu(QStringLiteral("Salta a"))->addActions(visibleGrid()->actions());
     menu->popup(globalPosition);
 }
 
@@ -119,7 +169,9 @@ void PlcalWindow::aggiorna() {
     m_lblcollab->setText(fromCp1252(panel.lblcollab));
     m_lblcollab->setVisible(panel.lblcollabVisibile);
     m_panel->show(panel);
-    m_stato->setText(fromUtf8(m_form->stato()));
+    m_legenda->setEntries(legendaInVista(m_controlli));
+    showStatus(fromUtf8(m_form->stato()));
+    showZoom();
     updateGrid();
     m_Toolbar1->update(m_controlli.Toolbar1, visibleGrid());
     updateCalendar();
@@ -176,6 +228,19 @@ void PlcalWindow::scorriAlCursore() {
     }
 }
 
+void PlcalWindow::portaCursoreInVista() {
+    if (GridView* grid = visibleGrid()) {
+        grid->scrollToCurrentCell();
+    }
+}
+
+void PlcalWindow::apriCampo(const DescrizioneCampo& campo, const std::string& testo) {
+    m_campo->open(campo, fromUtf8(testo), [this, which = campo.campo](const QString& text) {
+        return m_form->campo_Conferma(which, text.trimmed().toStdString());
+    });
+    placeField();
+}
+
 void PlcalWindow::rinvia(std::function<void()> azione) {
     QMetaObject::invokeMethod(this, std::move(azione), Qt::QueuedConnection);
 }
@@ -200,6 +265,10 @@ void PlcalWindow::awaitMidnight() {
 }
 
 void PlcalWindow::nascondi() {
+    m_campo->hide();
+    if (m_guida) {
+        m_guida->hide();
+    }
     m_mezzanotte.stop();
     hide();
 }
@@ -219,6 +288,13 @@ void PlcalWindow::mostraInformazioni() {
 
 void PlcalWindow::annuncia(const std::string& testo) {
     m_annuncio->di(fromUtf8(testo));
+}
+
+void PlcalWindow::mostraGuida() {
+    if (!m_guida) {
+        m_guida = std::make_unique<GuidaWindow>();
+    }
+    m_guida->mostra();
 }
 
 } // namespace planner

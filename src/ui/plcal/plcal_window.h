@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/controls.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/vista_plcal.h"
 #include "ui/plcal/cell_painter.h"
 
@@ -10,6 +11,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class QAction;
@@ -21,6 +23,9 @@ class CommandBar;
 class DetailPanel;
 class FittedLabel;
 class GridView;
+class GuidaWindow;
+class PromptField;
+class LegendBar;
 class ShownCalendar;
 struct modpl;
 class plcal;
@@ -43,12 +48,15 @@ public:
     void scorriA(int colonna) override;
     int primaColonnaInVista() const override;
     void scorriAlCursore() override;
+    void portaCursoreInVista() override;
+    void apriCampo(const DescrizioneCampo& campo, const std::string& testo) override;
     void rinvia(std::function<void()> azione) override;
     void mostra() override;
     void nascondi() override;
     void portaDavanti() override;
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
+    void mostraGuida() override;
     void annuncia(const std::string& testo) override;
 
 Q_SIGNALS:
@@ -65,20 +73,27 @@ protected:
 private:
     GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
     void addGridCommands();
+    void addKeys(GridView& grid);
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);
     void showMenu(const QPoint& globalPosition);
+    void placeField();
     void updateCalendar();
     void updateGrid();
+    void showZoom();
+    void setGridFonts();
     void setSmallestSize();
     void fillRemainingSpace();
+    void placeStatus();
+    void showStatus(const QString& text);
     GridView* visibleGrid() const;
 
     const modpl& m_sessione;
     ControlliPlcal& m_controlli;
     plcal* m_form = nullptr;
     Scala m_scala;
+    Ingrandimento m_ingrandimento; // as shown
     CellPainter m_painter{1};
 
     CommandBar* m_Toolbar1;
@@ -86,8 +101,11 @@ private:
     FittedLabel* m_lbldescr;
     FittedLabel* m_lblcollab;
     FittedLabel* m_stato;
+    PromptField* m_campo;
+    LegendBar* m_legenda;
     DetailPanel* m_panel;
     Annuncio* m_annuncio;
+    std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table
     QTimer m_mezzanotte;

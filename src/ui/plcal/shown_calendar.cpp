@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/shown_calendar.h"
 
+#include "ui/kit/fitting_font.h"
+
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -91,6 +94,14 @@ void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo
     setCurrentPage(calendario.Year(), calendario.Month());
 }
 
+/// Letters larger than a week's height would be cut.
+void ShownCalendar::fitLetters() {
+    const QFont letters = fontWithin(window()->font(), height() / Rows - 1);
+    if (letters.pointSizeF() != font().pointSizeF()) {
+        setFont(letters);
+    }
+}
+
 void ShownCalendar::fitHeading() {
     const int height = std::max(this->height() / Rows, fontMetrics().height() + 2);
     QFont letters = font();
@@ -105,8 +116,16 @@ void ShownCalendar::fitHeading() {
 }
 
 void ShownCalendar::resizeEvent(QResizeEvent* event) {
+    fitLetters();
     fitHeading();
     QCalendarWidget::resizeEvent(event);
+}
+
+void ShownCalendar::changeEvent(QEvent* event) {
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colourDays();
+    }
 }
 
 bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {

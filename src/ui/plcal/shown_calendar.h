@@ -21,11 +21,13 @@ Q_SIGNALS:
     void dayPicked(planner::Data giorno);
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void hideNavigation();
+    void fitLetters();
     void fitHeading();
     void colourDays();
     void pick(QDate day);

@@ -58,7 +58,7 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), m_form(form),
       m_messaggi(messaggi), m_fontFactor(fontFactorFor(*screen())),
       m_chart(new ChartView(*form.visibile(), m_fontFactor, this)), m_frame(makeFrame()),
-      m_stato(new FittedLabel(this)), m_annuncio(new Annuncio(this)) {
+      m_piede(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_annuncio(new Annuncio(this)) {
     setObjectName(QStringLiteral("plfgraf"));
     setWindowTitle(QStringLiteral("Planner"));
     setFont(stripFont(m_fontFactor));
@@ -67,6 +67,8 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     m_chart->setObjectName(fromUtf8(grafico().nome));
     m_chart->setAccessibleName(QStringLiteral("Grafico"));
     m_chart->setAccessibleDescription(heading);
+    m_piede->setObjectName(QStringLiteral("piede"));
+    m_piede->setText(fromUtf8(testoPiede(grafico())));
     m_stato->setObjectName(QStringLiteral("stato"));
     connect(m_chart, &ChartView::valuePointed, this, &ChartDialog::showValue);
     showValue({});
@@ -142,12 +144,32 @@ void ChartDialog::placeStrip(const QRect& strip) {
         (*button)->setGeometry(right, strip.center().y() - height / 2, width, height);
         right -= StripGap;
     }
-    m_stato->setGeometry(strip.x(), strip.y(), std::max(right - strip.x(), 0), strip.height());
+    m_texts = {strip.x(), strip.y(), std::max(right - strip.x(), 0), strip.height()};
+    placeTexts();
+}
+
+/// The foot stands at the left. What there is to say stands beside it, and comes first where both do not fit;
+/// an invitation is left out there.
+void ChartDialog::placeTexts() {
+    constexpr int gap = 12;
+    constexpr int narrowestFoot = 100;
+    const auto wanted = [](const QLabel& label) {
+        return label.fontMetrics().horizontalAdvance(label.text()) + 1;
+    };
+    const int left = m_texts.width() - gap - (m_resting ? 0 : wanted(*m_stato));
+    const int foot = std::min(wanted(*m_piede), left);
+    const bool footStands = foot >= std::min(narrowestFoot, wanted(*m_piede));
+    m_piede->setGeometry(m_texts.x(), m_texts.y(), footStands ? foot : 0, m_texts.height());
+    m_stato->setGeometry(m_texts.adjusted(footStands ? foot + gap : 0, 0, 0, 0));
+    m_stato->setVisible(!m_resting || m_stato->width() >= wanted(*m_stato));
 }
 
 void ChartDialog::say(const QString& text, const QString& spoken) {
-    m_stato->setText(fromUtf8(grafico().avviso) + text);
+    const QString trouble = fromUtf8(grafico().avviso);
+    m_stato->setText(trouble + text);
     m_stato->setAccessibleName(spoken);
+    m_resting = trouble.isEmpty() && text == Suggerimento;
+    placeTexts();
 }
 
 void ChartDialog::announce(const QString& text) {
@@ -159,8 +181,7 @@ void ChartDialog::showValue(const QModelIndex& index) {
     if (index.isValid()) {
         say(index.data(Qt::StatusTipRole).toString(), index.data(Qt::AccessibleTextRole).toString());
     } else {
-        const QString heading = fromUtf8(testoIntestazione(grafico()));
-        say(heading.isEmpty() ? Suggerimento : heading + QStringLiteral(".  ") + Suggerimento);
+        say(Suggerimento);
     }
 }
 

@@ -43,6 +43,7 @@ private:
     QSize smallestSize() const;
     void placeControls();
     void placeStrip(const QRect& strip);
+    void placeTexts();
     /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
     void say(const QString& text, const QString& spoken = {});
     /// Writes it too, and has a screen reader say it.
@@ -59,8 +60,11 @@ private:
     double m_fontFactor;
     ChartView* m_chart;
     ChartKindFrame* m_frame;
+    FittedLabel* m_piede; // whose hours, of when, in all and on the average
     FittedLabel* m_stato;
     Annuncio* m_annuncio;
+    QRect m_texts;                       // what the buttons leave of the strip
+    bool m_resting = true;               // the line invites, and says nothing else
     std::vector<QPushButton*> m_buttons; // from left to right
 };
 

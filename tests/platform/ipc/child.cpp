@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "child.h"
 
+#include "support/end_child.h"
+
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <poll.h>
@@ -27,8 +28,7 @@ namespace {
     } catch (...) {
         code = 126;
     }
-    // Where lines are counted the counts are written at the ordinary end.
-    IPC_COVERAGE != 0 ? std::exit(code) : _exit(code);
+    test::endChild(code);
 }
 
 // The letter after the closing bracket of the thread's name.

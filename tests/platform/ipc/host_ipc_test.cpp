@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "fault.h"
 #include "ipc_fixture.h"
 #include "platform/ipc/tavterm_host_ipc.h"
 
+#include <cerrno>
 #include <fstream>
 #include <functional>
 #include <semaphore>
@@ -104,6 +106,13 @@ TEST_F(HostIpcTest, ANameThatAnotherProcessOwnsIsATroubleOfItsOwn) {
 TEST_F(HostIpcTest, AnyOtherTroubleComesInTheSystemsWords) {
     const EsitoEvento esito = ipc.TvIpcCreazioneEvento(std::string(300, 'x'));
     EXPECT_EQ(esito, (GuaioEvento{false, "File name too long"}));
+}
+
+TEST_F(HostIpcTest, AWaitForWhichNoThreadCanBeMadeIsATrouble) {
+    ASSERT_FALSE(ipc.TvIpcCreazioneEvento("EV"));
+    failCall("pthread_create", 1, EAGAIN);
+    EXPECT_EQ(ipc.TvIpcWaitEvento("EV"), (GuaioEvento{false, "Resource temporarily unavailable"}));
+    EXPECT_TRUE(hasFailed());
 }
 
 TEST_F(HostIpcTest, TellsWhetherTheAnswerIsTakenAndWhetherAHostLives) {

@@ -32,7 +32,7 @@ std::vector<std::string> linesOf(const std::string& command) {
 }
 
 TEST_F(LibraryFileTest, ExportsTheFourCallsAndNothingElse) {
-    if (IPC_SANITIZED != 0) {
+    if (PLANNER_SANITIZED != 0) {
         GTEST_SKIP() << "sanitizers add symbols of their own";
     }
     std::set<std::string> exported;
@@ -45,7 +45,7 @@ TEST_F(LibraryFileTest, ExportsTheFourCallsAndNothingElse) {
 }
 
 TEST_F(LibraryFileTest, DependsOnTheCLibraryAlone) {
-    if (IPC_SANITIZED != 0) {
+    if (PLANNER_SANITIZED != 0) {
         GTEST_SKIP() << "sanitizers add libraries of their own";
     }
     std::vector<std::string> needed;

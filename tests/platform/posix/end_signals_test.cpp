@@ -61,14 +61,18 @@ INSTANTIATE_TEST_SUITE_P(Ends, EndSignalsTest, testing::Values(SIGTERM, SIGINT, 
 int writeBeyondLimit(const std::string& path) {
     return inChild([&path] {
         failBeyondFileLimit();
-        const rlimit tenBytes{10, 10};
+        rlimit usual{};
+        ::getrlimit(RLIMIT_FSIZE, &usual);
+        const rlimit tenBytes{10, usual.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &tenBytes);
+        int code = 1;
         try {
             PosixFileSystem().writeStart(path, std::string(121, 'x'));
         } catch (const FileError&) {
-            return 0;
+            code = 0;
         }
-        return 1;
+        ::setrlimit(RLIMIT_FSIZE, &usual);
+        return code;
     });
 }
 

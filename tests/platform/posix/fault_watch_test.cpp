@@ -13,7 +13,7 @@ namespace {
 constexpr int Said = 7;
 
 void sayAndEnd(int /*signal*/) {
-    ::_exit(Said);
+    endChild(Said);
 }
 
 void hang(int /*signal*/) {
@@ -40,6 +40,23 @@ TEST_P(FaultWatchTest, WithoutTheWatchAFaultIsWhatItWasBefore) {
                   return std::raise(GetParam());
               }),
               128 + GetParam());
+}
+
+TEST_P(FaultWatchTest, ItsEndGivesTheHandlerBack) {
+    EXPECT_EQ(inChild([] {
+                  std::signal(GetParam(), sayAndEnd);
+                  { const FaultWatch watch(hang); }
+                  return std::signal(GetParam(), SIG_DFL) == sayAndEnd ? 0 : 1;
+              }),
+              0);
+}
+
+TEST(EndSoonTest, TheProcessHasTwoSecondsLeft) {
+    EXPECT_EQ(inChild([] {
+                  endSoon();
+                  return static_cast<int>(::alarm(0)); // rounded
+              }),
+              2);
 }
 
 TEST_P(FaultWatchTest, LastWordsThatHangEndTheProcess) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "platform/posix/starter.h"
+#include "support/end_child.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ bool isReadable(const FileDescriptor& descriptor, int milliseconds) {
 
 void say(int pipe, char word) {
     if (::write(pipe, &word, 1) != 1) {
-        ::_exit(3);
+        endChild(3);
     }
 }
 
@@ -29,7 +30,7 @@ void say(int pipe, char word) {
     const FileDescriptor starter = watchStarter();
     say(told, isReadable(starter, 0) ? 'x' : 'w');
     say(told, isReadable(starter, ADayAtMost) ? 'g' : 'x');
-    ::_exit(0);
+    endChild(0);
 }
 
 char hear(int pipe) {
@@ -50,7 +51,7 @@ TEST(StarterTest, TheDescriptorBecomesReadableWhenTheStarterIsGone) {
             watch(told[1]);
         }
         char word = ' ';
-        ::_exit(static_cast<int>(::read(allowed[0], &word, 1)));
+        endChild(static_cast<int>(::read(allowed[0], &word, 1)));
     }
     EXPECT_EQ(hear(told[0]), 'w');
     ::close(allowed[1]);

@@ -8,6 +8,7 @@
 namespace planner::toolstest {
 
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -48,6 +49,17 @@ TEST_P(MisbehavingPlanner, ThatAnswersNonsenseIsNoticedAndEnded) {
     EXPECT_TRUE(result.inTime);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_THAT(result.errors, HasSubstr("risposta non valida"));
+}
+
+TEST_P(MisbehavingPlanner, ThatHadNoScreenIsExplained) {
+    const std::string missing = "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.";
+    setVariable("WAYLAND_DISPLAY", "");
+    setVariable("QT_QPA_PLATFORM", "");
+    setVariable("DISPLAY", "");
+    EXPECT_THAT(hostInMode("x").errors, HasSubstr(missing));
+    EXPECT_THAT(hostInMode("E").errors, Not(HasSubstr(missing)));
+    setVariable("DISPLAY", ":1");
+    EXPECT_THAT(hostInMode("x").errors, Not(HasSubstr(missing)));
 }
 
 TEST_P(MisbehavingPlanner, ThatSpoilsTheReservedFieldsIsReported) {

@@ -3,11 +3,15 @@
 #pragma once
 
 #include "engine/contenuti.h"
+#include "forms/plcal/campi.h"
 #include "forms/plcal/gesti.h"
+#include "forms/plcal/ingrandimento.h"
 #include "forms/plcal/panel.h"
+#include "forms/plcal/salti.h"
 #include "forms/plcal/vista_plcal.h"
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/tasti.h"
+#include "ports/collation.h"
 #include "ports/guard.h"
 #include "ports/planner_window.h"
 
@@ -29,6 +33,7 @@ public:
         plfcollab& collaboratori;
         std::function<void(plfgraf&)> finestraGrafici; // shows the visible chart, modal
         std::function<void(ComandoGriglia)> suCarta;   // copies or prints the visible grid; may ask, modal
+        const Collation& alfabeto;
     };
 
     plcal(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, const Porte& porte)
@@ -73,7 +78,16 @@ public:
     void Toolbar1_ButtonClick(std::string_view chiave);
     /// Refills the grid of the current kind at the level of detail that the toolbar shows.
     void refreshGrid();
-    /// Copies, prints or reads the visible grid; nothing without one.
+    /// Moves the shown day by the key's months, to the last day of a month that lacks it; outside the period
+    /// the status line says so and nothing moves.
+    void tastoPeriodo(const TastoPeriodo& tasto);
+    /// Takes the cursor where the jump leads, as an arrow does; where it leads nowhere the status line says
+    /// so.
+    void griglia_Salto(const Salto& salto);
+    /// The user has confirmed a field's text, UTF-8: goes there. False when there is nowhere to go, which the
+    /// status line then says; the field stays open.
+    bool campo_Conferma(CampoGriglia campo, const std::string& testo);
+    /// A command of the visible grid; without one there is the guide alone.
     void griglia_Comando(ComandoGriglia comando);
 
     // What the widgets show besides the controls.
@@ -83,6 +97,7 @@ public:
     /// cell.
     std::string stato() const;
     const Scala& scala() const { return m_scala; }
+    const Ingrandimento& ingrandimento() const { return m_ingrandimento; }
 
 private:
     const RegoleTipo& tipo() const { return regole(*m_controlli.tipoVisibile); }
@@ -114,13 +129,23 @@ private:
     void premi(std::string_view gruppo, int indice);
     void refill(Data giorno);
     void showPickedDay(Data giorno);
+    bool mostraGiorno(Data giorno);
+
+    // plcal_go.cpp
+    /// Writes the status line and has it spoken.
+    void annunciaStato(const std::string& testo);
+    void ingrandisci(ComandoGriglia comando);
+    void suCarta(ComandoGriglia comando);
+    void apriCampo(CampoGriglia campo);
+    bool cercaPersona();
+    std::optional<int> rigaCercata() const;
+    bool vaiAllaData(const std::string& testo);
+    bool vaiA(Data giorno);
 
     // plcal_commands.cpp
     void reply(std::string_view azione);
     void consult();
     bool canConsult() const;
-    /// Writes the status line and has it spoken.
-    void annunciaStato(const std::string& testo);
     void insimp();
     void showStaffList();
     void showChart();
@@ -132,9 +157,11 @@ private:
     Porte m_porte;
     bool m_loaded = false;
     Scala m_scala;
+    Ingrandimento m_ingrandimento;
     PannelloDettagli m_pannello;
     std::string m_stato;
-    std::string m_totaliDetti; // the last ones that were spoken
+    std::string m_totaliDetti;  // the last ones that were spoken
+    std::string m_testoCercato; // the last one, UTF-8
 };
 
 } // namespace planner

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/lettura.h"
 #include "forms/plcal/notices.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/yearly_day.h"
@@ -52,27 +51,6 @@ void plcal::Toolbar1_ButtonClick(std::string_view chiave) {
     } else if (chiave == "info") {
         m_porte.vista.mostraInformazioni();
     }
-}
-
-void plcal::griglia_Comando(ComandoGriglia comando) {
-    if (!m_controlli.tipoVisibile) {
-        return;
-    }
-    if (comando == ComandoGriglia::leggi) {
-        esegui([&] { annunciaStato(fraseLettura(m_controlli, m_sessione)); });
-        return;
-    }
-    esegui([&] {
-        m_porte.suCarta(comando);
-        if (comando == ComandoGriglia::copia) {
-            annunciaStato("La tabella è stata copiata.");
-        }
-    });
-}
-
-void plcal::annunciaStato(const std::string& testo) {
-    m_stato = testo;
-    m_porte.vista.annuncia(testo);
 }
 
 void plcal::reply(std::string_view azione) {

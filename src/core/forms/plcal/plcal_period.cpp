@@ -63,18 +63,22 @@ std::optional<Data> plcal::mossa(const PulsantePeriodo& pulsante) const {
 }
 
 void plcal::calendario_DateClick(Data giorno) {
-    esegui([&] {
-        const Data shown = m_controlli.calendario.Value();
-        if (!m_controlli.tipoVisibile || !tipo().limiti(m_sessione.periodo, shown).contiene(giorno)) {
-            return;
-        }
-        if (tipo().mostraAnche(giorno, shown)) {
-            showPickedDay(giorno);
-        } else {
-            refill(giorno);
-            m_porte.vista.annuncia(nomePeriodo(m_controlli));
-        }
-    });
+    esegui([&] { mostraGiorno(giorno); });
+}
+
+/// False for a day outside the period, which changes nothing.
+bool plcal::mostraGiorno(Data giorno) {
+    const Data shown = m_controlli.calendario.Value();
+    if (!m_controlli.tipoVisibile || !tipo().limiti(m_sessione.periodo, shown).contiene(giorno)) {
+        return false;
+    }
+    if (tipo().mostraAnche(giorno, shown)) {
+        showPickedDay(giorno);
+    } else {
+        refill(giorno);
+        m_porte.vista.annuncia(nomePeriodo(m_controlli));
+    }
+    return true;
 }
 
 /// The grid shows the day already: only calendar, cursor and what hangs on them move.

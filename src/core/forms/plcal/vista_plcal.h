@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/plcal/campi.h"
 #include "forms/plcal/geometry.h"
 
 #include <functional>
@@ -30,6 +31,11 @@ public:
     virtual int primaColonnaInVista() const = 0;
     /// Scrolls back to the grid's beginning, and from there as far as the current cell's row needs it.
     virtual void scorriAlCursore() = 0;
+    /// Scrolls as little as it takes to have the current cell in sight.
+    virtual void portaCursoreInVista() = 0;
+    /// Opens a field for a text, to start from `testo`, UTF-8; one at a time. What the user confirms goes to
+    /// `plcal::campo_Conferma`.
+    virtual void apriCampo(const DescrizioneCampo& campo, const std::string& testo) = 0;
     /// Runs the action once the event that is being handled is over.
     virtual void rinvia(std::function<void()> azione) = 0;
     virtual void mostra() = 0;
@@ -41,6 +47,8 @@ public:
     virtual void mostraInformazioni() = 0;
     /// Has a screen reader say the text, UTF-8.
     virtual void annuncia(const std::string& testo) = 0;
+    /// Shows the office's guide in a window of its own, which `nascondi` takes out of sight too.
+    virtual void mostraGuida() = 0;
 };
 
 } // namespace planner

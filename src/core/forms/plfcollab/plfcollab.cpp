@@ -4,6 +4,7 @@
 
 #include "archive/cp1252.h"
 #include "archive/fixed_text.h"
+#include "forms/ricerca.h"
 #include "ports/guard.h"
 
 #include <algorithm>
@@ -107,23 +108,10 @@ void plfcollab::cercaTesto() {
 }
 
 std::optional<int> plfcollab::trova(const std::string& testo) const {
-    const std::string piegato = m_porte.alfabeto.folded(testo);
-    const int righe = piegato.empty() ? 0 : m_lista.righe();
-    const int prima = m_lista.selezionata().value_or(-1) + 1;
-    for (int passo = 0; passo < righe; ++passo) {
-        const int riga = (prima + passo) % righe; // the selected row comes last
-        if (contiene(riga, piegato)) {
-            return riga;
-        }
-    }
-    return std::nullopt;
-}
-
-bool plfcollab::contiene(int riga, const std::string& piegato) const {
-    const auto holds = [&](const std::string& text) {
-        return m_porte.alfabeto.folded(utf8FromCp1252(text)).find(piegato) != std::string::npos;
-    };
-    return holds(m_lista.riga(riga).nome) || holds(m_lista.riga(riga).codice);
+    const int corrente = m_lista.selezionata().value_or(-1);
+    return cercaRiga(m_porte.alfabeto, testo, m_lista.righe(), corrente, [this](int riga) {
+        return TestiCercati{m_lista.riga(riga).nome, m_lista.riga(riga).codice};
+    });
 }
 
 void plfcollab::ordina() {

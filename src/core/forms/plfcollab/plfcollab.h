@@ -63,7 +63,6 @@ private:
     void cerca();
     void cercaTesto();
     std::optional<int> trova(const std::string& testo) const;
-    bool contiene(int riga, const std::string& piegato) const;
     void ordina();
     void conferma();
 

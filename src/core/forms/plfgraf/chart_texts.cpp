@@ -46,6 +46,13 @@ std::string voceDi(const Grafico& grafico, std::size_t numero) {
     return visibleFromCp1252(grafico.voci.at(numero));
 }
 
+/// What a pie adds to a value that it shows a slice of.
+std::string share(const Grafico& grafico, std::size_t numero) {
+    const std::string quota =
+        grafico.tipo == TipoGrafico::Torta ? testoQuota(grafico, numero) : std::string();
+    return quota.empty() ? quota : ", " + quota;
+}
+
 } // namespace
 
 std::string testoOre(double ore) {
@@ -89,11 +96,40 @@ std::string oreParlate(double ore) {
 }
 
 std::string fraseValore(const Grafico& grafico, std::size_t numero) {
-    return voceDi(grafico, numero) + ": " + testoOre(grafico.valore(numero));
+    return voceDi(grafico, numero) + ": " + testoOre(grafico.valore(numero)) + share(grafico, numero);
 }
 
 std::string fraseParlata(const Grafico& grafico, std::size_t numero) {
-    return voceDi(grafico, numero) + ": " + oreParlate(grafico.valore(numero));
+    return voceDi(grafico, numero) + ": " + oreParlate(grafico.valore(numero)) + share(grafico, numero);
+}
+
+std::string testoQuota(const Grafico& grafico, std::size_t numero) {
+    double total = 0;
+    for (std::size_t each = 0; each < grafico.numValori(); ++each) {
+        total += std::max(grafico.valore(each), 0.0);
+    }
+    const double value = grafico.valore(numero);
+    if (!(value > 0) || !std::isfinite(total)) {
+        return {};
+    }
+    constexpr double hundred = 100;
+    const long hundredths = std::lround(value / total * hundred);
+    return hundredths == 0 ? "<1 %" : std::to_string(hundredths) + " %";
+}
+
+std::string testoPiede(const Grafico& grafico) {
+    double total = 0;
+    long long count = 0;
+    for (std::size_t each = 0; each < grafico.numValori(); ++each) {
+        total += grafico.valore(each);
+        count += grafico.valore(each) != 0 ? 1 : 0;
+    }
+    const std::string heading = testoIntestazione(grafico);
+    const std::string hours = count == 0 ? std::string("nessuna ora")
+                                         : "totale " + testoOre(total) + ", media " +
+                                               testoOre(total / static_cast<double>(count)) + " su " +
+                                               counted(count, grafico.voceUna, grafico.voceMolte);
+    return heading.empty() ? hours : heading + ": " + hours;
 }
 
 std::string testoIntestazione(const Grafico& grafico) {

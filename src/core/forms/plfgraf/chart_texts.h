@@ -23,12 +23,21 @@ std::string testoDecimale(double valore);
 /// billion hours without minutes.
 std::string oreParlate(double ore);
 
-/// The value in a line to read: "15 marzo: 7:30". Throws std::out_of_range past the last value.
+/// The value in a line to read: "15 marzo: 7:30", in a pie with its share. Throws std::out_of_range past the
+/// last value.
 std::string fraseValore(const Grafico& grafico, std::size_t numero);
 
-/// The value in a spoken sentence: "15 marzo: 7 ore e 30 minuti". Throws std::out_of_range past the last
-/// value.
+/// The value in a spoken sentence: "15 marzo: 7 ore e 30 minuti", in a pie with its share. Throws
+/// std::out_of_range past the last value.
 std::string fraseParlata(const Grafico& grafico, std::size_t numero);
+
+/// A value's share of a pie, in hundredths: "48 %", "<1 %"; empty for one that has no slice. Throws
+/// std::out_of_range past the last value.
+std::string testoQuota(const Grafico& grafico, std::size_t numero);
+
+/// The line at the chart's foot: its heading, the hours in all and the mean of the values that are not 0,
+/// "Ore di Rossi Bruno - marzo 2006: totale 152:30, media 7:15 su 21 giorni".
+std::string testoPiede(const Grafico& grafico);
 
 /// The chart's heading, with blanks for control characters: "Ore di Rossi Bruno - marzo 2006".
 std::string testoIntestazione(const Grafico& grafico);

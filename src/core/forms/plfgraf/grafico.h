@@ -73,6 +73,7 @@ struct Grafico {
     DescrizioneCarattere fontTitoliAssi{"Tahoma", 9, true};
     std::vector<std::string> etichette; // of the rows, along the X axis
     std::vector<SerieGrafico> serie;
+    std::string_view voceUna = "valore", voceMolte = "valori"; // what a value is of, one and several
     std::vector<std::string> voci; // what each value stands for, in sentences; in the order of `valore`
 
     /// The values are counted from 0: the rows of the first series, then those of the next one.

@@ -77,8 +77,9 @@ std::vector<SideLabel> makeLabels(const ChartLayoutTask& task) {
     const ChartLayout& layout = task.layout;
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::size_t number = layout.slices[i].number;
-        const std::string text =
-            utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(task.grafico.valore(number));
+        const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " +
+                                 testoOre(task.grafico.valore(number)) + "  " +
+                                 testoQuota(task.grafico, number);
         ChartSize size = task.measure(ChartTextRole::value, text);
         size = {size.width + 2 * LabelPadding, size.height + LabelPadding};
         labels.push_back({i, text, size, layout.slices[i].span, 0});

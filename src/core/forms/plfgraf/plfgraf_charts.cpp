@@ -125,6 +125,8 @@ void plfgraf::VisualizzaGraficoMensile(IndiceCollaboratore collab) {
     ValoriGrafico valori = valoriMensili(m_archivi, m_calendario, collab);
     setUnaSerie(grafico, std::move(valori.valori));
     grafico.TitleText = "Planner Mensile";
+    grafico.voceUna = "giorno";
+    grafico.voceMolte = "giorni";
     grafico.titoloIncorniciato = true;
     setEtichetteGiorni(grafico, m_calendario);
     const Collaboratore& collaboratore = collaboratoreGrafico(m_archivi, collab);
@@ -138,6 +140,8 @@ void plfgraf::VisualizzaGraficoGiornaliero(IndiceCollaboratore collab) {
     ValoriGrafico valori = valoriGiornalieri(m_archivi, m_calendario);
     setUnaSerie(grafico, std::move(valori.valori));
     grafico.TitleText = "Planner Giornaliero";
+    grafico.voceUna = "collaboratore";
+    grafico.voceMolte = "collaboratori";
     grafico.intestazione = intestazioneGiornaliera(m_calendario);
     setEtichetteCollaboratori(grafico, collaboratoriGrafico(m_archivi));
     grafico.serie.front().etichetta = collaboratoreGrafico(m_archivi, collab).nome.trimmedRight();
@@ -153,6 +157,8 @@ void plfgraf::VisualizzaGraficoAnnuale() {
     grafico.TitleText = righeGrafico(m_archivi).empty() ? "" : "Planner Annuale";
     grafico.titoloIncorniciato = true;
     grafico.intestazione = intestazioneAnnuale(m_calendario);
+    grafico.voceUna = "mese";
+    grafico.voceMolte = "mesi";
     setEtichetteMesi(grafico, m_calendario);
     setAssiAnnuali(grafico, m_calendario, valori.massimo);
 }

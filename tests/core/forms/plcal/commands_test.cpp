@@ -266,6 +266,20 @@ TEST_F(CommandsTest, TheGridsOwnCommandsCopyAndPrintAndAnswerNothing) {
     EXPECT_THAT(reply(), IsEmpty());
 }
 
+TEST_F(CommandsTest, TheGridIsShownSmallerForAllRequestsOfTheProgram) {
+    open("M");
+    form.griglia_Comando(ComandoGriglia::riduci);
+    EXPECT_EQ(form.ingrandimento().percento(), 90);
+    EXPECT_EQ(form.stato(), "Ingrandimento al 90 %.");
+    EXPECT_EQ(bench.journal, (Journal{"update"}));
+    EXPECT_THAT(reply(), IsEmpty());
+    press("exit");
+    open("G");
+    EXPECT_EQ(form.ingrandimento().percento(), 90);
+    form.griglia_Comando(ComandoGriglia::grandezzaNormale);
+    EXPECT_EQ(form.ingrandimento().percento(), 100);
+}
+
 TEST_F(CommandsTest, WithoutAGridThereIsNothingToPrint) {
     open("X");
     bench.journal.clear();

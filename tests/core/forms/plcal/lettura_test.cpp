@@ -79,7 +79,7 @@ TEST_F(LetturaTest, AnotherPeriodIsAnnouncedByItsName) {
     form.bselm_Click(1);
     EXPECT_THAT(vista.announced, ElementsAre("aprile 2006"));
     open("G", "20060424");
-    form.bselg_Click(1);
+    form.bselg_Click(2);
     EXPECT_EQ(vista.announced.back(), "martedì 25 aprile 2006, Festa della Liberazione");
     form.calendario_DateClick(parseDate("20060815").value());
     EXPECT_EQ(vista.announced.back(), "martedì 15 agosto 2006, Ferragosto");

@@ -48,7 +48,8 @@ protected:
                 [this](ComandoGriglia comando) {
                     bench.journal.push_back(
                         std::string(ComandiGriglia.at(static_cast<std::size_t>(comando)).nome));
-                }}};
+                },
+                alfabeto}};
 };
 
 } // namespace planner::test

@@ -53,6 +53,40 @@ TEST(TestoOreTest, IsHoursAndMinutes) {
     EXPECT_EQ(testoOre(1234 + 5.0 / 60), "1234:05");
 }
 
+TEST(TestoQuotaTest, IsTheSharesHundredthsInAPie) {
+    Grafico pie =
+        chart({"1", "2", "3", "4"}, {30, 0, 69.8, 0.2}, {"1 marzo", "2 marzo", "3 marzo", "4 marzo"});
+    EXPECT_EQ(testoQuota(pie, 0), "30 %");
+    EXPECT_EQ(testoQuota(pie, 1), "");
+    EXPECT_EQ(testoQuota(pie, 2), "70 %");
+    EXPECT_EQ(testoQuota(pie, 3), "<1 %");
+    EXPECT_EQ(fraseValore(pie, 0), "1 marzo: 30:00");
+    pie.tipo = TipoGrafico::Torta;
+    EXPECT_EQ(fraseValore(pie, 0), "1 marzo: 30:00, 30 %");
+    EXPECT_EQ(fraseValore(pie, 1), "2 marzo: 0:00");
+    EXPECT_EQ(fraseParlata(pie, 0), "1 marzo: 30 ore, 30 %");
+    EXPECT_THROW(testoQuota(pie, 4), std::out_of_range);
+}
+
+TEST(TestoQuotaTest, NegativeAndEndlessValuesHaveNoShare) {
+    EXPECT_EQ(testoQuota(chart({"1", "2"}, {-5, 5}, {"a", "b"}), 0), "");
+    EXPECT_EQ(testoQuota(chart({"1", "2"}, {-5, 5}, {"a", "b"}), 1), "100 %");
+    EXPECT_EQ(testoQuota(chart({"1", "2"}, {MassimoDouble, MassimoDouble}, {"a", "b"}), 0), "");
+}
+
+TEST(TestoPiedeTest, SaysWhoseHoursHowManyAndTheMean) {
+    Grafico month = chart({"1", "2", "3"}, {7.5, 0, 8.25}, {"1 marzo", "2 marzo", "3 marzo"});
+    EXPECT_EQ(testoPiede(month), "totale 15:45, media 7:53 su 2 valori");
+    month.intestazione = "Ore di Rossi Bruno - marzo 2006";
+    month.voceUna = "giorno";
+    month.voceMolte = "giorni";
+    EXPECT_EQ(testoPiede(month), "Ore di Rossi Bruno - marzo 2006: totale 15:45, media 7:53 su 2 giorni");
+    month.serie.front().valori = {7.5, 0, 0};
+    EXPECT_EQ(testoPiede(month), "Ore di Rossi Bruno - marzo 2006: totale 7:30, media 7:30 su 1 giorno");
+    month.serie.front().valori = {0, 0, 0};
+    EXPECT_EQ(testoPiede(month), "Ore di Rossi Bruno - marzo 2006: nessuna ora");
+}
+
 TEST(TestoOreTest, RoundsToTheNearestMinute) {
     EXPECT_EQ(testoOre(7 + 29.6 / 60), "7:30");
     EXPECT_EQ(testoOre(7 + 29.4 / 60), "7:29");

@@ -42,13 +42,13 @@ TEST(PieLayout, SlicesCloseTheCircle) {
 
 TEST(PieLayout, LabelsNameTheRowAndItsHours) {
     const ChartLayout layout = layoutOf(asPie(oneSeries({7.5, 0, 8.25}, 9)));
-    EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("1  7:30", "3  8:15"));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), ElementsAre("1  7:30  48 %", "3  8:15  52 %"));
 }
 
 TEST(PieLayout, ASliceOfSeveralSeriesIsLabelledWithItsSeries) {
     const ChartLayout layout = layoutOf(asPie(twelveSeries(std::vector<double>(12, 50))));
     EXPECT_THAT(layout.slices, SizeIs(12));
-    EXPECT_THAT(textsOf(layout, ChartTextRole::value), testing::Contains("M12  50:00"));
+    EXPECT_THAT(textsOf(layout, ChartTextRole::value), testing::Contains("M12  50:00  8 %"));
 }
 
 TEST(PieLayout, LabelsStandOutsideThePieInsideTheFrameAndClearOfEachOther) {

@@ -41,4 +41,18 @@ inline constexpr std::array PulsantiPeriodo{
                     "Alt+Right; Ctrl+Alt+Right; Ctrl+Shift+PgDown"},
 };
 
+/// A move of the period by key, where no button stands for it.
+struct TastoPeriodo {
+    TipoPlanner tipo; // in whose grid
+    int mesi;
+    std::string_view nome;
+    std::string_view didascalia;  // Italian
+    std::string_view scorciatoia; // of that grid alone
+};
+
+inline constexpr std::array TastiPeriodo{
+    TastoPeriodo{TipoPlanner::Giornaliero, -1, "meseIndietro", "Un mese indietro", "Ctrl+PgUp"},
+    TastoPeriodo{TipoPlanner::Giornaliero, 1, "meseAvanti", "Un mese avanti", "Ctrl+PgDown"},
+};
+
 } // namespace planner

@@ -4,9 +4,11 @@
 
 #include <dlfcn.h>
 #include <errno.h>
+#include <pthread.h>
 #include <stdarg.h>
 #include <stddef.h>
 #include <string.h>
+#include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -103,12 +105,45 @@ ssize_t getrandom(void* bytes, size_t length, unsigned flags) {
                                 : NEXT("getrandom", ssize_t, void*, size_t, unsigned)(bytes, length, flags);
 }
 
+ssize_t read(int descriptor, void* bytes, size_t length) {
+    return strikes("read") ? -1 : NEXT("read", ssize_t, int, void*, size_t)(descriptor, bytes, length);
+}
+
+ssize_t pwrite(int descriptor, const void* bytes, size_t length, off_t offset) {
+    return strikes("pwrite")
+               ? -1
+               : NEXT("pwrite", ssize_t, int, const void*, size_t, off_t)(descriptor, bytes, length, offset);
+}
+
+int fsync(int descriptor) {
+    return strikes("fsync") ? -1 : NEXT("fsync", int, int)(descriptor);
+}
+
+// The descriptor is closed all the same, as the system does it.
+int close(int descriptor) {
+    const int result = NEXT("close", int, int)(descriptor);
+    return strikes("close") ? -1 : result;
+}
+
+int signalfd(int descriptor, const sigset_t* signals, int flags) {
+    return strikes("signalfd") ? -1
+                               : NEXT("signalfd", int, int, const sigset_t*, int)(descriptor, signals, flags);
+}
+
+// Tells its error by its result.
+int pthread_create(pthread_t* thread, const pthread_attr_t* attributes, void* (*start)(void*),
+                   void* argument) {
+    return strikes("pthread_create") ? plan.error
+                                     : NEXT("pthread_create", int, pthread_t*, const pthread_attr_t*,
+                                            void* (*)(void*), void*)(thread, attributes, start, argument);
+}
+
 int fstat(int descriptor, struct stat* status) {
     return strikes("fstat") ? -1 : NEXT("fstat", int, int, struct stat*)(descriptor, status);
 }
 
 // The sanitizers keep the heap to themselves.
-#if !IPC_SANITIZED
+#if !PLANNER_SANITIZED
 void* __libc_calloc(size_t count, size_t size);
 
 void* calloc(size_t count, size_t size) {

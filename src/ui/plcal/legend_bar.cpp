@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The planner authors
+// SPDX-License-Identifier: MIT
+#include "ui/plcal/legend_bar.h"
+
+#include "forms/plcal/legenda_in_vista.h"
+#include "ui/kit/appearance.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/fitting_font.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace planner {
+
+namespace {
+
+constexpr int Gap = 4; // pixels: around a sign, and between it and its word
+constexpr int EntryGap = 12;
+
+} // namespace
+
+LegendBar::LegendBar(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("legenda"));
+    setAccessibleName(QStringLiteral("Legenda"));
+}
+
+void LegendBar::setEntries(const std::vector<VoceLegenda>& voci) {
+    m_voci = voci;
+    const QString sentence = fromUtf8(fraseLegenda(voci));
+    if (sentence != accessibleDescription()) {
+        setAccessibleDescription(sentence);
+    }
+    update();
+}
+
+int LegendBar::side() const {
+    return std::max(height() - 2, 1);
+}
+
+QFont LegendBar::letters() const {
+    return fontWithin(font(), height());
+}
+
+int LegendBar::entryWidth(const VoceLegenda& voce, bool words) const {
+    const int word =
+        words ? Gap + QFontMetrics(letters()).horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap;
+    return side() + word;
+}
+
+int LegendBar::widthOf(bool words) const {
+    int width = 0;
+    for (const VoceLegenda& voce : m_voci) {
+        width += entryWidth(voce, words);
+    }
+    return width;
+}
+
+QString LegendBar::toolTipAt(const QPoint& position) const {
+    int left = 0;
+    for (const VoceLegenda& voce : m_voci) {
+        left += entryWidth(voce, showsWords());
+        if (position.x() < left) {
+            return fromUtf8(voce.significato);
+        }
+    }
+    return {};
+}
+
+bool LegendBar::event(QEvent* event) {
+    return showToolTip(*event, *this, [this](QPoint position) { return toolTipAt(position); }) ||
+           QWidget::event(event);
+}
+
+/// The signs are drawn for light cells, so they stand on one here too.
+void LegendBar::paintSign(QPainter& painter, const QRect& square, const VoceLegenda& voce) {
+    const bool marked = voce.immagine == VoceLegenda::GiornoSegnato;
+    painter.fillRect(square, qtColor(Colore::lineaForte));
+    const QRect ground = square.adjusted(1, 1, -1, -1);
+    painter.fillRect(ground, qtColor(marked ? Colore::navy : Colore::gialloChiaro));
+    const QPixmap& sign =
+        m_pictures.line(voce.immagine, ground.adjusted(1, 1, -1, -1).size(), devicePixelRatioF());
+    painter.drawPixmap(ground.topLeft() + QPoint(1, 1), sign);
+}
+
+void LegendBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setFont(letters());
+    painter.setPen(palette().color(foregroundRole()));
+    int left = 0;
+    for (const VoceLegenda& voce : m_voci) {
+        const QRect square(left, (height() - side()) / 2, side(), side());
+        paintSign(painter, square, voce);
+        if (showsWords()) {
+            painter.drawText(QRect(square.right() + 1 + Gap, 0, width(), height()),
+                             static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine),
+                             fromUtf8(voce.breve));
+        }
+        left += entryWidth(voce, showsWords());
+    }
+}
+
+} // namespace planner
