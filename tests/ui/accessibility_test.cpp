@@ -50,6 +50,10 @@ TEST_F(AccessibilityTest, EveryButtonHasItsCaptionOrToolTipAsName) {
         EXPECT_EQ(nameOf(*toolbar.widgetForAction(action)), fromUtf8(button.didascalia));
     }
     EXPECT_EQ(nameOf(bench.widget("bselm0")), QStringLiteral("Mese precedente"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bench.widget("bselm0"))->text(QAccessible::Description),
+              QKeySequence::listToString(QKeySequence::listFromString(QStringLiteral("Alt+Left; Ctrl+PgUp")),
+                                         QKeySequence::NativeText))
+        << "its keys, and not its name once more";
     EXPECT_EQ(nameOf(bench.widget("bselm3")), QStringLiteral("Anno successivo"));
 }
 
@@ -138,6 +142,11 @@ TEST_F(AccessibilityTest, WhatDoesNotShowOrHasNotTheFocusIsNotTold) {
     EXPECT_TRUE(isPerceived(QAccessibleEvent(&bench.view(), QAccessible::Focus)));
     auto* days = bench.widget("calendario").findChild<QTableView*>();
     EXPECT_FALSE(isPerceived(QAccessibleEvent(days, QAccessible::Focus))) << "the calendar's";
+}
+
+TEST_F(AccessibilityTest, AFrameAroundAFieldIsNoWindow) {
+    bench.open("M");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bench.widget("campo"))->role(), QAccessible::Grouping);
 }
 
 TEST_F(AccessibilityTest, EverythingThatTakesTheFocusHasAName) {

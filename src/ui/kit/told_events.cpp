@@ -3,6 +3,8 @@
 #include "ui/kit/told_events.h"
 
 #include <QAbstractItemView>
+#include <QAccessibleWidget>
+#include <QFrame>
 
 namespace planner {
 
@@ -13,6 +15,14 @@ void tell(QAccessibleEvent& event) {
     const QAccessible::UpdateHandler handler = QAccessible::installUpdateHandler(nullptr);
     QAccessible::updateAccessibility(&event);
     QAccessible::installUpdateHandler(handler);
+}
+
+/// A frame drawn around some controls. The toolkit gives it the role that assistive programs take for a
+/// window's, which is not the active one: they would keep silent about whatever has the focus in it.
+QAccessibleInterface* describeFrame(const QString& name, QObject* object) {
+    return name == QLatin1String(QFrame::staticMetaObject.className())
+               ? new QAccessibleWidget(static_cast<QFrame*>(object), QAccessible::Grouping)
+               : nullptr;
 }
 
 void handle(QAccessibleEvent* event) {
@@ -52,9 +62,12 @@ QAccessibleInterface* focusedItem(const QAccessibleEvent& event) {
     return item == told ? nullptr : item;
 }
 
-ToldEvents::ToldEvents() : m_before(QAccessible::installUpdateHandler(handle)) {}
+ToldEvents::ToldEvents() : m_before(QAccessible::installUpdateHandler(handle)) {
+    QAccessible::installFactory(describeFrame);
+}
 
 ToldEvents::~ToldEvents() {
+    QAccessible::removeFactory(describeFrame);
     QAccessible::installUpdateHandler(m_before);
 }
 

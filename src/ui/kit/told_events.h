@@ -14,7 +14,7 @@ bool isPerceived(const QAccessibleEvent& event);
 QAccessibleInterface* focusedItem(const QAccessibleEvent& event);
 
 /// As long as it lives, assistive programs are told of what is perceived and of nothing else, and of the item
-/// instead of the view that gets the focus. What they ask is answered as ever.
+/// instead of the view that gets the focus. What they ask is answered as ever, but for the role of frames.
 class ToldEvents {
 public:
     ToldEvents();

@@ -48,7 +48,7 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
     button->setPalette(lightButtonPalette());
     const QString caption = fromUtf8(described.suggerimento);
     button->setToolTip(captionWithKeys(caption, keysOf(described)));
-    button->setAccessibleName(caption);
+    nameButton(*button, caption, keysOf(described));
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this,
             [this, &described] { Q_EMIT periodButtonClicked(described); });

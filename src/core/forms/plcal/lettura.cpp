@@ -5,6 +5,7 @@
 #include "engine/kinds/kind.h"
 #include "forms/plcal/impegni_casella.h"
 #include "forms/plcal/panel.h"
+#include "forms/plcal/salti.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
 #include "session/calendar_rules.h"
@@ -17,39 +18,50 @@ namespace planner {
 
 namespace {
 
-/// A total, and the part of it that is done.
-struct TotaleLetto {
-    Totale totale;
-    std::string_view singolare, plurale;
-    std::optional<Totale> concluse;
+/// The part of a total that is done, where it is counted.
+constexpr std::optional<Totale> concluse(Totale totale) {
+    return totale == Totale::scadenze   ? std::optional(Totale::scadenzeConcluse)
+           : totale == Totale::pratiche ? std::optional(Totale::praticheConcluse)
+                                        : std::nullopt;
+}
+
+/// Totals are listed after a comma each, and left out where there is none.
+class Elenco {
+public:
+    void aggiungi(double numero, std::string_view singolare, std::string_view plurale) {
+        if (!formatoTotale(numero).empty()) {
+            m_testo += (m_testo.empty() ? "" : ", ") + quanti(numero, singolare, plurale);
+        }
+    }
+    /// To what was added last.
+    void aggiungiConcluse(double numero) {
+        if (!formatoTotale(numero).empty()) {
+            m_testo += " (" + quanti(numero, "conclusa", "concluse") + ")";
+        }
+    }
+    std::string testo() const { return m_testo.empty() ? "nessun impegno" : m_testo; }
+
+private:
+    std::string m_testo;
 };
-constexpr std::array TotaliLetti{
-    TotaleLetto{Totale::scadenze, "scadenza", "scadenze", Totale::scadenzeConcluse},
-    TotaleLetto{Totale::pratiche, "pratica", "pratiche", Totale::praticheConcluse},
-    TotaleLetto{Totale::impegniVari, "impegno vario", "impegni vari", std::nullopt},
-    TotaleLetto{Totale::noteRiservate, "nota riservata", "note riservate", std::nullopt}};
 
 /// The totals as `of` gives them, in words.
 template <typename Of>
 std::string inWords(Of of) {
-    std::string text;
-    for (const TotaleLetto& each : TotaliLetti) {
-        const double number = of(each.totale);
-        if (formatoTotale(number).empty()) {
-            continue;
-        }
-        text += (text.empty() ? "" : ", ") + quanti(number, each.singolare, each.plurale);
-        const std::string done = each.concluse ? formatoTotale(of(*each.concluse)) : std::string();
-        if (!done.empty()) {
-            text += " (" + done + (done == "1" ? " conclusa)" : " concluse)");
+    Elenco elenco;
+    for (const TipoImpegno tipo : OrdineTipi) {
+        const DescrizioneImpegno& described = descrizione(tipo);
+        elenco.aggiungi(of(described.totale), described.singolare, described.nome);
+        if (const auto done = concluse(described.totale); done && of(described.totale) > 0) {
+            elenco.aggiungiConcluse(of(*done));
         }
     }
-    return text.empty() ? "nessun impegno" : text;
+    elenco.aggiungi(of(Totale::altro), "altro", "altri");
+    return elenco.testo();
 }
 
 /// The totals of every day that the yearly table marks.
 std::string yearInWords(const ControlliPlcal& controlli, const modpl& sessione) {
-    std::vector<std::string> totals;
     const Griglia& griglia = controlli.flxa;
     std::array<double, EtichetteTotali.size()> sums{};
     for (int riga = griglia.FixedRows(); riga < griglia.Rows(); ++riga) {
@@ -63,14 +75,11 @@ std::string yearInWords(const ControlliPlcal& controlli, const modpl& sessione) 
             }
         }
     }
-    std::string text;
+    Elenco elenco;
     for (std::size_t i = 0; i < sums.size(); ++i) {
-        if (!formatoTotale(sums[i]).empty()) {
-            text += (text.empty() ? "" : ", ") +
-                    quanti(sums[i], EtichetteTotali[i].singolare, EtichetteTotali[i].nomeInFrase);
-        }
+        elenco.aggiungi(sums[i], EtichetteTotali[i].singolare, EtichetteTotali[i].nomeInFrase);
     }
-    return text.empty() ? "nessun impegno" : text;
+    return elenco.testo();
 }
 
 /// The day or the hour that a cell of the visible grid stands for.
@@ -82,32 +91,13 @@ std::string when(const ControlliPlcal& controlli, const RegoleTipo& tipo, Casell
     return giorno ? giornoInParole(*giorno) : std::string();
 }
 
-/// The first column after the cursor at which something stands; in the daily grid, begins.
-std::optional<int> nextColumn(const ControlliPlcal& controlli, const modpl& sessione, const RegoleTipo& tipo,
-                              Casella cursore) {
-    const Griglia& griglia = controlli.griglia(tipo.tipo);
-    const auto bars = griglia.fasce(cursore.riga);
-    for (int colonna = cursore.colonna + 1; colonna < griglia.Cols(); ++colonna) {
-        const bool begins = std::any_of(bars.begin(), bars.end(),
-                                        [&](const FasciaImpegno& bar) { return bar.prima == colonna; });
-        const bool holds = !tipo.unGiorno &&
-                           !contenutoCella(controlli, sessione, tipo.tipo, {cursore.riga, colonna}).empty();
-        if (begins || holds) {
-            return colonna;
-        }
-    }
-    return std::nullopt;
-}
-
-std::string nextInWords(const ControlliPlcal& controlli, const modpl& sessione, const RegoleTipo& tipo,
-                        Casella cursore) {
-    const auto colonna = nextColumn(controlli, sessione, tipo, cursore);
-    if (!colonna) {
+std::string nextInWords(const ControlliPlcal& controlli, const modpl& sessione, const RegoleTipo& tipo) {
+    const auto next = destinazione(controlli, sessione.archivi, SaltoSuccessivo);
+    if (!next) {
         return "Poi nessun altro impegno.";
     }
-    const Casella next{cursore.riga, *colonna};
-    return "Poi " + when(controlli, tipo, next) + ": " + dettagliCella(controlli, sessione, tipo.tipo, next) +
-           ".";
+    const std::string details = dettagliCella(controlli, sessione, tipo.tipo, *next);
+    return "Poi " + when(controlli, tipo, *next) + (details.empty() ? "" : ": " + details) + ".";
 }
 
 } // namespace
@@ -149,8 +139,7 @@ std::string fraseLettura(const ControlliPlcal& controlli, const modpl& sessione)
     const std::string cell = fraseCella(controlli, sessione, tipo->tipo, cursore);
     const std::string name = nomeCasella(controlli, sessione, tipo->tipo, cursore);
     return (cell.empty() ? name : cell) + ". Totali di " + nomePeriodo(controlli) + ": " +
-           totaliRiga(controlli, sessione, cursore.riga) + ". " +
-           nextInWords(controlli, sessione, *tipo, cursore);
+           totaliRiga(controlli, sessione, cursore.riga) + ". " + nextInWords(controlli, sessione, *tipo);
 }
 
 } // namespace planner
