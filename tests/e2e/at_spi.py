@@ -11,6 +11,8 @@
     at_spi.py [--deadline SECONDS] PID names TABLE               print the name of each of the table's cells
     at_spi.py [--deadline SECONDS] PID hear                      print "ready", then the name of whatever is said
                                                                  to have got the focus, until the deadline
+                                                                 with --names also "name: " and the new name of
+                                                                 whatever is said to be called otherwise
     at_spi.py [--deadline SECONDS] PID walk                      read all of every object; print role, tab, name
 
 Only what shows on the screen counts, but for "walk", and a place only once it has settled. What is not there
@@ -167,8 +169,15 @@ def hear(program, wanted):
         if event.detail1 and event.source.get_process_id() == wanted.pid:
             print(next(filter(None, said(event.source)), ""), flush=True)
 
-    listener = Atspi.EventListener.new(got_focus)
-    listener.register("object:state-changed:focused")
+    def renamed(event, *_):
+        if event.source.get_process_id() == wanted.pid:
+            print(f"name: {event.source.get_name()}", flush=True)
+
+    listeners = [(Atspi.EventListener.new(got_focus), "object:state-changed:focused")]
+    if wanted.names:
+        listeners.append((Atspi.EventListener.new(renamed), "object:property-change:accessible-name"))
+    for listener, event in listeners:
+        listener.register(event)
     print("ready", flush=True)
     GLib.timeout_add(int(wanted.deadline * 1000), Atspi.event_quit)
     Atspi.event_main()
@@ -194,6 +203,8 @@ def command_line():
         command.set_defaults(look=look, settles=look in (where, cell, everything, focus))
         if look in (press, where):
             command.add_argument("--role")
+        if look is hear:
+            command.add_argument("--names", action="store_true")
         for argument in arguments:
             command.add_argument(argument, type=int if argument in ("row", "column") else str)
     return parser.parse_args()

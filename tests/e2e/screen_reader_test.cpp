@@ -38,11 +38,6 @@ protected:
         }
     }
 
-    void comesBackTo(const std::string& cell) {
-        EXPECT_EQ(lettore.next(), "Planner Mensile.");
-        EXPECT_EQ(lettore.next(), "Planner mensile " + cell);
-    }
-
     static std::string entries() {
         return test::bytesOf(riga("01", "20060316", {{1, "00002"}, {2, "00001"}})) +
                test::bytesOf(riga("02", "20060316", {{8, "00001"}})) +
@@ -59,29 +54,39 @@ protected:
 TEST_F(ScreenReader, SaysOfTheMonthOneThingForEachKey) {
     open('M', "20060315", "Planner Mensile",
          "Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.");
-    check(
-        finestra(),
-        {{"Right", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
-         {"Right", {"nessun impegno. Neri Carla, venerdì 17 marzo 2006."}},
-         {"Down", {"nessun impegno. Verdi Anna, venerdì 17 marzo 2006."}},
-         {"Left", {"impegni vari. Verdi Anna, giovedì 16 marzo 2006: 1 impegno vario."}},
-         {"space", {"Impegni di Verdi Anna: 1 impegno vario."}},
-         {"Up", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
-         {"ctrl+space",
-          {"Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica. Totali di marzo 2006: 3 scadenze "
-           "(1 conclusa), 1 pratica. Poi nessun altro impegno."}},
-         {"ctrl+c", {"La tabella è stata copiata."}},
-         {"alt+Right", {"aprile 2006.", "nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
-         {"alt+Left",
-          {"marzo 2006.", "scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}}});
+    check(finestra(),
+          {{"Right", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+           {"Right", {"nessun impegno. Neri Carla, venerdì 17 marzo 2006."}},
+           {"Down", {"nessun impegno. Verdi Anna, venerdì 17 marzo 2006."}},
+           {"Left", {"impegni vari. Verdi Anna, giovedì 16 marzo 2006: 1 impegno vario."}},
+           {"space", {"Impegni di Verdi Anna: 1 impegno vario."}},
+           {"Up", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+           {"ctrl+space",
+            {"Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica. Totali di marzo 2006: 3 scadenze "
+             "(1 conclusa), 1 pratica. Poi nessun altro impegno."}},
+           {"ctrl+c", {"La tabella è stata copiata."}},
+           {"alt+Right", {"aprile 2006.", "nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
+           {"alt+Left",
+            {"marzo 2006.", "scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+           {"ctrl+Left", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
+           {"ctrl+Left", {"Nella riga non c'è altro prima di questa casella."}},
+           {"ctrl+minus", {"Ingrandimento al 90 %."}},
+           {"ctrl+0", {"Ingrandimento al 100 %."}}});
 }
 
-TEST_F(ScreenReader, SaysAHolidayByName) {
+TEST_F(ScreenReader, NamesAFieldAndSaysWhereItLeadsWithTheHolidaysName) {
     open('M', "20061226", "Planner Mensile",
          "Planner mensile nessun impegno. Neri Carla, martedì 26 dicembre 2006, Santo Stefano.");
+    check(finestra(), {{"ctrl+d", {"Vai alla data text. 15/8."}}});
+    finestra().type("25");
     check(finestra(),
-          {{"Left", {"nessun impegno. Neri Carla, lunedì 25 dicembre 2006, Natale."}},
-           {"Down", {"note riservate. Verdi Anna, lunedì 25 dicembre 2006, Natale: 3 note riservate."}}});
+          {{"Return", {"Planner mensile nessun impegno. Neri Carla, lunedì 25 dicembre 2006, Natale."}},
+           {"ctrl+f", {"Cerca collaboratore text. parte del nome, o il codice."}}});
+    finestra().type("verdi");
+    check(finestra(), {{"Return",
+                        {"Impegni di Verdi Anna: 3 note riservate.",
+                         "Planner mensile note riservate. Verdi Anna, lunedì 25 dicembre 2006, Natale: "
+                         "3 note riservate."}}});
 }
 
 TEST_F(ScreenReader, SaysOfTheDayFromWhenToWhen) {
@@ -116,8 +121,12 @@ TEST_F(ScreenReader, ComesBackFromADialogToTheCell) {
     check(finestra(), {{"ctrl+n",
                         {"Inserimento Impegni dialog.",
                          "Tipo di inserimento panel. Tipo di inserimento. Impegno. selected radio button"}}});
-    press("Annulla");
-    comesBackTo("scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica.");
+    check(window(planner(), "Inserimento Impegni"),
+          {{"Down", {"Tipo di inserimento. Pratica. selected radio button"}},
+           {"Escape",
+            {"Planner Mensile.",
+             "Planner mensile scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, "
+             "1 pratica."}}});
 }
 
 TEST_F(ScreenReader, SaysEachRowOfTheStaffListOnceAndItsTicks) {
@@ -131,15 +140,24 @@ TEST_F(ScreenReader, SaysEachRowOfTheStaffListOnceAndItsTicks) {
                  {"space", {"spuntato, 1 spuntato su 2."}},
                  {"Up", {"Neri Carla, 01, Neri Carla, non spuntato."}},
                  {"Down", {"Verdi Anna, 02, Verdi Anna, spuntato."}},
-                 {"space", {"non spuntato, 0 spuntati su 2."}}});
+                 {"space", {"non spuntato, 0 spuntati su 2."}},
+                 {"Escape",
+                  {"Planner Mensile.",
+                   "Planner mensile scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, "
+                   "1 pratica."}}});
 }
 
-TEST_F(ScreenReader, SaysWhatAMessageSays) {
+TEST_F(ScreenReader, SaysWhatAMessageSaysAndWhereTheFocusIsAfterIt) {
     open('M', "20060316", "Planner Mensile",
          "Planner mensile scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica.");
-    finestra().press("ctrl+l");
-    lettore.hear("Collaboratori.");
-    check(window(planner(), "Selezione Collaboratori"), {{"Return", {"?"}}});
+    check(finestra(), {{"ctrl+g",
+                        {"alert Planner. Selezionare un collaboratore prima di visualizzare il grafico.",
+                         "OK push button."}}});
+    check(window(planner(), "Planner"),
+          {{"Return",
+            {"Planner Mensile.",
+             "Planner mensile scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, "
+             "1 pratica."}}});
 }
 
 TEST_F(ScreenReader, SaysTheValuesOfAChart) {

@@ -57,8 +57,9 @@ public:
     std::string focused(const Processo& owner) const;
 
     /// A program that hears what a screen reader hears of the focus: its lines are the descriptions of what
-    /// has got it, or the names where there are none.
-    std::unique_ptr<Processo> listener(const Processo& owner) const;
+    /// has got it, or the names where there are none. If wanted, further lines, "name: " and a name, are of
+    /// what is said to be called otherwise.
+    std::unique_ptr<Processo> listener(const Processo& owner, bool names = false) const;
 
 private:
     std::vector<std::string> words(const Processo& owner, std::chrono::milliseconds deadline,
