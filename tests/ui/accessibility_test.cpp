@@ -6,9 +6,11 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -142,6 +144,17 @@ TEST_F(AccessibilityTest, WhatDoesNotShowOrHasNotTheFocusIsNotTold) {
     EXPECT_TRUE(isPerceived(QAccessibleEvent(&bench.view(), QAccessible::Focus)));
     auto* days = bench.widget("calendario").findChild<QTableView*>();
     EXPECT_FALSE(isPerceived(QAccessibleEvent(days, QAccessible::Focus))) << "the calendar's";
+}
+
+TEST_F(AccessibilityTest, TheCornerSaysTheWholeDayInItsTipToo) {
+    bench.open("G", "20060425");
+    auto& corner = *bench.widget("bselg1").parentWidget();
+    EXPECT_EQ(nameOf(corner), QStringLiteral("martedì 25 aprile 2006, Festa della Liberazione"));
+    QHelpEvent help(QEvent::ToolTip, QPoint(corner.width() / 2, 2), corner.mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(&corner, &help);
+    EXPECT_EQ(QToolTip::text(), plainToolTip(nameOf(corner)));
+    bench.open("M");
+    EXPECT_EQ(nameOf(*bench.widget("bselm1").parentWidget()), QStringLiteral("marzo 2006"));
 }
 
 TEST_F(AccessibilityTest, AFrameAroundAFieldIsNoWindow) {

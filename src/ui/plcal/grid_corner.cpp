@@ -70,6 +70,12 @@ void GridCorner::setRowHeights(const std::vector<int>& heights) {
     update();
 }
 
+void GridCorner::setPeriod(const QString& period) {
+    if (period != accessibleName()) {
+        setAccessibleName(period);
+    }
+}
+
 void GridCorner::placeButtons(float scalaX) {
     for (const auto& [described, button] : m_buttons) {
         const QRect cell = cellOf(described->riga);
@@ -118,7 +124,7 @@ QString GridCorner::toolTipAt(const QPoint& position) const {
             return fromCp1252(m_griglia.TextMatrix(row, 0));
         }
     }
-    return {};
+    return accessibleName();
 }
 
 bool GridCorner::event(QEvent* event) {

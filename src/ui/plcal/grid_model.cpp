@@ -80,6 +80,10 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     });
 }
 
+QString GridModel::cornerName() const {
+    return orNothing([this]() -> QVariant { return fromUtf8(m_voci.nome({0, 0})); }).toString();
+}
+
 QVariant GridModel::headerText(Qt::Orientation orientation, int section) const {
     return orientation == Qt::Vertical ? fromCp1252(m_griglia.TextMatrix(gridRow(section), 0))
                                        : columnTitle(gridCol(section));

@@ -36,6 +36,8 @@ public:
     void celleCambiate(const AreaCelle& area, bool misure) override;
 
     const Griglia& griglia() const { return m_griglia; }
+    /// What the corner between the headers is called: the period.
+    QString cornerName() const;
     /// The grid's own coordinates of a data cell.
     Casella casella(const QModelIndex& index) const {
         return {gridRow(index.row()), gridCol(index.column())};

@@ -203,6 +203,7 @@ void GridView::showCurrentCell() {
 }
 
 void GridView::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
+    m_corner->setPeriod(m_model->cornerName());
     m_corner->updateButtons(active, *this);
 }
 

@@ -102,18 +102,6 @@ std::string nextInWords(const ControlliPlcal& controlli, const modpl& sessione, 
 
 } // namespace
 
-std::string nomePeriodo(const ControlliPlcal& controlli) {
-    const RegoleTipo* tipo = regoleVisibili(controlli);
-    if (tipo == nullptr) {
-        return {};
-    }
-    const Data shown = controlli.calendario.Value();
-    const std::string year = std::to_string(yearOf(shown));
-    return tipo->unGiorno           ? giornoInParole(shown)
-           : tipo->perCollaboratore ? meseInFrase(monthOf(shown)) + " " + year
-                                    : year;
-}
-
 std::string totaliRiga(const ControlliPlcal& controlli, const modpl& sessione, int riga) {
     const RegoleTipo* tipo = regoleVisibili(controlli);
     if (tipo == nullptr) {

@@ -9,10 +9,6 @@
 
 namespace planner {
 
-/// What the visible grid's period is called, UTF-8: "marzo 2006", "mercoledì 15 marzo 2006", "2006". Empty
-/// without a grid.
-std::string nomePeriodo(const ControlliPlcal& controlli);
-
 /// The totals of a row of the visible grid in its period, UTF-8: "12 scadenze (3 concluse), 1 pratica",
 /// "nessun impegno". In the yearly grid those of the whole year.
 std::string totaliRiga(const ControlliPlcal& controlli, const modpl& sessione, int riga);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "forms/plcal/lettura.h"
 #include "forms/plcal/plcal.h"
+#include "forms/plcal/sentences.h"
 
 #include <algorithm>
 

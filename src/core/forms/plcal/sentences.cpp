@@ -197,6 +197,18 @@ std::string giornoInParole(Data data) {
     return dataEstesa(data) + (holiday == nullptr ? "" : ", " + utf8FromCp1252(holiday->nome));
 }
 
+std::string nomePeriodo(const ControlliPlcal& controlli) {
+    const RegoleTipo* tipo = regoleVisibili(controlli);
+    if (tipo == nullptr) {
+        return {};
+    }
+    const Data shown = controlli.calendario.Value();
+    const std::string year = std::to_string(yearOf(shown));
+    return tipo->unGiorno           ? giornoInParole(shown)
+           : tipo->perCollaboratore ? meseInFrase(monthOf(shown)) + " " + year
+                                    : year;
+}
+
 std::string oraColonna(int colonna) {
     constexpr int minutesPerQuarter = 15;
     const int quarter = colonna - 1;
@@ -233,7 +245,8 @@ std::string nomeCasella(const ControlliPlcal& controlli, const modpl& sessione, 
         return {};
     }
     if (riga < griglia.FixedRows()) {
-        return colonna < Griglia::FixedCols() ? std::string() : fraseTipo(tipo).colonna(controlli, colonna);
+        return colonna < Griglia::FixedCols() ? nomePeriodo(controlli)
+                                              : fraseTipo(tipo).colonna(controlli, colonna);
     }
     const std::string caption = utf8FromCp1252(griglia.TextMatrix(riga, 0));
     if (caption.empty()) {

@@ -15,9 +15,14 @@ std::string dataEstesa(Data data);
 /// The same with the name of the fixed holiday that the day is: "lunedì 25 dicembre 2006, Natale".
 std::string giornoInParole(Data data);
 
+/// What the visible grid's period is called, UTF-8: "marzo 2006", "mercoledì 15 marzo 2006", "2006". Empty
+/// without a grid.
+std::string nomePeriodo(const ControlliPlcal& controlli);
+
 /// What a place of the kind's grid is called, UTF-8. A cell: what it holds, "nessun impegno" for nothing. A
 /// place in the header: the day, hour or weekday of its column. A name in column 0: the name, and the kinds
-/// of the entries that stand beside it. Empty in a grid that is not the visible one, and outside its data.
+/// of the entries that stand beside it. The corner: the period. Empty in a grid that is not the visible one,
+/// and outside its data.
 std::string nomeCasella(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo,
                         Casella casella);
 
