@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "app/support_log.h"
 #include "app/way_out.h"
 #include "engine/clsplg.h"
 #include "host/abandonment.h"
@@ -50,17 +51,25 @@ void whenReadable(const FileDescriptor& descriptor, Act act) {
     }
 }
 
-/// What the program talks to its host through.
+/// What the program talks to its host and its user through, written down where the environment asks for it.
 struct Legame {
-    const RigaComando& riga;
-    FileSystem& files;
-    MessageBoxes& messaggi;
-    EventPump& eventi;
-    HostIpc& ipc;
+    explicit Legame(const std::string& line) : riga(parseCommandLine(line)) {
+        supporto.diario().annotaAvvio(riga);
+    }
+
+    const RigaComando riga;
+    SupportLog supporto;
+    PosixFileSystem disco;
+    FileConDiario files{disco, supporto.diario()};
+    QtMessageBoxes finestre;
+    MessaggiConDiario messaggi{finestre, supporto.diario()};
+    QtEventPump eventi;
+    TavTermHostIpc evento{eventi};
+    EventoConDiario ipc{evento, supporto.diario()};
 };
 
 /// The end of a planner that has no window yet: its host has asked, and waits.
-bool answerWithoutWindow(const Legame& legame) {
+bool answerWithoutWindow(Legame& legame) {
     mtavtrmpl collegamento(legame.riga, {legame.files, legame.messaggi}, {});
     if (legame.riga.polling()) {
         QtPeriodicTimer Timer1;
@@ -73,7 +82,7 @@ int exitCodeOf(Seguito end) {
     return end == Seguito::Termina ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-int runPolling(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita) {
+int runPolling(mtavtrmpl& collegamento, Legame& legame, WayOut& uscita) {
     QtPeriodicTimer Timer1;
     Ftavtrmpl form(collegamento, legame.files, Timer1);
     uscita.setCongedo([&form] { return form.congedo(); });
@@ -87,7 +96,7 @@ int runPolling(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita) {
     return seguito == Seguito::Continua ? QCoreApplication::exec() : exitCodeOf(seguito);
 }
 
-int runEvents(mtavtrmpl& collegamento, const Legame& legame, WayOut& uscita, const FileDescriptor& starter) {
+int runEvents(mtavtrmpl& collegamento, Legame& legame, WayOut& uscita, const FileDescriptor& starter) {
     EventConversation conversazione(collegamento, legame.ipc, legame.eventi);
     uscita.setCongedo([&conversazione] { return conversazione.congedo(); });
     QtPeriodicTimer timer;
@@ -115,13 +124,7 @@ int main(int argc, char* argv[]) {
     const FileDescriptor starter = watchStarter();
     failBeyondFileLimit();
 
-    PosixFileSystem files;
-    SystemClock orologio;
-    QtMessageBoxes messaggi;
-    QtEventPump eventi;
-    TavTermHostIpc ipc(eventi);
-    const RigaComando riga = parseCommandLine(line);
-    const Legame legame{riga, files, messaggi, eventi, ipc};
+    Legame legame(line);
     WayOut uscita([&legame] { return answerWithoutWindow(legame); });
 
     int toolkitArguments = 1; // the command line is the host's: the toolkit takes no switch from it
@@ -129,19 +132,20 @@ int main(int argc, char* argv[]) {
     GuardedApplication application(toolkitArguments, argv);
     arrivo.reset();
     setUpAppearance(application);
-    application.setMessages(&messaggi);
+    application.setMessages(&legame.messaggi);
     application.onQuit([&uscita] { uscita.leave(); });
     whenReadable(endSignals, [&uscita] { uscita.leave(); });
 
+    SystemClock orologio;
     modpl sessione;
     ControlliPlcal controlli;
-    Contenuti contenuti(sessione, controlli, files, messaggi, orologio);
-    PlannerWindows finestre(sessione, controlli, contenuti, messaggi);
+    Contenuti contenuti(sessione, controlli, legame.files, legame.messaggi, orologio);
+    PlannerWindows finestre(sessione, controlli, contenuti, legame.messaggi);
 
-    mtavtrmpl collegamento(riga, {files, messaggi}, [&] {
-        return std::make_unique<clsplg>(
-            Ambiente{sessione, controlli, finestre.finestra, files, messaggi, eventi, orologio});
+    mtavtrmpl collegamento(legame.riga, {legame.files, legame.messaggi}, [&] {
+        return std::make_unique<clsplg>(Ambiente{sessione, controlli, finestre.finestra, legame.files,
+                                                 legame.messaggi, legame.eventi, orologio});
     });
-    return riga.polling() ? runPolling(collegamento, legame, uscita)
-                          : runEvents(collegamento, legame, uscita, starter);
+    return legame.riga.polling() ? runPolling(collegamento, legame, uscita)
+                                 : runEvents(collegamento, legame, uscita, starter);
 }

@@ -27,7 +27,8 @@ void suCarta(ComandoGriglia comando, DocumentoStampa documento, QWidget& parent,
 PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti,
                                MessageBoxes& messaggi)
     : vista(sessione, controlli),
-      collaboratori(sessione, controlli.calendario, {vistaCollab, messaggi, alfabeto}),
+      collaboratori(sessione, controlli.calendario,
+                    {[this]() -> VistaPlfcollab& { return vistaCollab(); }, messaggi, alfabeto}),
       finestra(sessione, controlli, contenuti,
                {vista, messaggi, chiediImpegno, collaboratori,
                 [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); },
@@ -37,7 +38,13 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
                 alfabeto}) {
     fitFontsTo(*vista.screen());
     vista.setForm(finestra);
-    vistaCollab.setForm(collaboratori);
+}
+
+PlfcollabWindow& PlannerWindows::vistaCollab() {
+    if (!m_vistaCollab) {
+        m_vistaCollab = std::make_unique<PlfcollabWindow>(collaboratori);
+    }
+    return *m_vistaCollab;
 }
 
 } // namespace planner

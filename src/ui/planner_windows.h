@@ -8,6 +8,8 @@
 #include "ui/plfcollab/plfcollab_window.h"
 #include "ui/ports/qt_collation.h"
 
+#include <memory>
+
 namespace planner {
 
 /// All windows of the planner, wired to each other over one session.
@@ -15,9 +17,12 @@ struct PlannerWindows {
     PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, MessageBoxes& messaggi);
 
     ToldEvents annunci; // before the windows make any
+    /// The staff window, made when it is asked for.
+    PlfcollabWindow& vistaCollab();
+
     PlcalWindow vista;
     QtCollation alfabeto;
-    PlfcollabWindow vistaCollab;
+    std::unique_ptr<PlfcollabWindow> m_vistaCollab;
     plfcollab collaboratori;
     plcal finestra;
 };

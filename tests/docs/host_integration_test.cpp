@@ -11,11 +11,20 @@
 namespace planner {
 namespace {
 
-std::string hostIntegration() {
-    std::ifstream file(PLANNER_DOCS "/host-integration.md");
+std::string document(const std::string& name) {
+    std::ifstream file(PLANNER_DOCS "/" + name);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
+}
+
+std::string hostIntegration() {
+    return document("host-integration.md");
+}
+
+/// What follows the two lines on the licence.
+std::string withoutLicence(const std::string& source) {
+    return source.substr(source.find('\n', source.find("SPDX-License-Identifier")) + 1);
 }
 
 std::string row(const Field& field) {
@@ -48,6 +57,18 @@ TEST(HostIntegrationTest, EveryActionLetterIsDocumented) {
         const std::string cell =
             azione.lettera == ' ' ? "| blank |" : std::string("`") + azione.lettera + "`";
         EXPECT_NE(document.find(cell), std::string::npos) << cell;
+    }
+}
+
+TEST(HostIntegrationTest, TheFirstHostsAreTheFilesThatTheTestsRun) {
+    const std::string text = hostIntegration();
+    for (const auto& [language, file] :
+         {std::pair("c", "hosts/first_host.c"), std::pair("python", "hosts/first_host.py"),
+          std::pair("sh", "hosts/first_host.sh")}) {
+        const std::string source = withoutLicence(document(file));
+        EXPECT_GT(source.size(), 300u) << file;
+        EXPECT_NE(text.find("```" + std::string(language) + "\n" + source + "```"), std::string::npos)
+            << file;
     }
 }
 

@@ -68,6 +68,22 @@ TEST_F(CommandLine, HelpAndVersionArePrintedWithoutADisplayAndLeaveNoFile) {
     }
 }
 
+TEST_F(CommandLine, TheLogThatTheEnvironmentNamesTellsTheConversation) {
+    archivio.writeTransit(requestBytes('M'));
+    Environment environment = schermo.environment();
+    environment["PLANNER_LOG"] = archivio.path("diario");
+    Programma planner({archivio.transitPath(), "1", evento}, environment);
+    escape(planner);
+    EXPECT_EQ(planner.exitCode(), 0);
+    const std::string log = archivio.read("diario");
+    for (const std::string line :
+         {"avvio: planner ", "richiesta: tipo M, dal 20060315 al 20061231, giorno 0", "archivio wcollab: ",
+          "archivio wrighipl: ", "risposta: giorno 20060315, nessun collaboratore, azione E",
+          "evento rimosso"}) {
+        EXPECT_THAT(log, testing::ContainsRegex("\n?[0-9TZ:.-]+ [0-9]+ " + line));
+    }
+}
+
 TEST_F(CommandLine, TheWordForPollingMayBeInAnyLetterCase) {
     archivio.writeTransit(requestBytes('M'));
     archivio.putMarker(Archivio::LockPl);

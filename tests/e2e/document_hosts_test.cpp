@@ -18,8 +18,8 @@ void PrintTo(const Host& host, std::ostream* out) {
     *out << host.name;
 }
 
-/// The hosts that the documents show, with the planner and a user who presses keys.
-class DocumentHosts : public Scenario, public testing::WithParamInterface<Host> {
+/// A host that the documents show, with the planner and a user who presses keys.
+class HostScenario : public Scenario, public testing::WithParamInterface<Host> {
 protected:
     std::unique_ptr<Processo> startHost(const std::string& plannerFile = PLANNER_FILE) {
         std::vector<std::string> words = GetParam().words;
@@ -35,26 +35,48 @@ protected:
     pid_t plannerOf(const Processo& host) const {
         return std::stoi(schermo.tool({"pgrep", "-P", std::to_string(host.pid()), "-x", "planner"}));
     }
+
+    void playAYearAndAnother() {
+        const auto host = startHost();
+        press("alt+Left"); // the year before: the host asks again
+        EXPECT_EQ(host->readLine(), "20060315  P");
+        press("Escape");
+        EXPECT_EQ(host->readLine(), "20060315  E");
+        EXPECT_EQ(host->exitCode(), 0);
+    }
+    void killThePlannerThatServesTheSecondRequest() {
+        const auto host = startHost();
+        press("alt+Left");
+        EXPECT_EQ(host->readLine(), "20060315  P");
+        press("Shift_L"); // the window of the second request stands
+        ::kill(plannerOf(*host), SIGKILL);
+        EXPECT_NE(host->exitCode(), 0);
+    }
 };
+
+class DocumentHosts : public HostScenario {};
+class FirstHosts : public HostScenario {};
+
+std::string nameOf(const testing::TestParamInfo<Host>& host) {
+    return host.param.name;
+}
 
 } // namespace
 
+TEST_P(FirstHosts, PrintEachAnswerUntilTheUserClosesThePlanner) {
+    playAYearAndAnother();
+}
+
+TEST_P(FirstHosts, NoticeAPlannerThatDiesWhileTheyWait) {
+    killThePlannerThatServesTheSecondRequest();
+}
+
 TEST_P(DocumentHosts, PrintEachAnswerUntilTheUserClosesThePlanner) {
-    const auto host = startHost();
-    press("alt+Left"); // the year before: the host asks again
-    EXPECT_EQ(host->readLine(), "20060315  P");
-    press("Escape");
-    EXPECT_EQ(host->readLine(), "20060315  E");
-    EXPECT_EQ(host->exitCode(), 0);
+    playAYearAndAnother();
 }
 
 TEST_P(DocumentHosts, NoticeAPlannerThatDiesWhileTheyWait) {
-    const auto host = startHost();
-    press("alt+Left");
-    EXPECT_EQ(host->readLine(), "20060315  P");
-    press("Shift_L"); // the window of the second request stands
-    ::kill(plannerOf(*host), SIGKILL);
-    EXPECT_NE(host->exitCode(), 0);
+    killThePlannerThatServesTheSecondRequest();
 }
 
 TEST_P(DocumentHosts, NoticeAPlannerThatDiesBeforeItsFirstAnswer) {
@@ -72,6 +94,11 @@ TEST_P(DocumentHosts, NoticeAPlannerThatCannotBeStarted) {
 INSTANTIATE_TEST_SUITE_P(Languages, DocumentHosts,
                          testing::Values(Host{"C", {HOST_IN_C}, {}},
                                          Host{"Python", {"python3", HOST_IN_PYTHON}, {IPC_LIBRARY}}),
-                         [](const auto& host) { return host.param.name; });
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Languages, FirstHosts,
+                         testing::Values(Host{"C", {FIRST_HOST_IN_C}, {}},
+                                         Host{"Python", {"python3", FIRST_HOST ".py"}, {IPC_LIBRARY}},
+                                         Host{"Shell", {"sh", FIRST_HOST ".sh"}, {}}),
+                         nameOf);
 
 } // namespace planner::e2e

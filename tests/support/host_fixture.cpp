@@ -4,7 +4,7 @@
 
 namespace planner::test {
 
-mtavtrmpl HostFixture::makeLink(const std::string& commandLine) {
+mtavtrmpl HostFixture::makeLink(const std::string& commandLine, const mtavtrmpl::Porte& porte) {
     const auto answer = [this](WPlannerCall& call) {
         calls.push_back(call);
         if (serve) {
@@ -15,9 +15,8 @@ mtavtrmpl HostFixture::makeLink(const std::string& commandLine) {
             answers.pop_front();
         }
     };
-    return {parseCommandLine(commandLine), {files, messaggi}, [this, answer] {
-                return std::make_unique<FakeMotore>(journal, answer);
-            }};
+    return {parseCommandLine(commandLine), porte,
+            [this, answer] { return std::make_unique<FakeMotore>(journal, answer); }};
 }
 
 std::vector<std::string> HostFixture::messageTexts() const {

@@ -20,7 +20,8 @@ class HostFixture : public testing::Test {
 protected:
     static constexpr const char* Transito = "C:\\arch\\trans.dat";
 
-    mtavtrmpl makeLink(const std::string& commandLine);
+    mtavtrmpl makeLink(const std::string& commandLine) { return makeLink(commandLine, {files, messaggi}); }
+    mtavtrmpl makeLink(const std::string& commandLine, const mtavtrmpl::Porte& porte);
     EventConversation makeConversation(mtavtrmpl& link) { return {link, ipc, eventi}; }
     void putRequest(const TransitRequest& request) { files.put(Transito, bytesOf(request)); }
     TransitRequest answerInFile() const { return recordOf<TransitRequest>(files.get(Transito)); }

@@ -28,8 +28,8 @@ public:
     }
 
     void act() {
-        const bool list = m_bench.finestre.vistaCollab.isVisible() && pick(8) != 0;
-        m_target = list ? static_cast<QWidget*>(&m_bench.finestre.vistaCollab) : &m_bench.vista;
+        const bool list = m_bench.finestre.vistaCollab().isVisible() && pick(8) != 0;
+        m_target = list ? static_cast<QWidget*>(&m_bench.finestre.vistaCollab()) : &m_bench.vista;
         switch (pick(6)) {
         case 0:
             clickAnywhere();

@@ -94,7 +94,7 @@ TEST_F(NothingEscapesTest, EveryObjectOfTheOtherWindowsCanBeRead) {
     bench.open("M");
     bench.finestra.griglia_Gesto({{3, 17}});
     bench.finestra.Toolbar1_ButtonClick("coll");
-    EXPECT_GT(walk(QAccessible::queryAccessibleInterface(&bench.finestre.vistaCollab)), 20);
+    EXPECT_GT(walk(QAccessible::queryAccessibleInterface(&bench.finestre.vistaCollab())), 20);
     bench.finestre.collaboratori.unload();
     for (const char* command : {"grafici", "insimp", "info"}) {
         int objects = 0;
@@ -119,7 +119,7 @@ TEST_F(NothingEscapesTest, AnOfficeOf500CanBeReadWhole) {
     const int cells = (500 + RigheInPiu) * ColonneGiorni;
     EXPECT_GT(walk(QAccessible::queryAccessibleInterface(&bench.view())), cells);
     bench.finestra.Toolbar1_ButtonClick("coll");
-    EXPECT_GT(walk(QAccessible::queryAccessibleInterface(&bench.finestre.vistaCollab)), 1500);
+    EXPECT_GT(walk(QAccessible::queryAccessibleInterface(&bench.finestre.vistaCollab())), 1500);
 }
 
 TEST_F(NothingEscapesTest, AModelWhoseSentenceThrowsAnswersNothing) {

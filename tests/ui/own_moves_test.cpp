@@ -204,7 +204,7 @@ TEST_F(OwnMovesTest, AScreenReaderPressesTheCellThatTheCursorStandsOn) {
 TEST_F(OwnMovesTest, AHeldEscapeClosesTheListAndNotThePlanner) {
     bench.open("M");
     bench.finestra.Toolbar1_ButtonClick("coll");
-    auto& list = bench.finestre.vistaCollab;
+    auto& list = bench.finestre.vistaCollab();
     send(list, QEvent::KeyPress, Qt::Key_Escape, /*held=*/false);
     EXPECT_FALSE(list.isVisible());
     send(bench.view(), QEvent::KeyPress, Qt::Key_Escape, /*held=*/true);

@@ -21,7 +21,7 @@ struct StaffBench {
     /// Shows the monthly planner of 15 March 2006 and opens the staff window with its command.
     void open();
 
-    PlfcollabWindow& window() { return planner.finestre.vistaCollab; }
+    PlfcollabWindow& window() { return planner.finestre.vistaCollab(); }
     StaffListView& list();
     const ListaCollaboratori& lista() const { return planner.finestre.collaboratori.List_Prenotazione(); }
     const modpl& session() const { return planner.base.sessione; }

@@ -11,6 +11,10 @@
 
 namespace planner {
 
+QList<QKeySequence> qtKeys(std::string_view names) {
+    return QKeySequence::listFromString(fromUtf8(names));
+}
+
 QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys) {
     const QString text = QKeySequence::listToString(keys, QKeySequence::NativeText);
     return text.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, text);

@@ -22,6 +22,9 @@ inline QRect qtRect(const Rettangolo& place) {
     return {place.Left, place.Top, place.Width, place.Height};
 }
 
+/// The keys that a table names in English, separated by "; "; none for an empty text.
+QList<QKeySequence> qtKeys(std::string_view names);
+
 /// What a tool tip says of a command: its caption and, if there are any, its keys in brackets.
 QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys);
 

@@ -8,10 +8,17 @@
 
 namespace planner {
 
-FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent), m_font(font()) {}
+FittedLabel::FittedLabel(QWidget* parent) : PlainLabel(parent) {}
+
+const FittingFont& FittedLabel::fittingFont() const {
+    if (!m_font) {
+        m_font.emplace(fontWithin(font(), contentsRect().height()));
+    }
+    return *m_font;
+}
 
 FittedText FittedLabel::fitted() const {
-    return m_font.fit(text(), contentsRect().width());
+    return fittingFont().fit(text(), contentsRect().width());
 }
 
 QSize FittedLabel::minimumSizeHint() const {
@@ -26,20 +33,13 @@ bool FittedLabel::event(QEvent* event) {
 void FittedLabel::changeEvent(QEvent* event) {
     PlainLabel::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        fitHeight();
+        m_font.reset();
     }
 }
 
 void FittedLabel::resizeEvent(QResizeEvent* event) {
     PlainLabel::resizeEvent(event);
-    fitHeight();
-}
-
-void FittedLabel::fitHeight() {
-    const QFont fitting = fontWithin(font(), contentsRect().height());
-    if (fitting != m_font.font()) {
-        m_font = FittingFont(fitting);
-    }
+    m_font.reset();
 }
 
 void FittedLabel::paintEvent(QPaintEvent*) {

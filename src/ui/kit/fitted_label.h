@@ -5,6 +5,8 @@
 #include "ui/kit/fitting_font.h"
 #include "ui/kit/plain_label.h"
 
+#include <optional>
+
 namespace planner {
 
 /// A label of one line that fits its text into its place. Its text and its accessible name stay whole; where
@@ -26,9 +28,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void fitHeight();
+    const FittingFont& fittingFont() const;
 
-    FittingFont m_font;
+    mutable std::optional<FittingFont> m_font; // made when it is asked for: most labels are out of sight
 };
 
 } // namespace planner

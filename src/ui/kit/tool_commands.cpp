@@ -75,7 +75,7 @@ QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
     action->setData(command.position);
     action->setObjectName(command.name);
     action->setIconText(buttonText(caption));
-    const QList<QKeySequence> keys{QKeySequence(fromUtf8(command.keys))};
+    const QList<QKeySequence> keys = qtKeys(command.keys);
     action->setToolTip(captionWithKeys(caption, keys));
     nameButton(*bar.widgetForAction(action), caption, keys);
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/command_bar.h"
 
+#include "ui/kit/controls.h"
 #include "ui/kit/text.h"
 #include "ui/kit/tool_commands.h"
 
@@ -22,7 +23,7 @@ void CommandBar::addCommand(const DescrizionePulsante& described) {
     QAction* action =
         addToolCommand(*this, {static_cast<int>(described.posizione), fromUtf8(described.chiave),
                                described.didascalia, described.chiave, described.scorciatoia});
-    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcuts(qtKeys(described.scorciatoia));
     action->setAutoRepeat(false); // a held key is not to reach the next request
     connect(action, &QAction::triggered, this, [this, &described] {
         Q_EMIT ButtonClick(

@@ -26,10 +26,6 @@ QPalette lightButtonPalette() {
     return palette;
 }
 
-QList<QKeySequence> keysOf(const PulsantePeriodo& described) {
-    return QKeySequence::listFromString(fromUtf8(described.scorciatoia));
-}
-
 } // namespace
 
 GridCorner::GridCorner(const Griglia& griglia, TipoPlanner tipo, CellPainter& painter, QWidget* parent)
@@ -47,8 +43,9 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
     button->setIcon(qtIcon(described.immagine));
     button->setPalette(lightButtonPalette());
     const QString caption = fromUtf8(described.suggerimento);
-    button->setToolTip(captionWithKeys(caption, keysOf(described)));
-    nameButton(*button, caption, keysOf(described));
+    const QList<QKeySequence> keys = qtKeys(described.scorciatoia);
+    button->setToolTip(captionWithKeys(caption, keys));
+    nameButton(*button, caption, keys);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this,
             [this, &described] { Q_EMIT periodButtonClicked(described); });
@@ -57,7 +54,7 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
 }
 
 void GridCorner::addKeys(const PulsantePeriodo& described, QToolButton& button) {
-    for (const QKeySequence& keys : keysOf(described)) {
+    for (const QKeySequence& keys : qtKeys(described.scorciatoia)) {
         auto* shortcut = new QShortcut(keys, this);
         // In the yearly planner they answer the host: a held key is not to reach the next request.
         shortcut->setAutoRepeat(regole(described.tipo).perCollaboratore);

@@ -42,24 +42,25 @@ QFont LegendBar::letters() const {
     return fontWithin(font(), height());
 }
 
-int LegendBar::entryWidth(const VoceLegenda& voce, bool words) const {
-    const int word =
-        words ? Gap + QFontMetrics(letters()).horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap;
-    return side() + word;
+int LegendBar::entryWidth(const VoceLegenda& voce, bool words, const QFontMetrics& letters) const {
+    return side() + (words ? Gap + letters.horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap);
 }
 
 int LegendBar::widthOf(bool words) const {
+    const QFontMetrics metrics(letters());
     int width = 0;
     for (const VoceLegenda& voce : m_voci) {
-        width += entryWidth(voce, words);
+        width += entryWidth(voce, words, metrics);
     }
     return width;
 }
 
 QString LegendBar::toolTipAt(const QPoint& position) const {
+    const QFontMetrics metrics(letters());
+    const bool words = showsWords();
     int left = 0;
     for (const VoceLegenda& voce : m_voci) {
-        left += entryWidth(voce, showsWords());
+        left += entryWidth(voce, words, metrics);
         if (position.x() < left) {
             return fromUtf8(voce.significato);
         }
@@ -87,16 +88,17 @@ void LegendBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(letters());
     painter.setPen(palette().color(foregroundRole()));
+    const bool words = showsWords();
     int left = 0;
     for (const VoceLegenda& voce : m_voci) {
         const QRect square(left, (height() - side()) / 2, side(), side());
         paintSign(painter, square, voce);
-        if (showsWords()) {
+        if (words) {
             painter.drawText(QRect(square.right() + 1 + Gap, 0, width(), height()),
                              static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine),
                              fromUtf8(voce.breve));
         }
-        left += entryWidth(voce, showsWords());
+        left += entryWidth(voce, words, painter.fontMetrics());
     }
 }
 

@@ -32,7 +32,7 @@ protected:
 private:
     int side() const;
     QFont letters() const;
-    int entryWidth(const VoceLegenda& voce, bool words) const;
+    int entryWidth(const VoceLegenda& voce, bool words, const QFontMetrics& letters) const;
     int widthOf(bool words) const;
     bool showsWords() const { return width() >= wholeWidth(); }
     QString toolTipAt(const QPoint& position) const;

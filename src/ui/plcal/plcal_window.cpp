@@ -10,6 +10,7 @@
 #include "session/period_moves.h"
 #include "ui/guida/guida_window.h"
 #include "ui/kit/annuncio.h"
+#include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
@@ -37,7 +38,7 @@ template <typename Described>
 QAction* addKey(GridView& grid, const Described& described) {
     auto* action = new QAction(fromUtf8(described.didascalia), &grid);
     action->setObjectName(fromUtf8(described.nome));
-    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcuts(qtKeys(described.scorciatoia));
     action->setShortcutContext(Qt::WidgetShortcut); // fields keep their letters
     grid.addAction(action);
     return action;
@@ -87,7 +88,7 @@ void PlcalWindow::addGridCommands() {
     for (const DescrizioneComandoGriglia& described : ComandiGriglia) {
         auto* action = new QAction(fromUtf8(described.didascalia), this);
         action->setObjectName(fromUtf8(described.nome));
-        action->setShortcuts(QKeySequence::listFromString(fromUtf8(described.scorciatoia)));
+        action->setShortcuts(qtKeys(described.scorciatoia));
         action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this,
                 [this, comando = described.comando] { m_form->griglia_Comando(comando); });

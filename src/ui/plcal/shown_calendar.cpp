@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <QTextCharFormat>
@@ -113,6 +114,28 @@ void ShownCalendar::fitHeading() {
             widget->setFont(letters); // the toolkit's own keep the size they were made with
         }
     }
+}
+
+QColor ShownCalendar::lettersOf(QDate date) const {
+    const bool ofMonth = date.month() == monthShown() && date.year() == yearShown();
+    if (!ofMonth || date < minimumDate() || date > maximumDate()) {
+        return palette().color(QPalette::Disabled, QPalette::Text);
+    }
+    if (date == selectedDate()) {
+        return palette().color(QPalette::HighlightedText);
+    }
+    const QBrush ofWeekday = weekdayTextFormat(static_cast<Qt::DayOfWeek>(date.dayOfWeek())).foreground();
+    return ofWeekday.style() == Qt::NoBrush ? palette().color(QPalette::Text) : ofWeekday.color();
+}
+
+/// The toolkit lays out each number as an item of a list, with which the calendar would take longer to paint
+/// than the grid.
+void ShownCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
+    if (date == selectedDate()) {
+        painter->fillRect(rect, palette().color(QPalette::Highlight));
+    }
+    painter->setPen(lettersOf(date));
+    painter->drawText(rect, Qt::AlignCenter | Qt::TextSingleLine, QString::number(date.day()));
 }
 
 void ShownCalendar::resizeEvent(QResizeEvent* event) {

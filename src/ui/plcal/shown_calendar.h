@@ -23,9 +23,11 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QColor lettersOf(QDate date) const;
     void hideNavigation();
     void fitLetters();
     void fitHeading();

@@ -30,14 +30,15 @@ constexpr int ArrowSide = 20; // beside letters of the designed size
 
 } // namespace
 
-PlfcollabWindow::PlfcollabWindow()
-    : m_toolbar(makeToolbar()), m_list(new StaffListView(this)), m_count(new FittedLabel(this)),
+PlfcollabWindow::PlfcollabWindow(plfcollab& form)
+    : m_form(form), m_toolbar(makeToolbar()), m_list(new StaffListView(this)), m_count(new FittedLabel(this)),
       m_annuncio(new Annuncio(this)) {
     setObjectName(QStringLiteral("plfcollab"));
     setWindowTitle(QStringLiteral("Selezione Collaboratori"));
     m_list->setObjectName(QStringLiteral("List_Prenotazione"));
     m_list->setAccessibleName(QStringLiteral("Collaboratori"));
     m_count->setObjectName(QStringLiteral("conteggio"));
+    m_list->setLista(form.List_Prenotazione());
     layOut();
     connectEvents();
 }
@@ -76,9 +77,9 @@ void PlfcollabWindow::addCommand(QToolBar& bar, const DescrizioneComandoCollab& 
     QAction* action = addToolCommand(bar, {indice, QStringLiteral("Toolbar_pren_") + QString::number(indice),
                                            described.didascalia, described.immagine, described.scorciatoia});
     if (described.posizione != ComandoCollab::conferma) { // Enter is for the button that has the focus, first
-        action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+        action->setShortcuts(qtKeys(described.scorciatoia));
     }
-    connect(action, &QAction::triggered, this, [this, indice] { m_form->Toolbar_pren_ButtonClick(indice); });
+    connect(action, &QAction::triggered, this, [this, indice] { m_form.Toolbar_pren_ButtonClick(indice); });
 }
 
 QWidget* PlfcollabWindow::makeArrows() {
@@ -97,7 +98,7 @@ QWidget* PlfcollabWindow::makeArrows() {
         button->setAccessibleName(fromUtf8(described.nome));
         button->setFocusPolicy(Qt::TabFocus);
         button->setAutoRepeat(true);
-        connect(button, &QToolButton::clicked, this, [this, indice] { m_form->ButtonFrecce_Click(indice); });
+        connect(button, &QToolButton::clicked, this, [this, indice] { m_form.ButtonFrecce_Click(indice); });
         layout->addWidget(button);
         if (described.indice == Freccia::rigaSu) {
             layout->addStretch();
@@ -108,14 +109,9 @@ QWidget* PlfcollabWindow::makeArrows() {
 
 void PlfcollabWindow::connectEvents() {
     connect(m_list, &StaffListView::rowSelected, this,
-            [this](std::optional<int> riga) { m_form->List_Prenotazione_ItemClick(riga); });
+            [this](std::optional<int> riga) { m_form.List_Prenotazione_ItemClick(riga); });
     connect(m_list, &StaffListView::checkRequested, this,
-            [this](int riga, bool spuntata) { m_form->List_Prenotazione_ItemCheck(riga, spuntata); });
-}
-
-void PlfcollabWindow::setForm(plfcollab& form) {
-    m_form = &form;
-    m_list->setLista(form.List_Prenotazione());
+            [this](int riga, bool spuntata) { m_form.List_Prenotazione_ItemCheck(riga, spuntata); });
 }
 
 void PlfcollabWindow::fitToScreen() {
@@ -161,7 +157,7 @@ void PlfcollabWindow::aggiornaRighe() {
 
 void PlfcollabWindow::aggiorna() {
     m_list->showMarks();
-    m_count->setText(fromUtf8(m_form->conteggio()));
+    m_count->setText(fromUtf8(m_form.conteggio()));
 }
 
 void PlfcollabWindow::portaInVista(int riga) {
@@ -201,7 +197,7 @@ std::optional<std::string> PlfcollabWindow::chiediTesto(std::string_view titolo,
 
 void PlfcollabWindow::closeEvent(QCloseEvent* event) {
     event->ignore(); // the form takes the window off the screen
-    m_form->unload();
+    m_form.unload();
 }
 
 void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
@@ -210,11 +206,11 @@ void PlfcollabWindow::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (virtualKey(*event) == TastoEscape) {
-        m_form->unload();
+        m_form.unload();
     } else if (isEnter(*event)) {
-        m_form->Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));
+        m_form.Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::conferma));
     } else if (event->key() == Qt::Key_F3) {
-        m_form->cercaAncora();
+        m_form.cercaAncora();
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -23,11 +23,9 @@ struct DescrizioneComandoCollab;
 class PlfcollabWindow : public QWidget, public VistaPlfcollab {
     Q_OBJECT
 public:
-    PlfcollabWindow();
+    /// `form` is whom the window's events go to.
+    explicit PlfcollabWindow(plfcollab& form);
     ~PlfcollabWindow() override;
-
-    /// Whom the window's events go to; must be set before the window is shown.
-    void setForm(plfcollab& form);
 
     void mostra() override;
     void nascondi() override;
@@ -52,7 +50,7 @@ private:
     void connectEvents();
     void fitToScreen();
 
-    plfcollab* m_form = nullptr;
+    plfcollab& m_form;
     QToolBar* m_toolbar;
     StaffListView* m_list;
     QWidget* m_arrows = nullptr;

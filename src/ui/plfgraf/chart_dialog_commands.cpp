@@ -35,7 +35,7 @@ QAction* ChartDialog::makeCommand(ComandoGrafico command) {
     const DescrizioneComandoGrafico& described = ComandiGrafico.at(static_cast<std::size_t>(command));
     auto* action = new QAction(fromUtf8(described.didascalia), this);
     action->setObjectName(fromUtf8(described.nome));
-    action->setShortcut(QKeySequence(fromUtf8(described.scorciatoia)));
+    action->setShortcuts(qtKeys(described.scorciatoia));
     action->setShortcutVisibleInContextMenu(true);
     connect(action, &QAction::triggered, this, [this, command] { run(command); });
     return action;

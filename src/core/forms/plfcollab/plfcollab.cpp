@@ -18,13 +18,13 @@ plfcollab::plfcollab(modpl& sessione, const Calendario& calendario, const Porte&
 template <typename Command>
 void plfcollab::esegui(Command command) {
     runCommand(m_porte.messaggi, command);
-    m_porte.vista.aggiorna();
+    m_porte.vista().aggiorna();
 }
 
 void plfcollab::show() {
     m_shown = true;
-    m_porte.vista.aggiornaRighe();
-    m_porte.vista.mostra();
+    m_porte.vista().aggiornaRighe();
+    m_porte.vista().mostra();
 }
 
 void plfcollab::unload() {
@@ -33,7 +33,7 @@ void plfcollab::unload() {
     }
     m_shown = false;
     m_ricordate.clear();
-    m_porte.vista.nascondi();
+    m_porte.vista().nascondi();
 }
 
 void plfcollab::Toolbar_pren_ButtonClick(int indice) {
@@ -70,9 +70,9 @@ void plfcollab::mostraSoloSpuntate() {
 }
 
 void plfcollab::righeCambiate() {
-    m_porte.vista.aggiornaRighe();
+    m_porte.vista().aggiornaRighe();
     if (const auto selezionata = m_lista.selezionata()) {
-        m_porte.vista.portaInVista(*selezionata);
+        m_porte.vista().portaInVista(*selezionata);
     }
 }
 
@@ -86,7 +86,7 @@ void plfcollab::spuntaRicordate() {
 }
 
 void plfcollab::cerca() {
-    const auto testo = m_porte.vista.chiediTesto("Cerca collaboratore", m_testoCercato);
+    const auto testo = m_porte.vista().chiediTesto("Cerca collaboratore", m_testoCercato);
     if (testo && !testo->empty()) {
         m_testoCercato = *testo;
         cercaTesto();
@@ -104,7 +104,7 @@ void plfcollab::cercaTesto() {
         return;
     }
     m_lista.seleziona(riga);
-    m_porte.vista.portaInVista(*riga);
+    m_porte.vista().portaInVista(*riga);
 }
 
 std::optional<int> plfcollab::trova(const std::string& testo) const {
@@ -145,11 +145,11 @@ void plfcollab::conferma() {
 }
 
 void plfcollab::ButtonFrecce_Click(int indice) {
-    const VistaPlfcollab& vista = m_porte.vista;
+    const VistaPlfcollab& vista = m_porte.vista();
     const int prima = vista.primaRigaVisibile();
     const int pagina = vista.righePerPagina();
     const int ultima = std::max(m_lista.righe() - pagina, 0);
-    const auto scroll = [&](int riga) { m_porte.vista.scorriA(std::clamp(riga, 0, ultima)); };
+    const auto scroll = [&](int riga) { m_porte.vista().scorriA(std::clamp(riga, 0, ultima)); };
     switch (static_cast<Freccia>(indice)) {
     case Freccia::rigaSu:
         return scroll(prima - 1);
@@ -174,8 +174,8 @@ void plfcollab::List_Prenotazione_ItemClick(std::optional<int> riga) {
 void plfcollab::List_Prenotazione_ItemCheck(int riga, bool spuntata) {
     if (riga >= 0 && riga < m_lista.righe()) {
         m_lista.spunta(riga, spuntata);
-        m_porte.vista.aggiorna();
-        m_porte.vista.annuncia((spuntata ? "spuntato, " : "non spuntato, ") + conteggio());
+        m_porte.vista().aggiorna();
+        m_porte.vista().annuncia((spuntata ? "spuntato, " : "non spuntato, ") + conteggio());
     }
 }
 

@@ -10,6 +10,8 @@
 #include "session/calendario.h"
 #include "session/modpl.h"
 
+#include <functional>
+
 namespace planner {
 
 /// The staff selection window's logic. The widgets are behind `VistaPlfcollab`. A run-time error in a command
@@ -17,7 +19,7 @@ namespace planner {
 class plfcollab {
 public:
     struct Porte {
-        VistaPlfcollab& vista;
+        std::function<VistaPlfcollab&()> vista; // the window, made when it is asked for
         MessageBoxes& messaggi;
         const Collation& alfabeto;
     };

@@ -39,7 +39,9 @@ protected:
     FakeFinestraImpegno finestraImpegno;
     FakeVistaPlfcollab vistaCollab{bench.journal};
     PlainCollation alfabeto;
-    plfcollab collaboratori{sessione, controlli.calendario, {vistaCollab, bench.messaggi, alfabeto}};
+    plfcollab collaboratori{sessione,
+                            controlli.calendario,
+                            {[this]() -> VistaPlfcollab& { return vistaCollab; }, bench.messaggi, alfabeto}};
     FakeFinestraGrafici finestraGrafici;
     plcal form{sessione,
                controlli,

@@ -55,7 +55,7 @@ protected:
     FakeVistaPlfcollab vista{journal};
     RecordingMessages messaggi{journal};
     PlainCollation alfabeto;
-    plfcollab form{sessione, calendario, {vista, messaggi, alfabeto}};
+    plfcollab form{sessione, calendario, {[this]() -> VistaPlfcollab& { return vista; }, messaggi, alfabeto}};
     ListaCollaboratori& lista = form.List_Prenotazione();
 };
 

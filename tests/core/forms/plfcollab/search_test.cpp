@@ -111,7 +111,8 @@ TEST_F(StaffSearchTest, ATextOfAccentsAloneIsNotFound) {
     struct FoldsToNothing : PlainCollation {
         std::string folded(std::string_view) const override { return {}; }
     } const onlyAccents;
-    plfcollab other(sessione, calendario, {vista, messaggi, onlyAccents});
+    plfcollab other(sessione, calendario,
+                    {[this]() -> VistaPlfcollab& { return vista; }, messaggi, onlyAccents});
     other.List_Prenotazione().aggiungi("RB", "Rossi", "");
     vista.risposta = "\u0301";
     other.Toolbar_pren_ButtonClick(static_cast<int>(ComandoCollab::cerca));
