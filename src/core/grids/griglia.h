@@ -119,7 +119,7 @@ public:
     /// Nothing for a column without a number; any column may be asked for.
     std::optional<int> riepilogo(int colonna) const;
     /// The number that a bar as high as the header stands for.
-    int RiepilogoMassimo() const { return m_riepilogoMassimo; }
+    int riepilogoMassimo() const { return m_riepilogoMassimo; }
 
     /// The colours that the cell shows, and those of them that have a name.
     Aspetto aspetto(Casella casella) const;

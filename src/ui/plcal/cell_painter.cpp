@@ -212,12 +212,12 @@ void CellPainter::paintFrame(QPainter& painter, const QRect& rect, Colore colore
 
 void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col) {
     const int value = griglia.riepilogo(col).value_or(0);
-    if (value <= 0 || griglia.RiepilogoMassimo() <= 0) {
+    if (value <= 0 || griglia.riepilogoMassimo() <= 0) {
         return;
     }
     const int room = rect.height() - 2 * SummaryMargin;
     const int height =
-        std::max(room * std::min(value, griglia.RiepilogoMassimo()) / griglia.RiepilogoMassimo(), 1);
+        std::max(room * std::min(value, griglia.riepilogoMassimo()) / griglia.riepilogoMassimo(), 1);
     const int width = summaryWidth(rect);
     painter.fillRect(QRect(rect.right() + 1 - SummaryMargin - width,
                            rect.bottom() + 1 - SummaryMargin - height, width, height),

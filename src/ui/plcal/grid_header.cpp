@@ -85,7 +85,7 @@ bool GridHeader::viewportEvent(QEvent* event) {
 
 QString GridHeader::toolTipAt(const QPoint& position) const {
     const int section = logicalIndexAt(position);
-    const QString tip = tipAt(position);
+    QString tip = tipAt(position);
     if (!tip.isEmpty() || orientation() == Qt::Horizontal || section < 0) {
         return tip;
     }

@@ -27,7 +27,7 @@ TEST_F(ColpoDocchioTest, AMonthCountsTheDeadlinesOfEachDay) {
     EXPECT_EQ(controlli.Flxm.riepilogo(17), 3);
     EXPECT_EQ(controlli.Flxm.riepilogo(18), 1);
     EXPECT_EQ(controlli.Flxm.riepilogo(19), 0);
-    EXPECT_EQ(controlli.Flxm.RiepilogoMassimo(), 3);
+    EXPECT_EQ(controlli.Flxm.riepilogoMassimo(), 3);
     for (const int none : {-1, 0, 1, 2, 34, 37, 1000}) { // March begins in column 3
         EXPECT_EQ(controlli.Flxm.riepilogo(none), std::nullopt) << none;
     }
@@ -45,7 +45,7 @@ TEST_F(ColpoDocchioTest, TheNextMonthCountsItsOwn) {
 
 TEST_F(ColpoDocchioTest, ADayCountsWhoIsFreeAtEachQuarter) {
     open("G");
-    EXPECT_EQ(controlli.flxg.RiepilogoMassimo(), 3);
+    EXPECT_EQ(controlli.flxg.riepilogoMassimo(), 3);
     EXPECT_EQ(column(1), "3 liberi alle 0:00");
     EXPECT_EQ(column(38), "3 liberi alle 9:15");
     EXPECT_EQ(column(39), "2 liberi alle 9:30") << "Bianchi is busy";
