@@ -41,10 +41,10 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
 }
 
 PlfcollabWindow& PlannerWindows::vistaCollab() {
-    if (!m_vistaCollab) {
-        m_vistaCollab = std::make_unique<PlfcollabWindow>(collaboratori);
+    if (!staffWindow) {
+        staffWindow = std::make_unique<PlfcollabWindow>(collaboratori);
     }
-    return *m_vistaCollab;
+    return *staffWindow;
 }
 
 } // namespace planner

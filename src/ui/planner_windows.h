@@ -22,7 +22,7 @@ struct PlannerWindows {
 
     PlcalWindow vista;
     QtCollation alfabeto;
-    std::unique_ptr<PlfcollabWindow> m_vistaCollab;
+    std::unique_ptr<PlfcollabWindow> staffWindow;
     plfcollab collaboratori;
     plcal finestra;
 };
