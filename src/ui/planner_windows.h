@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/plcal/plcal.h"
+#include "ui/kit/told_events.h"
 #include "ui/plcal/plcal_window.h"
 #include "ui/plfcollab/plfcollab_window.h"
 #include "ui/ports/qt_collation.h"
@@ -15,6 +16,7 @@ namespace planner {
 struct PlannerWindows {
     PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Contenuti& contenuti, MessageBoxes& messaggi);
 
+    ToldEvents annunci; // before the windows make any
     /// The staff window, made when it is asked for.
     PlfcollabWindow& vistaCollab();
 

@@ -30,6 +30,7 @@ std::string italianKeys(std::string keys) {
                                            {"Space", "Barra spaziatrice"},
                                            {"PgUp", "PagSu"},
                                            {"PgDown", "PagGiù"},
+                                           {"Space", "Spazio"},
                                            {"Left", "Freccia sinistra"},
                                            {"Right", "Freccia destra"},
                                            {"Up", "Freccia su"},

@@ -33,8 +33,8 @@ TEST_F(AccessibleNames, TheMonthlyPlannerHasANameForEveryButtonAndItsGrid) {
     lookAt("Planner Mensile");
     bus.waitFor(planner(), "Mese successivo");
     checkButtons({"Mese precedente", "Mese successivo", "Anno precedente", "Anno successivo"});
-    EXPECT_EQ(namesOf("table").count("Planner mensile"), 1U);
-    EXPECT_EQ(namesOf("table").count("Planner annuale"), 0U);
+    EXPECT_EQ(namesOf("layered pane").count("Planner mensile"), 1U);
+    EXPECT_EQ(namesOf("layered pane").count("Planner annuale"), 0U);
 }
 
 TEST_F(AccessibleNames, TheDailyPlannerHasANameForEveryButtonAndItsGrid) {
@@ -42,7 +42,7 @@ TEST_F(AccessibleNames, TheDailyPlannerHasANameForEveryButtonAndItsGrid) {
     lookAt("Planner Giornaliero");
     bus.waitFor(planner(), "Giorno successivo");
     checkButtons({"Giorno precedente", "Giorno successivo"});
-    EXPECT_EQ(namesOf("table").count("Planner giornaliero"), 1U);
+    EXPECT_EQ(namesOf("layered pane").count("Planner giornaliero"), 1U);
 }
 
 TEST_F(AccessibleNames, TheYearlyPlannerHasANameForEveryButtonAndItsGrid) {
@@ -50,7 +50,7 @@ TEST_F(AccessibleNames, TheYearlyPlannerHasANameForEveryButtonAndItsGrid) {
     lookAt("Planner Annuale");
     bus.waitFor(planner(), "Anno successivo");
     checkButtons({"Anno precedente", "Anno successivo"});
-    EXPECT_EQ(namesOf("table").count("Planner annuale"), 1U);
+    EXPECT_EQ(namesOf("layered pane").count("Planner annuale"), 1U);
 }
 
 TEST_F(AccessibleNames, APickedCellIsASentenceAndItsTotalsAreNumbersWithTheirCaptions) {

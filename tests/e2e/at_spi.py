@@ -11,6 +11,8 @@
     at_spi.py [--deadline SECONDS] PID names TABLE               print the name of each of the table's cells
     at_spi.py [--deadline SECONDS] PID hear                      print "ready", then the name of whatever is said
                                                                  to have got the focus, until the deadline
+                                                                 with --names also "name: " and the new name of
+                                                                 whatever is said to be called otherwise
     at_spi.py [--deadline SECONDS] PID walk                      read all of every object; print role, tab, name
 
 Only what shows on the screen counts, but for "walk", and a place only once it has settled. What is not there
@@ -29,7 +31,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PAUSE = 0.05  # seconds between two looks: what comes late gives no event
-TABLES = (Atspi.Role.TABLE, Atspi.Role.TREE_TABLE, Atspi.Role.TREE, Atspi.Role.LIST)
+TABLES = (Atspi.Role.TABLE, Atspi.Role.LAYERED_PANE, Atspi.Role.LIST)
 
 
 def application(pid):
@@ -94,10 +96,15 @@ def where(program, wanted):
     return None if node is None else place(node)
 
 
+def said(node):
+    """An item of a grid is called what it holds; whose and of which day it is says its description."""
+    return (node.get_description(), node.get_name())
+
+
 def cell(program, wanted):
     table = table_iface(program, wanted)
     found = None if table is None else table.get_accessible_at(wanted.row, wanted.column)
-    return place(found) if found is not None and found.get_name() == wanted.name else None
+    return place(found) if found is not None and wanted.name in said(found) else None
 
 
 def everything(program, _):
@@ -160,10 +167,17 @@ def walk(program, _):
 def hear(program, wanted):
     def got_focus(event, *_):
         if event.detail1 and event.source.get_process_id() == wanted.pid:
-            print(event.source.get_name(), flush=True)
+            print(next(filter(None, said(event.source)), ""), flush=True)
 
-    listener = Atspi.EventListener.new(got_focus)
-    listener.register("object:state-changed:focused")
+    def renamed(event, *_):
+        if event.source.get_process_id() == wanted.pid:
+            print(f"name: {event.source.get_name()}", flush=True)
+
+    listeners = [(Atspi.EventListener.new(got_focus), "object:state-changed:focused")]
+    if wanted.names:
+        listeners.append((Atspi.EventListener.new(renamed), "object:property-change:accessible-name"))
+    for listener, event in listeners:
+        listener.register(event)
     print("ready", flush=True)
     GLib.timeout_add(int(wanted.deadline * 1000), Atspi.event_quit)
     Atspi.event_main()
@@ -189,6 +203,8 @@ def command_line():
         command.set_defaults(look=look, settles=look in (where, cell, everything, focus))
         if look in (press, where):
             command.add_argument("--role")
+        if look is hear:
+            command.add_argument("--names", action="store_true")
         for argument in arguments:
             command.add_argument(argument, type=int if argument in ("row", "column") else str)
     return parser.parse_args()

@@ -180,6 +180,9 @@ public:
     void LockWindowUpdate(bool locked) override { m_journal.push_back(locked ? "lock" : "unlock"); }
     void mostraInformazioni() override { m_journal.push_back("information"); }
     void mostraGuida() override { m_journal.push_back("guide"); }
+    void annuncia(const std::string& testo) override { announced.push_back(testo); }
+
+    std::vector<std::string> announced;
 
     Dimensioni screen = ProgettoPlcal;
     int firstColumn = PrimaColonnaGiornaliera;
@@ -226,7 +229,9 @@ public:
     int righePerPagina() const override { return righe; }
     void scorriA(int riga) override { primaRiga = riga; }
     std::optional<std::string> chiediTesto(std::string_view titolo, const std::string& iniziale) override;
+    void annuncia(const std::string& testo) override { announced.push_back(testo); }
 
+    std::vector<std::string> announced;
     int primaRiga = 0;
     int righe = 10;
     std::optional<std::string> risposta;

@@ -262,7 +262,7 @@ TEST_F(BarsTest, ThePictureOfADayStandsInTheMiddleOfItsCell) {
 }
 
 TEST_F(BarsTest, TheFocusFrameStandsAroundTheCurrentCellOnly) {
-    GridModel model(griglia, [](Casella) { return std::string(); });
+    GridModel model(griglia, {[](Casella) { return std::string(); }, [](Casella) { return std::string(); }});
     QObject owner;
     const CellDelegate delegate(model, painter, &owner);
     QImage image(Width, height, QImage::Format_RGB32);

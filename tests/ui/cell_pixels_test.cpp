@@ -39,7 +39,8 @@ protected:
     }
     Painted paintFocused(bool focused) {
         return {CellSize, GetParam(), [&](QPainter& target) {
-                    const GridModel model(griglia, [](Casella) { return std::string(); });
+                    const GridModel model(griglia, {[](Casella) { return std::string(); },
+                                                    [](Casella) { return std::string(); }});
                     QObject owner;
                     QStyleOptionViewItem option;
                     option.rect = {{0, 0}, CellSize};

@@ -195,7 +195,7 @@ protected:
         case Mezzo::assistenza:
             auto* table = QAccessible::queryAccessibleInterface(&bench.view())->tableInterface();
             auto* cell = table->cellAt(posto.riga - bench.griglia().FixedRows(), posto.colonna - 1);
-            return cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+            return cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         }
     }
 

@@ -107,8 +107,8 @@ TEST_F(GlanceTest, TheStatusLineSaysItTooWhileTheMouseIsThere) {
 TEST_F(GlanceTest, ANamesTipHasThePersonsTotals) {
     bench.open("M");
     const QPoint rossi(10, names().sectionViewportPosition(1) + 5);
-    EXPECT_TRUE(toolTipAt(*names().viewport(), rossi)
-                    .contains(QStringLiteral("Rossi Bruno: scadenze 4, pratiche 1")));
+    EXPECT_TRUE(
+        toolTipAt(*names().viewport(), rossi).contains(QStringLiteral("Rossi Bruno: 4 scadenze, 1 pratica")));
 }
 
 TEST_F(GlanceTest, ANameIsNoMarkup) {

@@ -14,12 +14,15 @@ namespace planner {
 
 namespace {
 
+std::function<std::string(Casella)> placeAfter(const std::string& words) {
+    return [words](Casella casella) {
+        return words + std::to_string(casella.riga) + " " + std::to_string(casella.colonna);
+    };
+}
+
 struct GridModelTest : testing::Test {
     Griglia griglia{6, 4, 2, Colore::gialloChiaro};
-    GridModel model{griglia, [](Casella casella) {
-                        return "<b>cella " + std::to_string(casella.riga) + " " +
-                               std::to_string(casella.colonna);
-                    }};
+    GridModel model{griglia, {placeAfter("<b>nome "), placeAfter("<b>cella ")}};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
     QSignalSpy changes{&model, &QAbstractItemModel::dataChanged};
     QSignalSpy resets{&model, &QAbstractItemModel::modelReset};
@@ -48,7 +51,8 @@ TEST_F(GridModelTest, ACellsTextAndColoursAreThoseOfTheGrid) {
 
 TEST_F(GridModelTest, TheSentenceIsReadAloudAsItIsAndNoToolTipIsMarkup) {
     const QModelIndex index = model.index(1, 1);
-    EXPECT_EQ(index.data(Qt::AccessibleTextRole).toString(), QStringLiteral("<b>cella 3 2"));
+    EXPECT_EQ(index.data(Qt::AccessibleTextRole).toString(), QStringLiteral("<b>nome 3 2"));
+    EXPECT_EQ(index.data(Qt::AccessibleDescriptionRole).toString(), QStringLiteral("<b>cella 3 2"));
     EXPECT_TRUE(index.data(Qt::ToolTipRole).toString().contains(QStringLiteral("&lt;b&gt;cella 3 2")));
 }
 
@@ -97,7 +101,7 @@ TEST_F(GridModelTest, HeadersAreAnnouncedApartFromData) {
 TEST_F(GridModelTest, NoTwoCellsShareAPlaceInTheToolkitsTables) {
     for (const int columns : {38, 97, 4}) {
         Griglia large(40, columns, 1, Colore::bianco);
-        const GridModel wide(large, [](Casella) { return std::string(); });
+        const GridModel wide(large, {placeAfter({}), placeAfter({})});
         std::set<std::size_t> places;
         for (int row = 0; row < wide.rowCount(); ++row) {
             for (int column = 0; column < wide.columnCount(); ++column) {

@@ -166,6 +166,7 @@ TEST_F(InteractionTest, TheContextMenuOffersTheCommandsThatApply) {
                                QStringLiteral("Agenda"),
                                QStringLiteral("Planner non dettagliato"),
                                QStringLiteral("-"),
+                               QStringLiteral("Leggi"),
                                QStringLiteral("Copia la tabella"),
                                QStringLiteral("Stampa…"),
                                QStringLiteral("Stampa con i totali…"),

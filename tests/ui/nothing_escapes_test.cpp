@@ -124,7 +124,8 @@ TEST_F(NothingEscapesTest, AnOfficeOf500CanBeReadWhole) {
 
 TEST_F(NothingEscapesTest, AModelWhoseSentenceThrowsAnswersNothing) {
     Griglia griglia(5, 4, 2, Colore::bianco);
-    const GridModel model(griglia, [](Casella) -> std::string { throw std::runtime_error("rotto"); });
+    const auto broken = [](Casella) -> std::string { throw std::runtime_error("rotto"); };
+    const GridModel model(griglia, {broken, broken});
     EXPECT_FALSE(model.data(model.index(0, 0), Qt::AccessibleTextRole).isValid());
     EXPECT_FALSE(model.data(model.index(0, 0), Qt::ToolTipRole).isValid());
     EXPECT_FALSE(model.headerData(0, Qt::Vertical, Qt::AccessibleTextRole).isValid());
@@ -132,7 +133,8 @@ TEST_F(NothingEscapesTest, AModelWhoseSentenceThrowsAnswersNothing) {
 
 TEST_F(NothingEscapesTest, AModelThatKnowsMoreRowsThanTheGridAnswersNothing) {
     Griglia griglia(9, 4, 2, Colore::bianco);
-    const GridModel model(griglia, [](Casella) { return std::string("x"); });
+    const auto known = [](Casella) { return std::string("x"); };
+    const GridModel model(griglia, {known, known});
     const QModelIndex last = model.index(6, 0);
     const Griglia::LockWindowUpdate lock(griglia); // the model has not been told yet
     griglia.setRows(3);

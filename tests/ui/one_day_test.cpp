@@ -98,7 +98,7 @@ private:
         auto* table = QAccessible::queryAccessibleInterface(&m_bench.view())->tableInterface();
         auto* cell = table->cellAt(pick(m_bench.view().model()->rowCount()),
                                    pick(m_bench.view().model()->columnCount()));
-        cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
     void something() {
         switch (pick(5)) {

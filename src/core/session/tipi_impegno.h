@@ -19,17 +19,18 @@ enum class TipoImpegno : std::uint8_t { noteRiservate, impegniVari, scadenze, pr
 /// its drawing stands: 1 top left, 2 top right, 3 bottom left, 4 bottom right.
 struct DescrizioneImpegno {
     char cifra;
-    std::string_view nome;    // Italian, as sentences name it
-    Totale totale;            // whose counters hold it
-    std::string_view disegno; // of the program's resources
+    std::string_view nome;      // Italian, as sentences name it
+    std::string_view singolare; // of one
+    Totale totale;              // whose counters hold it
+    std::string_view disegno;   // of the program's resources
 };
 
 /// By kind.
 inline constexpr std::array<DescrizioneImpegno, 4> TipiImpegno{
-    {{'1', "note riservate", Totale::noteRiservate, "note"},
-     {'2', "impegni vari", Totale::impegniVari, "impegni"},
-     {'3', "scadenze", Totale::scadenze, "scadenze"},
-     {'4', "pratiche", Totale::pratiche, "pratiche"}}};
+    {{'1', "note riservate", "nota riservata", Totale::noteRiservate, "note"},
+     {'2', "impegni vari", "impegno vario", Totale::impegniVari, "impegni"},
+     {'3', "scadenze", "scadenza", Totale::scadenze, "scadenze"},
+     {'4', "pratiche", "pratica", Totale::pratiche, "pratiche"}}};
 
 /// The kinds in the order in which sentences name them.
 inline constexpr std::array OrdineTipi{TipoImpegno::scadenze, TipoImpegno::pratiche, TipoImpegno::impegniVari,

@@ -52,6 +52,7 @@ inline constexpr std::array PulsantiMenu{Pulsante::consult, Pulsante::insimp, Pu
 
 /// The grids' own commands, which no button repeats.
 enum class ComandoGriglia : std::uint8_t {
+    leggi,
     copia,
     stampa,
     stampaConTotali,
@@ -76,6 +77,7 @@ struct DescrizioneComandoGriglia {
 /// By command; the grids' menu has them below the buttons', in this order, and the jumps before the last
 /// group.
 inline constexpr std::array ComandiGriglia{
+    DescrizioneComandoGriglia{ComandoGriglia::leggi, "leggi", "Leggi", "Ctrl+Space"},
     DescrizioneComandoGriglia{ComandoGriglia::copia, "copia", "Copia la tabella", "Ctrl+C"},
     DescrizioneComandoGriglia{ComandoGriglia::stampa, "stampa", "Stampa…", "Ctrl+P"},
     DescrizioneComandoGriglia{ComandoGriglia::stampaConTotali, "stampaConTotali", "Stampa con i totali…",

@@ -20,6 +20,11 @@ QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys)
     return text.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, text);
 }
 
+void nameButton(QWidget& button, const QString& caption, const QList<QKeySequence>& keys) {
+    button.setAccessibleName(caption);
+    button.setAccessibleDescription(QKeySequence::listToString(keys, QKeySequence::NativeText));
+}
+
 int virtualKey(const QKeyEvent& event) {
     return event.key() == Qt::Key_Escape ? TastoEscape : 0;
 }

@@ -28,6 +28,9 @@ QList<QKeySequence> qtKeys(std::string_view names);
 /// What a tool tip says of a command: its caption and, if there are any, its keys in brackets.
 QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys);
 
+/// Names a button for assistive programs: it is called its caption, and described by its keys.
+void nameButton(QWidget& button, const QString& caption, const QList<QKeySequence>& keys);
+
 /// Answers an event that asks for a tool tip with the plain text that `textAt` gives for a position of the
 /// widget, empty for none. False for any other event.
 template <typename TextAt>

@@ -39,8 +39,9 @@ bool GuardedApplication::isRepeatedAnswer(const QObject& receiver, const QEvent&
     }
     const bool press = event.type() == QEvent::KeyPress;
     // A key comes to the window first, with its time. The toolkit knows a repetition, which is a release and
-    // a press in one moment, only if both have come when it looks.
-    const bool timed = receiver.isWindowType();
+    // a press in one moment, only if both have come when it looks. Once more, without a time, comes a key
+    // that a screen reader has seen and hands back.
+    const bool timed = receiver.isWindowType() && key.timestamp() != 0;
     const bool held = timed && press && key.timestamp() - m_released < SamePress;
     if (timed && !press) {
         m_released = key.timestamp();

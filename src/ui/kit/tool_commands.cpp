@@ -75,8 +75,9 @@ QAction* addToolCommand(QToolBar& bar, const ToolCommand& command) {
     action->setData(command.position);
     action->setObjectName(command.name);
     action->setIconText(buttonText(caption));
-    action->setToolTip(captionWithKeys(caption, qtKeys(command.keys)));
-    bar.widgetForAction(action)->setAccessibleName(caption);
+    const QList<QKeySequence> keys = qtKeys(command.keys);
+    action->setToolTip(captionWithKeys(caption, keys));
+    nameButton(*bar.widgetForAction(action), caption, keys);
     bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     return action;
 }

@@ -29,6 +29,14 @@ QFrame* makeBox(QWidget* parent) {
     return box;
 }
 
+/// The toolkit announces a name that is set, whether it is another one or not.
+void setIfOther(QLabel& label, const QString& text, const QString& name) {
+    if (label.accessibleName() != name) {
+        label.setText(text);
+        label.setAccessibleName(name);
+    }
+}
+
 } // namespace
 
 DetailPanel::DetailPanel(QWidget* parent) : QObject(parent) {
@@ -82,9 +90,9 @@ void DetailPanel::show(const PannelloDettagli& contents) {
         const QString number = fromUtf8(state.testo);
         QLabel* label = m_coppie[i].numero;
         label->setVisible(state.visibile);
-        label->setText(number);
-        label->setAccessibleName(fromUtf8(EtichetteTotali.at(i).didascalia) + QStringLiteral(": ") +
-                                 (number.isEmpty() ? QStringLiteral("0") : number));
+        setIfOther(*label, number,
+                   fromUtf8(EtichetteTotali.at(i).didascalia) + QStringLiteral(": ") +
+                       (number.isEmpty() ? QStringLiteral("0") : number));
     }
 }
 

@@ -43,8 +43,9 @@ void GridCorner::addButton(const PulsantePeriodo& described) {
     button->setIcon(qtIcon(described.immagine));
     button->setPalette(lightButtonPalette());
     const QString caption = fromUtf8(described.suggerimento);
-    button->setToolTip(captionWithKeys(caption, qtKeys(described.scorciatoia)));
-    button->setAccessibleName(caption);
+    const QList<QKeySequence> keys = qtKeys(described.scorciatoia);
+    button->setToolTip(captionWithKeys(caption, keys));
+    nameButton(*button, caption, keys);
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this,
             [this, &described] { Q_EMIT periodButtonClicked(described); });
@@ -64,6 +65,12 @@ void GridCorner::addKeys(const PulsantePeriodo& described, QToolButton& button) 
 void GridCorner::setRowHeights(const std::vector<int>& heights) {
     m_heights = heights;
     update();
+}
+
+void GridCorner::setPeriod(const QString& period) {
+    if (period != accessibleName()) {
+        setAccessibleName(period);
+    }
 }
 
 void GridCorner::placeButtons(float scalaX) {
@@ -114,7 +121,7 @@ QString GridCorner::toolTipAt(const QPoint& position) const {
             return fromCp1252(m_griglia.TextMatrix(row, 0));
         }
     }
-    return {};
+    return accessibleName();
 }
 
 bool GridCorner::event(QEvent* event) {

@@ -10,8 +10,8 @@
 
 namespace planner {
 
-GridModel::GridModel(Griglia& griglia, Frase frase, QObject* parent)
-    : QAbstractTableModel(parent), m_griglia(griglia), m_frase(std::move(frase)), m_rows(griglia.Rows()) {
+GridModel::GridModel(Griglia& griglia, VociGriglia voci, QObject* parent)
+    : QAbstractTableModel(parent), m_griglia(griglia), m_voci(std::move(voci)), m_rows(griglia.Rows()) {
     m_griglia.setOsservatore(this);
 }
 
@@ -55,10 +55,12 @@ QVariant GridModel::cellData(Casella casella, int role) const {
     case Qt::BackgroundRole:
         return qtColor(m_griglia.aspetto(casella).sfondo);
     case Qt::AccessibleTextRole:
+        return fromUtf8(m_voci.nome(casella));
+    case Qt::AccessibleDescriptionRole:
     case Qt::StatusTipRole:
-        return fromUtf8(m_frase(casella));
+        return fromUtf8(m_voci.frase(casella));
     case Qt::ToolTipRole:
-        return plainToolTip(fromUtf8(m_frase(casella)));
+        return plainToolTip(fromUtf8(m_voci.frase(casella)));
     default:
         return {};
     }
@@ -70,17 +72,21 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return {};
     }
     return orNothing([&]() -> QVariant {
-        if (orientation == Qt::Vertical) {
-            return rowData(gridRow(section), role);
+        if (role == Qt::AccessibleTextRole) {
+            return fromUtf8(m_voci.nome(orientation == Qt::Vertical ? Casella{gridRow(section), 0}
+                                                                    : Casella{0, gridCol(section)}));
         }
-        return role == Qt::DisplayRole ? columnTitle(gridCol(section)) : QVariant();
+        return role == Qt::DisplayRole ? headerText(orientation, section) : QVariant();
     });
 }
 
-QVariant GridModel::rowData(int row, int role) const {
-    return role == Qt::DisplayRole          ? fromCp1252(m_griglia.TextMatrix(row, 0))
-           : role == Qt::AccessibleTextRole ? fromUtf8(m_frase({row, 0}))
-                                            : QVariant();
+QString GridModel::cornerName() const {
+    return orNothing([this]() -> QVariant { return fromUtf8(m_voci.nome({0, 0})); }).toString();
+}
+
+QVariant GridModel::headerText(Qt::Orientation orientation, int section) const {
+    return orientation == Qt::Vertical ? fromCp1252(m_griglia.TextMatrix(gridRow(section), 0))
+                                       : columnTitle(gridCol(section));
 }
 
 QString GridModel::columnTitle(int col) const {
@@ -109,6 +115,9 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     }
     if (misure) {
         Q_EMIT measuresChanged();
+    }
+    if (!area.empty() && area.rigaMin < m_griglia.FixedRows()) {
+        Q_EMIT periodChanged();
     }
     const bool fixed = area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols();
     if (!area.empty() && (fixed || area.intestazioni)) {

@@ -11,16 +11,19 @@
 
 namespace planner {
 
+/// What is said of a place of a grid, in the grid's own rows and columns, headers included; UTF-8. What they
+/// throw goes no further than the model.
+struct VociGriglia {
+    std::function<std::string(Casella)> nome;  // what a cell holds, whose row it is, which day's column
+    std::function<std::string(Casella)> frase; // the whole of it; of cells only
+};
+
 /// A grid's data cells for the view: the fixed rows and the first column are its headers.
 class GridModel : public QAbstractTableModel, public OsservatoreGriglia {
     Q_OBJECT
 public:
-    /// One sentence on a cell, in the grid's own rows and columns, column 0 included; UTF-8. What it throws
-    /// goes no further than the model.
-    using Frase = std::function<std::string(Casella)>;
-
     /// Watches the grid until it goes; the grid must live longer.
-    GridModel(Griglia& griglia, Frase frase, QObject* parent = nullptr);
+    GridModel(Griglia& griglia, VociGriglia voci, QObject* parent = nullptr);
     ~GridModel() override;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -33,6 +36,8 @@ public:
     void celleCambiate(const AreaCelle& area, bool misure) override;
 
     const Griglia& griglia() const { return m_griglia; }
+    /// What the corner between the headers is called: the period.
+    QString cornerName() const;
     /// The grid's own coordinates of a data cell.
     Casella casella(const QModelIndex& index) const {
         return {gridRow(index.row()), gridCol(index.column())};
@@ -45,14 +50,16 @@ Q_SIGNALS:
     void measuresChanged();
     /// Something in the fixed rows or the first column changed.
     void headersChanged();
+    /// The fixed rows are of another period.
+    void periodChanged();
 
 private:
     QVariant cellData(Casella casella, int role) const;
-    QVariant rowData(int row, int role) const;
+    QVariant headerText(Qt::Orientation orientation, int section) const;
     QString columnTitle(int col) const;
 
     Griglia& m_griglia;
-    Frase m_frase;
+    VociGriglia m_voci;
     int m_rows; // what the views know
 };
 

@@ -5,6 +5,7 @@
 #include "engine/kinds/kind.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/view_accessible.h"
 #include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/grid_corner.h"
 #include "ui/plcal/grid_header.h"
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace planner {
 
@@ -30,14 +32,14 @@ std::optional<Mezzo> mezzoDi(Qt::MouseButton button) {
 
 } // namespace
 
-GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-                   std::function<std::string(Casella)> frase, QWidget* parent)
-    : QTableView(parent), m_tipo(tipo), m_painter(painter),
-      m_model(new GridModel(griglia, std::move(frase), this)),
+GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, const VociGriglia& voci,
+                   QWidget* parent)
+    : QTableView(parent), m_tipo(tipo), m_painter(painter), m_model(new GridModel(griglia, voci, this)),
       m_columns(new GridHeader(Qt::Horizontal, *m_model, painter, this)),
       m_names(new GridHeader(Qt::Vertical, *m_model, painter, this)),
       m_corner(
           new GridCorner(griglia, tipo, painter, parent)) { // in a table a screen reader finds only cells
+    installViewAccessible<GridView>();
     setHorizontalHeader(m_columns);
     setVerticalHeader(m_names);
     setModel(m_model);
@@ -53,6 +55,7 @@ void GridView::connectEvents() {
         m_names->viewport()->update();
         m_corner->update();
     });
+    connect(m_model, &GridModel::periodChanged, this, [this] { m_otherPeriod = true; });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
         Q_EMIT gesture({{m_model->gridRow(row), 0}, mezzo});
@@ -185,14 +188,22 @@ QModelIndex GridView::currentCell() const {
 }
 
 void GridView::showCurrentCell() {
+    const bool otherPeriod = std::exchange(m_otherPeriod, false);
+    if (otherPeriod) {
+        renewItems(*this); // in the same place, another day
+    }
     if (currentCell() != currentIndex()) {
         setAutoScroll(false);
         selectionModel()->setCurrentIndex(currentCell(), QItemSelectionModel::NoUpdate);
         setAutoScroll(true);
+    } else if (otherPeriod && hasFocus()) {
+        QAccessibleEvent onCell(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&onCell);
     }
 }
 
 void GridView::updateButtons(const std::function<bool(const PulsantePeriodo&)>& active) {
+    m_corner->setPeriod(m_model->cornerName());
     m_corner->updateButtons(active, *this);
 }
 

@@ -16,14 +16,15 @@ class CellPainter;
 class GridCorner;
 class GridHeader;
 class GridModel;
+struct VociGriglia;
 
 /// One of the planner's grids on the screen: header rows and names stay in sight, the rest scrolls.
 class GridView : public QTableView {
     Q_OBJECT
 public:
-    /// `frase` gives a sentence on a cell.
-    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter,
-             std::function<std::string(Casella)> frase, QWidget* parent);
+    /// `voci` give what is said of a place.
+    GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, const VociGriglia& voci,
+             QWidget* parent);
 
     const Griglia& griglia() const;
     TipoPlanner tipo() const { return m_tipo; }
@@ -98,7 +99,8 @@ private:
     GridCorner* m_corner;
     Scala m_scala;
     Ingrandimento m_ingrandimento;
-    int m_turned = 0; // of the wheel, short of a step
+    int m_turned = 0;           // of the wheel, short of a step
+    bool m_otherPeriod = false; // since the current cell was shown last
 };
 
 } // namespace planner

@@ -9,11 +9,13 @@
 #include "forms/plcal/sentences.h"
 #include "session/period_moves.h"
 #include "ui/guida/guida_window.h"
+#include "ui/kit/annuncio.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
 #include "ui/plcal/detail_panel.h"
+#include "ui/plcal/grid_model.h"
 #include "ui/plcal/grid_view.h"
 #include "ui/plcal/info_dialog.h"
 #include "ui/plcal/legend_bar.h"
@@ -48,8 +50,8 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
       m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
       m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
-      m_legenda(new LegendBar(this)),
-      m_panel(new DetailPanel(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
+      m_legenda(new LegendBar(this)), m_panel(new DetailPanel(this)),
+      m_annuncio(new Annuncio(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
                                               makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
                                               makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
     setObjectName(QStringLiteral("plcal"));
@@ -66,11 +68,10 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
 }
 
 GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
-    const auto frase = [this, tipo](Casella casella) {
-        return casella.colonna < Griglia::FixedCols() ? fraseNome(m_controlli, tipo, casella.riga)
-                                                      : fraseCella(m_controlli, m_sessione, tipo, casella);
-    };
-    auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, frase, this);
+    const VociGriglia voci{
+        [this, tipo](Casella casella) { return nomeCasella(m_controlli, m_sessione, tipo, casella); },
+        [this, tipo](Casella casella) { return fraseCella(m_controlli, m_sessione, tipo, casella); }};
+    auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, voci, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
     grid->setAccessibleName(fromUtf8(spoken));
     grid->setTips([this, tipo](Casella casella) {
@@ -287,6 +288,10 @@ void PlcalWindow::LockWindowUpdate(bool locked) {
 
 void PlcalWindow::mostraInformazioni() {
     showInfoDialog(this);
+}
+
+void PlcalWindow::annuncia(const std::string& testo) {
+    m_annuncio->di(fromUtf8(testo));
 }
 
 void PlcalWindow::mostraGuida() {

@@ -18,6 +18,7 @@ class QAction;
 
 namespace planner {
 
+class Annuncio;
 class CommandBar;
 class DetailPanel;
 class FittedLabel;
@@ -56,6 +57,7 @@ public:
     void LockWindowUpdate(bool locked) override;
     void mostraInformazioni() override;
     void mostraGuida() override;
+    void annuncia(const std::string& testo) override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.
@@ -102,6 +104,7 @@ private:
     PromptField* m_campo;
     LegendBar* m_legenda;
     DetailPanel* m_panel;
+    Annuncio* m_annuncio;
     std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
     std::array<GridView*, 3> m_grids;
     std::vector<QAction*> m_comandiGriglia; // in the order of their table

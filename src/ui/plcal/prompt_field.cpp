@@ -42,11 +42,13 @@ void PromptField::open(const DescrizioneCampo& campo, const QString& text,
     m_edit->setAccessibleDescription(fromUtf8(campo.esempio));
     m_edit->setPlaceholderText(fromUtf8(campo.esempio));
     m_edit->setMinimumWidth(TypicalLetters * m_edit->fontMetrics().averageCharWidth());
-    m_edit->setText(text);
-    m_edit->selectAll();
     show();
     raise();
-    m_edit->setFocus();
+    m_edit->setFocus(); // first: a screen reader does not name a field whose text it has heard of before
+    if (text != m_edit->text()) { // it would tell of a change else
+        m_edit->setText(text);
+    }
+    m_edit->selectAll();
 }
 
 bool PromptField::eventFilter(QObject* watched, QEvent* event) {

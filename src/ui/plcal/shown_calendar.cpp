@@ -3,7 +3,6 @@
 #include "ui/plcal/shown_calendar.h"
 
 #include "ui/kit/fitting_font.h"
-#include "ui/kit/quiet_accessibility.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -15,7 +14,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <optional>
 
 namespace planner {
 
@@ -91,12 +89,6 @@ void ShownCalendar::colourDays() {
 
 void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
     const QScopedValueRollback byCode(m_byCode, true);
-    // The days' table announces its current day as focused, wherever the focus is: a screen reader would
-    // leave the grid.
-    std::optional<QuietAccessibility> quiet;
-    if (!isAncestorOf(QApplication::focusWidget())) {
-        quiet.emplace();
-    }
     const Data shown = calendario.Value();
     setDateRange(qtDate(std::min(primo, shown)), qtDate(std::max(ultimo, shown)));
     setSelectedDate(qtDate(shown));

@@ -4,6 +4,7 @@
 
 #include "forms/plfcollab/plfcollab.h"
 #include "forms/tasti.h"
+#include "ui/kit/annuncio.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
@@ -30,8 +31,8 @@ constexpr int ArrowSide = 20; // beside letters of the designed size
 } // namespace
 
 PlfcollabWindow::PlfcollabWindow(plfcollab& form)
-    : m_form(form), m_toolbar(makeToolbar()), m_list(new StaffListView(this)),
-      m_count(new FittedLabel(this)) {
+    : m_form(form), m_toolbar(makeToolbar()), m_list(new StaffListView(this)), m_count(new FittedLabel(this)),
+      m_annuncio(new Annuncio(this)) {
     setObjectName(QStringLiteral("plfcollab"));
     setWindowTitle(QStringLiteral("Selezione Collaboratori"));
     m_list->setObjectName(QStringLiteral("List_Prenotazione"));
@@ -173,6 +174,10 @@ int PlfcollabWindow::righePerPagina() const {
 
 void PlfcollabWindow::scorriA(int riga) {
     m_list->scrollToRow(riga);
+}
+
+void PlfcollabWindow::annuncia(const std::string& testo) {
+    m_annuncio->di(fromUtf8(testo));
 }
 
 std::optional<std::string> PlfcollabWindow::chiediTesto(std::string_view titolo,

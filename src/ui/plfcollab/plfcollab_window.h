@@ -13,6 +13,7 @@ class QToolBar;
 
 namespace planner {
 
+class Annuncio;
 class StaffListView;
 class plfcollab;
 struct DescrizioneComandoCollab;
@@ -34,6 +35,7 @@ public:
     int primaRigaVisibile() const override;
     int righePerPagina() const override;
     void scorriA(int riga) override;
+    void annuncia(const std::string& testo) override;
     std::optional<std::string> chiediTesto(std::string_view titolo, const std::string& iniziale) override;
 
 protected:
@@ -53,6 +55,7 @@ private:
     StaffListView* m_list;
     QWidget* m_arrows = nullptr;
     QLabel* m_count;
+    Annuncio* m_annuncio;
     QPointer<QInputDialog> m_question;
     bool m_placed = false;
 };

@@ -3,6 +3,7 @@
 #include "ui/plfcollab/staff_list_view.h"
 
 #include "ui/kit/controls.h"
+#include "ui/kit/view_accessible.h"
 #include "ui/plfcollab/staff_list_delegate.h"
 #include "ui/plfcollab/staff_list_model.h"
 
@@ -44,6 +45,7 @@ private:
 } // namespace
 
 StaffListView::StaffListView(QWidget* parent) : QTreeView(parent), m_model(new StaffListModel(this)) {
+    installViewAccessible<StaffListView>();
     setModel(m_model);
     setItemDelegate(new StaffListDelegate(this));
     setUpBehaviour();

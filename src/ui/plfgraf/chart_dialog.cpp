@@ -5,6 +5,7 @@
 #include "forms/plfgraf/chart_texts.h"
 #include "forms/plfgraf/plfgraf.h"
 #include "ports/message_boxes.h"
+#include "ui/kit/annuncio.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
@@ -57,7 +58,7 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), m_form(form),
       m_messaggi(messaggi), m_fontFactor(fontFactorFor(*screen())),
       m_chart(new ChartView(*form.visibile(), m_fontFactor, this)), m_frame(makeFrame()),
-      m_piede(new FittedLabel(this)), m_stato(new FittedLabel(this)) {
+      m_piede(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_annuncio(new Annuncio(this)) {
     setObjectName(QStringLiteral("plfgraf"));
     setWindowTitle(QStringLiteral("Planner"));
     setFont(stripFont(m_fontFactor));
@@ -169,6 +170,11 @@ void ChartDialog::say(const QString& text, const QString& spoken) {
     m_stato->setAccessibleName(spoken);
     m_resting = trouble.isEmpty() && text == Suggerimento;
     placeTexts();
+}
+
+void ChartDialog::announce(const QString& text) {
+    say(text);
+    m_annuncio->di(text);
 }
 
 void ChartDialog::showValue(const QModelIndex& index) {

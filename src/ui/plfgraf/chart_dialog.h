@@ -11,6 +11,7 @@ class QPushButton;
 
 namespace planner {
 
+class Annuncio;
 class ChartKindFrame;
 class ChartView;
 class FittedLabel;
@@ -45,6 +46,8 @@ private:
     void placeTexts();
     /// Writes the line below the chart; a screen reader reads `spoken` where it differs.
     void say(const QString& text, const QString& spoken = {});
+    /// Writes it too, and has a screen reader say it.
+    void announce(const QString& text);
     void showValue(const QModelIndex& index);
     Drawing drawing() const;
     QString fileName() const;
@@ -59,6 +62,7 @@ private:
     ChartKindFrame* m_frame;
     FittedLabel* m_piede; // whose hours, of when, in all and on the average
     FittedLabel* m_stato;
+    Annuncio* m_annuncio;
     QRect m_texts;                       // what the buttons leave of the strip
     bool m_resting = true;               // the line invites, and says nothing else
     std::vector<QPushButton*> m_buttons; // from left to right

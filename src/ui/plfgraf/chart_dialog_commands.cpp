@@ -74,7 +74,7 @@ QString ChartDialog::fileName() const {
 
 void ChartDialog::copyValues() {
     QGuiApplication::clipboard()->setText(fromUtf8(tabellaValori(grafico())));
-    say(QStringLiteral("Valori copiati."));
+    announce(QStringLiteral("Valori copiati."));
 }
 
 void ChartDialog::saveChart() {
@@ -97,7 +97,7 @@ void ChartDialog::saveChart() {
     const QString path = dialog.selectedFiles().value(0);
     const QString error = saveDrawing(drawing(), path);
     if (error.isEmpty()) {
-        say(QStringLiteral("Grafico salvato in ") + path);
+        announce(QStringLiteral("Grafico salvato in ") + path);
     } else {
         m_messaggi.critical("Il grafico non è stato salvato in " + path.toStdString() + ": " +
                             error.toStdString() + ".");

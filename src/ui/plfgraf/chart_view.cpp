@@ -163,11 +163,15 @@ void ChartView::keyPressEvent(QKeyEvent* event) {
             return;
         }
     }
+    QListView::keyPressEvent(event);
+}
+
+void ChartView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
     if (!selectedValue().isValid()) {
-        // With the focus the first value became the current one, unseen: the first key is to show it.
+        // The first value became the current one, unseen: the first key is to show it and have it read.
         selectionModel()->clearCurrentIndex();
     }
-    QListView::keyPressEvent(event);
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) {

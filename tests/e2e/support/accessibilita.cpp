@@ -77,8 +77,10 @@ Esito Accessibilita::look(const Processo& owner, const std::vector<std::string>&
     return runTool(words(owner, Deadline / 2, command), toolEnvironment());
 }
 
-std::unique_ptr<Processo> Accessibilita::listener(const Processo& owner) const {
-    auto tool = std::make_unique<Processo>(words(owner, 2 * Deadline, {"hear"}), toolEnvironment());
+std::unique_ptr<Processo> Accessibilita::listener(const Processo& owner, bool names) const {
+    const std::vector<std::string> command =
+        names ? std::vector<std::string>{"hear", "--names"} : std::vector<std::string>{"hear"};
+    auto tool = std::make_unique<Processo>(words(owner, 2 * Deadline, command), toolEnvironment());
     if (tool->readLine() != "ready") {
         throw std::runtime_error("nothing can be heard on the accessibility bus");
     }

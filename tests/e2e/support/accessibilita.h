@@ -27,7 +27,7 @@ public:
         std::string tabella; // or list, whose items are cells of one column
         int riga = 0;        // counted from 0, without headers, as the column is
         int colonna = 0;
-        std::string nome;
+        std::string nome; // or description
     };
 
     // All wait for a control of that name, and throw at the deadline.
@@ -56,9 +56,10 @@ public:
     /// The name of the control that has the focus; empty when none has, as in a window that is not active.
     std::string focused(const Processo& owner) const;
 
-    /// A program that hears what a screen reader hears of the focus: its lines are the names of what has got
-    /// it.
-    std::unique_ptr<Processo> listener(const Processo& owner) const;
+    /// A program that hears what a screen reader hears of the focus: its lines are the descriptions of what
+    /// has got it, or the names where there are none. If wanted, further lines, "name: " and a name, are of
+    /// what is said to be called otherwise.
+    std::unique_ptr<Processo> listener(const Processo& owner, bool names = false) const;
 
 private:
     std::vector<std::string> words(const Processo& owner, std::chrono::milliseconds deadline,

@@ -4,6 +4,7 @@
 
 #include "archive/cp1252.h"
 #include "archive/numeric_value.h"
+#include "session/calendar_rules.h"
 #include "support/builders.h"
 
 #include <array>
@@ -44,8 +45,10 @@ std::string inWords(int giorno, int mese) {
                                                       "maggio",    "giugno",   "luglio",   "agosto",
                                                       "settembre", "ottobre",  "novembre", "dicembre"};
     const auto weekday = static_cast<std::size_t>(columnOf(giorno, mese) % 7);
+    const Festivita* holiday = trovaFestivo(giorno - 1, mese);
     return std::string(days.at(weekday)) + " " + std::to_string(giorno) + " " +
-           std::string(months.at(static_cast<std::size_t>(mese - 1))) + " " + std::to_string(Anno);
+           std::string(months.at(static_cast<std::size_t>(mese - 1))) + " " + std::to_string(Anno) +
+           (holiday == nullptr ? "" : ", " + std::string(holiday->nome));
 }
 
 std::string inDigits(int giorno, int mese) {
@@ -60,12 +63,16 @@ int deadlines(const RigaPlanner& riga) {
     return number(riga, 1) + number(riga, 5);
 }
 
+std::string counted(int count, const std::string& one, const std::string& many) {
+    return count == 0 ? "" : ", " + std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
 std::string kinds(const RigaPlanner& riga) {
-    std::string kinds = "scadenze";
-    kinds += number(riga, 2) + number(riga, 6) != 0 ? ", pratiche" : "";
-    kinds += number(riga, 8) != 0 ? ", impegni vari" : "";
-    kinds += number(riga, 7) != 0 ? ", note riservate" : "";
-    return kinds;
+    const std::string all = counted(deadlines(riga), "scadenza", "scadenze") +
+                            counted(number(riga, 2) + number(riga, 6), "pratica", "pratiche") +
+                            counted(number(riga, 8), "impegno vario", "impegni vari") +
+                            counted(number(riga, 7), "nota riservata", "note riservate");
+    return all.substr(2);
 }
 
 /// The lines of a staff member in a month.

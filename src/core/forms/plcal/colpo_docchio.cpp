@@ -4,8 +4,8 @@
 
 #include "archive/cp1252.h"
 #include "engine/kinds/kind.h"
-#include "forms/plcal/design.h"
-#include "forms/plcal/panel.h"
+#include "forms/plcal/impegni_casella.h"
+#include "forms/plcal/lettura.h"
 #include "forms/plcal/sentences.h"
 
 namespace planner {
@@ -15,16 +15,14 @@ namespace {
 std::string deadlinesOf(const ControlliPlcal& controlli, int colonna, int scadenze) {
     const Griglia& griglia = controlli.Flxm;
     const auto day = mensile().giornoCella(controlli.calendario, {griglia.FixedRows(), colonna});
-    const std::string count = scadenze == 0   ? "nessuna scadenza"
-                              : scadenze == 1 ? "1 scadenza"
-                                              : std::to_string(scadenze) + " scadenze";
-    return (day ? dataEstesa(*day) + ": " : "") + count + " dello studio";
+    const std::string count =
+        scadenze == 0 ? std::string("nessuna scadenza") : quanti(scadenze, "scadenza", "scadenze");
+    return (day ? giornoInParole(*day) + ": " : "") + count + " dello studio";
 }
 
 std::string freeAt(int colonna, int liberi) {
-    const std::string count = liberi == 0   ? "nessuno libero"
-                              : liberi == 1 ? "1 libero"
-                                            : std::to_string(liberi) + " liberi";
+    const std::string count =
+        liberi == 0 ? std::string("nessuno libero") : quanti(liberi, "libero", "liberi");
     return count + " alle " + oraColonna(colonna);
 }
 
@@ -47,17 +45,7 @@ std::string fraseTotali(const ControlliPlcal& controlli, const modpl& sessione, 
     if (!name || !regole(tipo).perCollaboratore) {
         return {};
     }
-    std::string totals;
-    for (std::size_t i = 0; i < CategorieTotali.size(); ++i) {
-        const auto totale = static_cast<Totale>(i);
-        const std::string number =
-            formatoTotale(sessione.TotaliImpegni.at(indiceDiRiga(griglia, riga), totale));
-        const bool deadlines = totale == Totale::scadenze || totale == Totale::scadenzeConcluse;
-        if (!number.empty() && !(deadlines && sessione.varianteRidotta())) {
-            totals += (totals.empty() ? "" : ", ") + std::string(CategorieTotali[i].nome) + " " + number;
-        }
-    }
-    return utf8FromCp1252(griglia.TextMatrix(riga, 0)) + ": " + (totals.empty() ? "nessun impegno" : totals);
+    return utf8FromCp1252(griglia.TextMatrix(riga, 0)) + ": " + totaliRiga(controlli, sessione, riga);
 }
 
 } // namespace planner

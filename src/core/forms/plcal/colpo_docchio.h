@@ -14,8 +14,8 @@ namespace planner {
 /// one.
 std::string fraseColonna(const ControlliPlcal& controlli, TipoPlanner tipo, int colonna);
 
-/// A name of the visible grid with the person's totals of the period shown, UTF-8: "Rossi Bruno: scadenze 12,
-/// pratiche 4"; without deadlines in the window that has none. Empty for a row without a name.
+/// A name of the visible grid with the person's totals of the period shown, UTF-8: "Rossi Bruno: 12 scadenze
+/// (3 concluse), 4 pratiche"; without deadlines in the window that has none. Empty for a row without a name.
 std::string fraseTotali(const ControlliPlcal& controlli, const modpl& sessione, TipoPlanner tipo, int riga);
 
 } // namespace planner

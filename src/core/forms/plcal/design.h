@@ -20,6 +20,7 @@ struct EtichettaTotale {
     int colonna, riga;            // place in the panel, from 0
     Totale totale;                // that the number is
     std::string_view nomeInFrase; // of the yearly ones
+    std::string_view singolare;   // the same of one
 
     /// Hidden in the window variant "B".
     constexpr bool scadenze() const {
@@ -32,20 +33,24 @@ struct EtichettaTotale {
 };
 
 inline constexpr std::array EtichetteTotali{
-    EtichettaTotale{"Lblscad", "Scadenze", false, 0, 0, Totale::scadenze, {}},
-    EtichettaTotale{"Lblscadeva", "di cui concluse", false, 1, 0, Totale::scadenzeConcluse, {}},
-    EtichettaTotale{"lblpra", "Pratiche", false, 0, 1, Totale::pratiche, {}},
-    EtichettaTotale{"Lblpraeva", "di cui concluse", false, 1, 1, Totale::praticheConcluse, {}},
-    EtichettaTotale{"lblpers", "Impegni vari", false, 2, 0, Totale::impegniVari, {}},
-    EtichettaTotale{"Lblnotes", "Note riservate", false, 2, 1, Totale::noteRiservate, {}},
-    EtichettaTotale{"scad", "Scadenze", true, 0, 0, Totale::scadenze, "scadenze"},
-    EtichettaTotale{"scaev", "di cui concluse", true, 1, 0, Totale::scadenzeConcluse, "scadenze concluse"},
-    EtichettaTotale{"prat", "Pratiche", true, 0, 1, Totale::pratiche, "pratiche"},
-    EtichettaTotale{"praev", "di cui concluse", true, 1, 1, Totale::praticheConcluse, "pratiche concluse"},
+    EtichettaTotale{"Lblscad", "Scadenze", false, 0, 0, Totale::scadenze, {}, {}},
+    EtichettaTotale{"Lblscadeva", "di cui concluse", false, 1, 0, Totale::scadenzeConcluse, {}, {}},
+    EtichettaTotale{"lblpra", "Pratiche", false, 0, 1, Totale::pratiche, {}, {}},
+    EtichettaTotale{"Lblpraeva", "di cui concluse", false, 1, 1, Totale::praticheConcluse, {}, {}},
+    EtichettaTotale{"lblpers", "Impegni vari", false, 2, 0, Totale::impegniVari, {}, {}},
+    EtichettaTotale{"Lblnotes", "Note riservate", false, 2, 1, Totale::noteRiservate, {}, {}},
+    EtichettaTotale{"scad", "Scadenze", true, 0, 0, Totale::scadenze, "scadenze", "scadenza"},
+    EtichettaTotale{"scaev", "di cui concluse", true, 1, 0, Totale::scadenzeConcluse, "scadenze concluse",
+                    "scadenza conclusa"},
+    EtichettaTotale{"prat", "Pratiche", true, 0, 1, Totale::pratiche, "pratiche", "pratica"},
+    EtichettaTotale{"praev", "di cui concluse", true, 1, 1, Totale::praticheConcluse, "pratiche concluse",
+                    "pratica conclusa"},
     // A day's counters 8, 7 and 11 have other names than those of an appointment.
-    EtichettaTotale{"nriv", "Note riservate", true, 2, 0, Totale::impegniVari, "note riservate"},
-    EtichettaTotale{"bnot", "Block Notes", true, 0, 2, Totale::noteRiservate, "block notes"},
-    EtichettaTotale{"blkev", "di cui conclusi", true, 1, 2, Totale::altro, "block notes conclusi"},
+    EtichettaTotale{"nriv", "Note riservate", true, 2, 0, Totale::impegniVari, "note riservate",
+                    "nota riservata"},
+    EtichettaTotale{"bnot", "Block Notes", true, 0, 2, Totale::noteRiservate, "block notes", "block notes"},
+    EtichettaTotale{"blkev", "di cui conclusi", true, 1, 2, Totale::altro, "block notes conclusi",
+                    "block notes concluso"},
 };
 
 /// True when the panel of the kind and window variant shows the total at all.

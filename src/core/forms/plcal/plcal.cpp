@@ -17,6 +17,7 @@ void plcal::load() {
     m_pannello.nascondiTotali();
     m_pannello.svuotaAnnuali();
     m_stato.clear();
+    m_totaliDetti.clear();
 }
 
 void plcal::show() {

@@ -120,6 +120,7 @@ private:
     void markShownCell();
     void restoreMarks();
     void describeCurrentCell();
+    void annunciaTotali(Mezzo mezzo);
     int rigaCursore() const;
     void posizionaCursore(int colonnaGiornaliera);
 
@@ -131,6 +132,8 @@ private:
     bool mostraGiorno(Data giorno);
 
     // plcal_go.cpp
+    /// Writes the status line and has it spoken.
+    void annunciaStato(const std::string& testo);
     void ingrandisci(ComandoGriglia comando);
     void suCarta(ComandoGriglia comando);
     void apriCampo(CampoGriglia campo);
@@ -157,6 +160,7 @@ private:
     Ingrandimento m_ingrandimento;
     PannelloDettagli m_pannello;
     std::string m_stato;
+    std::string m_totaliDetti;  // the last ones that were spoken
     std::string m_testoCercato; // the last one, UTF-8
 };
 

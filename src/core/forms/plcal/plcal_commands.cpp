@@ -62,7 +62,7 @@ void plcal::consult() {
     if (canConsult()) {
         reply("D");
     } else {
-        m_stato = "Qui non ci sono scadenze o pratiche da consultare.";
+        annunciaStato("Qui non ci sono scadenze o pratiche da consultare.");
     }
 }
 
@@ -112,6 +112,7 @@ void plcal::showChart() {
 void plcal::setDettagliato(bool dettagliato) {
     m_controlli.Toolbar1.setDettagliato(dettagliato);
     refreshGrid();
+    m_porte.vista.annuncia(dettagliato ? "planner dettagliato" : "planner non dettagliato");
 }
 
 void plcal::refreshGrid() {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/plcal/lettura.h"
 #include "forms/plcal/plcal.h"
 #include "forms/ricerca.h"
 #include "session/data_scritta.h"
@@ -23,6 +24,11 @@ std::string fuoriPeriodo(Data giorno, const PeriodoSessione& limiti) {
 
 } // namespace
 
+void plcal::annunciaStato(const std::string& testo) {
+    m_stato = testo;
+    m_porte.vista.annuncia(testo);
+}
+
 void plcal::griglia_Comando(ComandoGriglia comando) {
     if (comando == ComandoGriglia::guida) {
         return m_porte.vista.mostraGuida();
@@ -31,6 +37,8 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
         return;
     }
     switch (comando) {
+    case ComandoGriglia::leggi:
+        return esegui([this] { annunciaStato(fraseLettura(m_controlli, m_sessione)); });
     case ComandoGriglia::cerca:
         return apriCampo(CampoGriglia::persona);
     case ComandoGriglia::cercaAncora:
@@ -52,7 +60,7 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
 void plcal::ingrandisci(ComandoGriglia comando) {
     esegui([&] {
         m_ingrandimento.esegui(comando);
-        m_stato = "Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %.";
+        annunciaStato("Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %.");
     });
 }
 
@@ -60,7 +68,7 @@ void plcal::suCarta(ComandoGriglia comando) {
     esegui([&] {
         m_porte.suCarta(comando);
         if (comando == ComandoGriglia::copia) {
-            m_stato = "La tabella è stata copiata.";
+            annunciaStato("La tabella è stata copiata.");
         }
     });
 }
@@ -70,7 +78,7 @@ void plcal::griglia_Salto(const Salto& salto) {
     esegui([&] {
         casella = destinazione(m_controlli, m_sessione.archivi, salto);
         if (!casella && m_controlli.tipoVisibile) {
-            m_stato = saltoVuoto(salto);
+            annunciaStato(saltoVuoto(salto));
         }
     });
     if (casella) {
@@ -89,7 +97,7 @@ void plcal::tastoPeriodo(const TastoPeriodo& tasto) {
 
 void plcal::apriCampo(CampoGriglia campo) {
     if (campo == CampoGriglia::persona && !tipo().perCollaboratore) {
-        esegui([this] { m_stato = "Nel planner annuale non ci sono collaboratori da cercare."; });
+        esegui([this] { annunciaStato("Nel planner annuale non ci sono collaboratori da cercare."); });
         return;
     }
     m_porte.vista.apriCampo(descrizione(campo),
@@ -112,7 +120,7 @@ bool plcal::cercaPersona() {
     esegui([&] {
         riga = rigaCercata();
         if (!riga) {
-            m_stato = "Nessun nome o codice contiene «" + m_testoCercato + "».";
+            annunciaStato("Nessun nome o codice contiene «" + m_testoCercato + "».");
         }
     });
     if (riga) {
@@ -139,7 +147,7 @@ bool plcal::vaiAllaData(const std::string& testo) {
     if (const auto giorno = dataScritta(testo, m_controlli.calendario.Value())) {
         return vaiA(*giorno);
     }
-    esegui([&] { m_stato = "«" + testo + "» non è una data: scrivere per esempio 15/8."; });
+    esegui([&] { annunciaStato("«" + testo + "» non è una data: scrivere per esempio 15/8."); });
     return false;
 }
 
@@ -148,7 +156,8 @@ bool plcal::vaiA(Data giorno) {
     esegui([&] {
         moved = mostraGiorno(giorno);
         if (!moved) {
-            m_stato = fuoriPeriodo(giorno, tipo().limiti(m_sessione.periodo, m_controlli.calendario.Value()));
+            const Data shown = m_controlli.calendario.Value();
+            annunciaStato(fuoriPeriodo(giorno, tipo().limiti(m_sessione.periodo, shown)));
         }
     });
     if (moved) {

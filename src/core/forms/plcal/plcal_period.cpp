@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "forms/plcal/plcal.h"
+#include "forms/plcal/sentences.h"
 
 #include <algorithm>
 
@@ -29,6 +30,9 @@ void plcal::premi(std::string_view gruppo, int indice) {
             m_sessione.FinePlanner = false;
         }
         refill(target);
+        if (target != shown) {
+            m_porte.vista.annuncia(nomePeriodo(m_controlli));
+        }
     });
 }
 
@@ -68,7 +72,12 @@ bool plcal::mostraGiorno(Data giorno) {
     if (!m_controlli.tipoVisibile || !tipo().limiti(m_sessione.periodo, shown).contiene(giorno)) {
         return false;
     }
-    tipo().mostraAnche(giorno, shown) ? showPickedDay(giorno) : refill(giorno);
+    if (tipo().mostraAnche(giorno, shown)) {
+        showPickedDay(giorno);
+    } else {
+        refill(giorno);
+        m_porte.vista.annuncia(nomePeriodo(m_controlli));
+    }
     return true;
 }
 

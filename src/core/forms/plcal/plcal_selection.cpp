@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "archive/cp1252.h"
 #include "archive/fixed_text.h"
 #include "archive/numeric_value.h"
+#include "forms/plcal/lettura.h"
 #include "forms/plcal/plcal.h"
 #include "forms/plcal/sentences.h"
 #include "forms/plcal/yearly_day.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace planner {
 
@@ -42,6 +45,20 @@ void plcal::applica(const EffettoGesto& effetto, const Gesto& gesto) {
          onName ? tipo().colonnaGiorno(m_controlli.calendario, griglia().Col()) : gesto.casella.colonna});
     SelChange(effetto.scelta);
     describeCurrentCell();
+    annunciaTotali(gesto.mezzo);
+}
+
+/// Of the staff member that the user selects on purpose: the arrows select too, at every step.
+void plcal::annunciaTotali(Mezzo mezzo) {
+    if (mezzo == Mezzo::frecce || mezzo == Mezzo::invio || mezzo == Mezzo::doppioClic ||
+        !m_pannello.lblcollabVisibile) {
+        return;
+    }
+    const std::string totals =
+        utf8FromCp1252(m_pannello.lblcollab) + ": " + totaliRiga(m_controlli, m_sessione, griglia().Row());
+    if (totals != std::exchange(m_totaliDetti, totals)) {
+        m_porte.vista.annuncia(totals);
+    }
 }
 
 void plcal::Click(Casella casella) {

@@ -21,9 +21,12 @@ struct Salto {
     unsigned tipi = 0;            // the set of kinds looked for; 0 for whatever there is
 };
 
+/// To whatever comes next in the row.
+inline constexpr Salto SaltoSuccessivo{"pienaSuccessiva", "Casella piena successiva", "Ctrl+Right", 0, 1};
+
 /// In the order in which the grids' menu has them.
 inline constexpr std::array Salti{
-    Salto{"pienaSuccessiva", "Casella piena successiva", "Ctrl+Right", 0, 1},
+    SaltoSuccessivo,
     Salto{"pienaPrecedente", "Casella piena precedente", "Ctrl+Left", 0, -1},
     Salto{"pienaSotto", "Casella piena sotto", "Ctrl+Down", 1, 0},
     Salto{"pienaSopra", "Casella piena sopra", "Ctrl+Up", -1, 0},

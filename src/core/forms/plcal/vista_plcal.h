@@ -45,6 +45,8 @@ public:
     virtual void LockWindowUpdate(bool locked) = 0;
     /// Shows the program's name and version and what each picture means, until the user closes it.
     virtual void mostraInformazioni() = 0;
+    /// Has a screen reader say the text, UTF-8.
+    virtual void annuncia(const std::string& testo) = 0;
     /// Shows the office's guide in a window of its own, which `nascondi` takes out of sight too.
     virtual void mostraGuida() = 0;
 };

@@ -175,6 +175,7 @@ void plfcollab::List_Prenotazione_ItemCheck(int riga, bool spuntata) {
     if (riga >= 0 && riga < m_lista.righe()) {
         m_lista.spunta(riga, spuntata);
         m_porte.vista().aggiorna();
+        m_porte.vista().annuncia((spuntata ? "spuntato, " : "non spuntato, ") + conteggio());
     }
 }
 

@@ -30,6 +30,9 @@ public:
     /// Makes the row the first one in sight, or as near to that as the list's end allows.
     virtual void scorriA(int riga) = 0;
 
+    /// Has a screen reader say the text, UTF-8.
+    virtual void annuncia(const std::string& testo) = 0;
+
     /// Asks for a text, modal, with `iniziale` to start from; nothing when the user cancelled. All UTF-8.
     virtual std::optional<std::string> chiediTesto(std::string_view titolo, const std::string& iniziale) = 0;
 };

@@ -70,10 +70,10 @@ TEST_F(ColpoDocchioTest, AGridThatIsNotShownSaysNothing) {
 
 TEST_F(ColpoDocchioTest, ANameHasItsTotalsOfThePeriod) {
     open("M");
-    EXPECT_EQ(name(2), "Bianchi Rosa: scadenze 1, impegni vari 1");
-    EXPECT_EQ(name(3), "Rossi Bruno: scadenze 3, pratiche 1, impegni vari 1, scadenze concluse 1");
+    EXPECT_EQ(name(2), "Bianchi Rosa: 1 scadenza, 1 impegno vario");
+    EXPECT_EQ(name(3), "Rossi Bruno: 3 scadenze (1 conclusa), 1 pratica, 1 impegno vario");
     EXPECT_EQ(name(4), "Verdi Ugo: nessun impegno");
-    EXPECT_EQ(name(5), "*NON ASSEGNATE*: impegni vari 1");
+    EXPECT_EQ(name(5), "*NON ASSEGNATE*: 1 impegno vario");
     EXPECT_EQ(name(8), "") << "a spare row";
     EXPECT_EQ(name(-1), "");
     EXPECT_EQ(name(1000), "");
@@ -83,7 +83,7 @@ TEST_F(ColpoDocchioTest, AWindowWithoutDeadlinesCountsNone) {
     sessione.FlagFinestra = "B";
     open("M");
     EXPECT_EQ(column(17), "");
-    EXPECT_EQ(name(3), "Rossi Bruno: pratiche 1, impegni vari 1");
+    EXPECT_EQ(name(3), "Rossi Bruno: 1 pratica, 1 impegno vario");
 }
 
 TEST_F(ColpoDocchioTest, AnOfficeOfNobodyHasNoBars) {

@@ -229,7 +229,7 @@ TEST_F(SelectionTest, AStaffMemberBeyondTheTotalsIsSelectedWithoutAMessage) {
     EXPECT_EQ(sessione.collab, "7 ");
     EXPECT_TRUE(shown("Lblscad"));
     EXPECT_EQ(total("Lblscad"), "");
-    EXPECT_EQ(form.stato(), "Verdi Ugo, venerdì 10 marzo 2006: scadenze");
+    EXPECT_EQ(form.stato(), "Verdi Ugo, venerdì 10 marzo 2006: 1 scadenza");
     form.Toolbar1_ButtonClick("consult");
     EXPECT_EQ(sessione.valret, "200603107 D") << "there is something to consult all the same";
 }
