@@ -23,6 +23,7 @@ constexpr std::array Names{"Bruno", "Laura", "Nicol\xF2", "No\xE8", "Maria Vitto
 /// A window whose user answers every question for a text at once.
 class AnsweringWindow : public PlfcollabWindow {
 public:
+    using PlfcollabWindow::PlfcollabWindow;
     std::optional<std::string> chiediTesto(std::string_view, const std::string&) override {
         return "ultima della lista";
     }
@@ -38,11 +39,10 @@ struct StaffWindow {
     Calendario calendario;
     SilentMessages messaggi;
     QtCollation alfabeto;
-    AnsweringWindow vista;
-    plfcollab form{sessione, calendario, {vista, messaggi, alfabeto}};
+    plfcollab form{sessione, calendario, {[this]() -> VistaPlfcollab& { return vista; }, messaggi, alfabeto}};
+    AnsweringWindow vista{form};
 
     void open() {
-        vista.setForm(form);
         fill(form.List_Prenotazione());
         form.show();
         paintAll();
