@@ -117,6 +117,17 @@ TEST_F(StaffWindowTest, LettersGoToTheNameOrTheCodeThatBeginsWithThem) {
     EXPECT_EQ(bench.lista().spuntate(), 0);
 }
 
+TEST_F(StaffWindowTest, TheSpaceBarEndsTheNameThatIsTyped) {
+    bench.open();
+    QTest::keyClicks(&bench.list(), QStringLiteral("ver"));
+    bench.key(Qt::Key_Space);
+    EXPECT_EQ(bench.lista().selezionata(), 2);
+    QTest::keyClicks(&bench.list(), QStringLiteral("rb"));
+    bench.key(Qt::Key_Space);
+    EXPECT_TRUE(bench.lista().riga(2).spuntata);
+    EXPECT_TRUE(bench.lista().riga(1).spuntata);
+}
+
 TEST_F(StaffWindowTest, EnterConfirmsTheSelectedRow) {
     bench.open();
     bench.click(1, 1);

@@ -24,6 +24,7 @@ namespace {
 
 constexpr double SmallestLegible = 7; // points
 constexpr const char* DesktopPoints = "desktopPoints";
+constexpr int SlowTyping = 1000; // milliseconds between two letters of one name
 
 /// What stands for the design-time fonts where they are not installed.
 QFont fontNamed(std::string_view family) {
@@ -51,6 +52,7 @@ void setUpAppearance(QApplication& application) {
     QApplication::setFont(qtFont(Carattere::normale, 1));
     QApplication::setWindowIcon(qtIcon("planner"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setKeyboardInputInterval(SlowTyping);
 }
 
 double desktopFontFactor() {

@@ -126,7 +126,8 @@ QModelIndexList StaffListModel::match(const QModelIndex& start, int role, const 
     const auto begins = [&](int row, int column) {
         return index(row, column).data(role).toString().startsWith(value.toString(), Qt::CaseInsensitive);
     };
-    for (int step = 0; start.isValid() && step < m_rows; ++step) {
+    const bool asked = start.isValid() && !value.toString().isEmpty();
+    for (int step = 0; asked && step < m_rows; ++step) {
         const int row = (start.row() + step) % m_rows;
         if (begins(row, Nome) || begins(row, Codice)) {
             return {index(row, start.column())};

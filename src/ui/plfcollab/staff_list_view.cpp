@@ -146,6 +146,7 @@ void StaffListView::toggleCheck() {
     if (riga >= 0 && riga < m_lista->righe()) {
         Q_EMIT checkRequested(riga, !m_lista->riga(riga).spuntata);
     }
+    keyboardSearch({}); // the next letters begin another name, however soon they come
 }
 
 void StaffListView::focusInEvent(QFocusEvent* event) {
