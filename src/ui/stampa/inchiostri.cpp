@@ -5,6 +5,8 @@
 #include "ui/kit/appearance.h"
 #include "ui/kit/fitting_font.h"
 
+#include <QtMath>
+
 #include <algorithm>
 
 namespace planner {
@@ -43,8 +45,8 @@ void paintHatching(QPainter& painter, const QRectF& place) {
     painter.setClipRect(place, Qt::IntersectClip);
     painter.setPen(QPen(QColor(inchiostri::Tratteggio), weight));
     const double last = place.right() + place.bottom();
-    for (double sum = distance * std::ceil((place.left() + place.top()) / distance); sum < last;
-         sum += distance) {
+    for (int line = qCeil((place.left() + place.top()) / distance); line * distance < last; ++line) {
+        const double sum = line * distance;
         painter.drawLine(QPointF(sum - place.bottom(), place.bottom()),
                          QPointF(sum - place.top(), place.top()));
     }
