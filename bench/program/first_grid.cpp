@@ -4,11 +4,9 @@
 
 #include "frame/frame_times.h"
 #include "frame/sample_planner.h"
-#include "report_line.h"
 #include "ui/kit/appearance.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 
 int main(int argc, char* argv[]) {
     if (argc != 2) {
@@ -19,14 +17,8 @@ int main(int argc, char* argv[]) {
     planner::setUpAppearance(application);
     planner::SamplePlanner sample(argv[1]);
     sample.show();
-    planner::waitUntilPainted(sample.finestre().vista);
-    planner::reportPainted();
     sample.finestre().finestra.hide();
     planner::paintAll();
-    QElapsedTimer timer;
-    timer.start();
     sample.show();
-    planner::waitUntilPainted(sample.finestre().vista);
-    planner::reportMilliseconds(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     return 0;
 }
