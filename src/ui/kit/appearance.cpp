@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/appearance.h"
 
+#include "ui/kit/drawn_icon.h"
 #include "ui/kit/planner_style.h"
+#include "ui/kit/screen_scale.h"
 #include "ui/kit/text.h"
 
 #include <QApplication>
@@ -49,7 +51,7 @@ void setUpAppearance(QApplication& application) {
     const QStringList own{QStringLiteral(":/planner")};
     QIcon::setThemeSearchPaths(own);
     QIcon::setFallbackSearchPaths(own);
-    QApplication::setFont(qtFont(Carattere::normale, 1));
+    fitFontsTo(*QGuiApplication::primaryScreen()); // before windows take another font over
     QApplication::setWindowIcon(qtIcon("planner"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(SlowTyping);
@@ -77,10 +79,6 @@ QFont qtFont(const DescrizioneCarattere& described, double factor) {
     font.setPointSizeF(std::max(described.punti * factor, SmallestLegible));
     font.setBold(described.grassetto);
     return font;
-}
-
-QIcon qtIcon(std::string_view name) {
-    return QIcon(QStringLiteral(":/planner/") + fromUtf8(name) + QStringLiteral(".svg"));
 }
 
 } // namespace planner

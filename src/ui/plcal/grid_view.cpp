@@ -155,6 +155,20 @@ void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
     }
 }
 
+// Of the focus the current cell's frame tells, and an inactive window looks as an active one: the toolkit's
+// own handlers would paint every cell anew.
+void GridView::focusInEvent(QFocusEvent*) {
+    update(currentIndex());
+}
+
+void GridView::focusOutEvent(QFocusEvent*) {
+    update(currentIndex());
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+    return changesActivation(*event) || QTableView::viewportEvent(event);
+}
+
 void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTableView::selectionChanged(selected, deselected);
     // Nothing is selected by mouse, keys or code: a screen reader has pressed a cell.

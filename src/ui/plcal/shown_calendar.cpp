@@ -73,7 +73,7 @@ void ShownCalendar::hideNavigation() {
         if (auto* button = findChild<QToolButton*>(QLatin1String(heading))) {
             button->setAttribute(Qt::WA_TransparentForMouseEvents);
             button->setFocusPolicy(Qt::NoFocus);
-            button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+            button->setMenu(nullptr); // nor does it look as if it had one
         }
     }
 }
