@@ -19,11 +19,17 @@ public:
     explicit DrawingEngine(QString file) : m_file(std::move(file)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-        const QSize pixels = rect.size() * painter->device()->devicePixelRatioF();
-        painter->drawPixmap(rect, pixmap(pixels, mode, state));
+        const QSize square = actualSize(rect.size(), mode, state);
+        const double ratio = painter->device()->devicePixelRatioF();
+        painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, square, rect),
+                            pixmap(square * ratio, mode, state));
     }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
-        QPixmap drawn(size);
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override {
+        const int side = std::min(size.width(), size.height());
+        return {side, side};
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap drawn(actualSize(size, mode, state));
         drawn.fill(Qt::transparent);
         QPainter painter(&drawn);
         renderer().render(&painter);
@@ -41,7 +47,6 @@ private:
     QSvgRenderer& renderer() {
         if (!m_renderer) {
             m_renderer = std::make_unique<QSvgRenderer>(m_file);
-            m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
         }
         return *m_renderer;
     }

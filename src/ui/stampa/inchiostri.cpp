@@ -64,7 +64,7 @@ void paintText(QPainter& painter, const QRectF& place, const TestoSuCarta& testo
     const FittingFont font(paperFont(testo.corpo, testo.grassetto));
     const FittedText fitted = font.fit(testo.testo, static_cast<int>(std::ceil(place.width() * Steps)));
     paintInSteps(painter, [&] {
-        painter.setFont(fitted.font);
+        painter.setFont(fitted.font());
         painter.setPen(QColor(testo.colore));
         painter.drawText(inSteps(place),
                          static_cast<int>(testo.posto) | Qt::TextSingleLine | Qt::TextDontClip, fitted.shown);
