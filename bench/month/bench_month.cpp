@@ -8,9 +8,11 @@
 #include "ui/kit/pictures.h"
 #include "ui/plcal/grid_view.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QWindow>
 
 using namespace planner;
 
@@ -45,6 +47,9 @@ public:
         }
         resize(view.window()->size());
         show();
+        while (!windowHandle()->isExposed()) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
     }
 
 private:
@@ -94,6 +99,7 @@ FrameReport measure() {
     measureFrames("warm", false, Moves, nothing, moveMonth);
     report.times.push_back(measureFrames("all in sight", true, Moves, nothing, moveMonth));
     report.times.push_back(plainFill("all, plain", view));
+    report.ratios = {{"month", "plain", 2}, {"all in sight", "all, plain", 2}};
     return report;
 }
 
