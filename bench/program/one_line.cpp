@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QSocketNotifier>
 
 #include <memory>
@@ -14,6 +15,7 @@ namespace {
 
 std::unique_ptr<QLabel> makeWindow() {
     auto window = std::make_unique<QLabel>(QStringLiteral("Una riga di testo"));
+    window->resize(window->screen()->availableSize()); // as large where no window manager makes it so
     window->showMaximized();
     return window;
 }
