@@ -21,6 +21,11 @@ void PrintTo(const Host& host, std::ostream* out) {
 /// A host that the documents show, with the planner and a user who presses keys.
 class HostScenario : public Scenario, public testing::WithParamInterface<Host> {
 protected:
+    void SetUp() override {
+        if (E2E_SANITIZED && GetParam().name == "Python") {
+            GTEST_SKIP() << "the interpreter cannot load a library that a sanitizer watches";
+        }
+    }
     std::unique_ptr<Processo> startHost(const std::string& plannerFile = PLANNER_FILE) {
         std::vector<std::string> words = GetParam().words;
         words.insert(words.end(), {plannerFile, archivio.path()});
