@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -67,6 +68,7 @@ TEST_F(KeysTest, ShiftF10OpensTheMenuAtTheCurrentCell) {
     ASSERT_NE(menu, nullptr);
     const QRect cell = bench.view().visualRect(bench.index(2, 60));
     EXPECT_EQ(bench.view().viewport()->mapFromGlobal(menu->pos()), cell.center());
+    EXPECT_EQ(menu->activeAction(), menu->actions().constFirst()) << "which a screen reader says";
     menu->close();
 }
 
@@ -133,6 +135,18 @@ TEST_F(KeysTest, AFieldWithoutSuccessStaysForAnotherText) {
     QTest::keyClick(&field, Qt::Key_F3);
     EXPECT_FALSE(fieldStands());
     EXPECT_EQ(bench.base.sessione.collab, "7 ");
+}
+
+TEST_F(KeysTest, OneFieldGivesWayToTheOther) {
+    bench.open("M");
+    write(Qt::Key_F, "Neri");
+    const QPointer<QWidget> date = &write(Qt::Key_D, "20");
+    EXPECT_TRUE(fieldStands());
+    EXPECT_EQ(date->accessibleName(), QStringLiteral("Vai alla data"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(bench.widget("campo").findChildren<QLineEdit*>().size(), 1);
+    QTest::keyClick(date, Qt::Key_Return);
+    EXPECT_EQ(bench.shownDay(), "20060320");
 }
 
 TEST_F(KeysTest, CtrlDGoesToADateAndCtrlTBack) {
