@@ -8,6 +8,7 @@
 #include "session/toolbar.h"
 #include "support/compiti.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -138,18 +139,27 @@ TEST(GuidaTest, NamesEveryGestureAndWhatFollowsIt) {
     }
 }
 
-/// "| task | its keys | their number |".
-std::string rowOf(const test::Compito& compito) {
-    std::string keys;
-    for (const test::Battuta& battuta : compito.battute()) {
-        const std::string key(battuta.tasto);
-        keys += (keys.empty() ? "" : ", ") + (battuta.testo.empty() ? italianKeys(key) : key);
-    }
-    return "| " + std::string(compito.nome) + " | " + keys + " | " + std::to_string(compito.quante()) +
-           " |\n";
+std::string nameOf(const test::Battuta& battuta) {
+    const std::string name(battuta.tasto);
+    return battuta.testo.empty() ? italianKeys(name) : name;
 }
 
-TEST(GuidaTest, SaysHowTheTasksOfTheDayAreDoneByKeysAlone) {
+/// "| task | its keys | their number | after which one it is heard that it is done |".
+std::string rowOf(const test::Compito& compito) {
+    std::string keys;
+    std::string heard;
+    for (const test::Battuta& battuta : compito.battute()) {
+        keys += (keys.empty() ? "" : ", ") + nameOf(battuta);
+        const auto said = battuta.dette();
+        if (std::find(said.begin(), said.end(), compito.fatto) != said.end()) {
+            heard = nameOf(battuta) + ": «" + std::string(compito.fatto) + "»";
+        }
+    }
+    return "| " + std::string(compito.nome) + " | " + keys + " | " + std::to_string(compito.quante()) +
+           " | " + heard + " |\n";
+}
+
+TEST(GuidaTest, SaysHowTheTasksOfTheDayAreDoneByKeysAndByEarAlone) {
     for (const test::Compito& compito : test::Compiti) {
         EXPECT_LE(compito.quante(), test::MassimoBattute) << compito.nome;
         EXPECT_NE(guida().find(rowOf(compito)), std::string::npos) << rowOf(compito);
