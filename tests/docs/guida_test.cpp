@@ -5,6 +5,7 @@
 #include "forms/plcal/salti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
+#include "forms/tasti.h"
 #include "session/toolbar.h"
 #include "support/compiti.h"
 
@@ -26,19 +27,10 @@ std::string guida() {
 
 /// The keys as an Italian keyboard names them.
 std::string italianKeys(std::string keys) {
-    for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"},
-                                           {"Return", "Invio"},
-                                           {"Space", "Barra spaziatrice"},
-                                           {"PgUp", "PagSu"},
-                                           {"PgDown", "PagGiù"},
-                                           {"Space", "Spazio"},
-                                           {"Left", "Freccia sinistra"},
-                                           {"Right", "Freccia destra"},
-                                           {"Up", "Freccia su"},
-                                           {"Down", "Freccia giù"}}) {
+    for (const auto& [english, italian] : NomiTasti) {
         const std::size_t at = keys.find(english);
         if (at != std::string::npos) {
-            keys.replace(at, std::string_view(english).size(), italian);
+            keys.replace(at, english.size(), italian);
         }
     }
     return keys;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/appearance.h"
 
+#include "ui/kit/key_names.h"
 #include "ui/kit/planner_style.h"
 #include "ui/kit/text.h"
 
@@ -43,6 +44,7 @@ void setUpAppearance(QApplication& application) {
     if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(translator);
     }
+    QCoreApplication::installTranslator(new KeyNames(&application));
     QApplication::setStyle(new PlannerStyle); // the application owns it
     // The style's own pictures everywhere: to search a desktop's themes takes a tenth of the start. An empty
     // list would mean the system's folders.

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QHash>
 
-class QAbstractItemView;
 class QHeaderView;
 
 namespace planner {
