@@ -7,6 +7,7 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -30,6 +31,15 @@ struct Figure {
 constexpr std::array Figures{Figure{"minimum", 0}, Figure{"median", 50}, Figure{"p95", InTime},
                              Figure{"maximum", 100}};
 
+double valueOf(const FrameRatio& ratio, const FrameReport& report) {
+    const auto medianOf = [&](const std::string& name) {
+        const auto found = std::find_if(report.times.begin(), report.times.end(),
+                                        [&](const FrameTimes& each) { return each.name == name; });
+        return bench::median(found == report.times.end() ? bench::Times{} : found->times);
+    };
+    return medianOf(ratio.of) / medianOf(ratio.to);
+}
+
 void print(const FrameReport& report) {
     std::printf("%s, on %s: milliseconds\n", report.title.c_str(),
                 qPrintable(QGuiApplication::platformName()));
@@ -49,6 +59,11 @@ void print(const FrameReport& report) {
         }
     }
     std::printf("\n");
+    for (const FrameRatio& ratio : report.ratios) {
+        const double value = valueOf(ratio, report);
+        std::printf("to reach: %s at most %.2f of %s: %.2f, %s\n", ratio.of.c_str(), ratio.reach,
+                    ratio.to.c_str(), value, reachedOrMissed(value <= ratio.reach));
+    }
 }
 
 Json timesJson(const FrameTimes& row) {
@@ -64,7 +79,11 @@ Json toJson(const FrameReport& report) {
     for (const FrameTimes& row : report.times) {
         rows.emplace_back(row.name, timesJson(row));
     }
-    return Json::Members{{"milliseconds", rows}, {"frame", FrameMs}};
+    Json::Members ratios;
+    for (const FrameRatio& ratio : report.ratios) {
+        ratios.emplace_back(ratio.of + " / " + ratio.to, valueOf(ratio, report));
+    }
+    return Json::Members{{"milliseconds", rows}, {"frame", FrameMs}, {"ratios", ratios}};
 }
 
 } // namespace

@@ -17,10 +17,17 @@ struct FrameTimes {
     bench::Times times;
 };
 
+/// Two of the times compared, by their names: the median of one is to be at most `reach` times the other's.
+struct FrameRatio {
+    std::string of, to;
+    double reach;
+};
+
 /// What a benchmark has to say.
 struct FrameReport {
     std::string title;
     std::vector<FrameTimes> times;
+    std::vector<FrameRatio> ratios{};
 };
 
 /// Has all that is pending drawn on the screen.

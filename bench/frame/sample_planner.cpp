@@ -22,8 +22,12 @@ std::unique_ptr<clsplg> SamplePlanner::newEngine() {
         Ambiente{m_sessione, m_controlli, m_finestre.finestra, m_files, m_messaggi, m_eventi, m_orologio});
 }
 
-void SamplePlanner::show() {
+void SamplePlanner::prepare() {
     newEngine()->Init_planner("M20060115", "20060101", "20061231", "  ");
+}
+
+void SamplePlanner::show() {
+    prepare();
     m_finestre.finestra.show();
     paintAll();
 }

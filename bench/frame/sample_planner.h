@@ -19,6 +19,8 @@ class SamplePlanner {
 public:
     explicit SamplePlanner(const std::string& folder);
 
+    /// Reads the archives and fills January's grid, as for a request.
+    void prepare();
     /// Serves a request for January's monthly planner up to where it waits for the user, all painted.
     void show();
     PlannerWindows& finestre() { return m_finestre; }

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/planner_windows.h"
 
-#include "ui/kit/screen_scale.h"
 #include "ui/plfgraf/chart_dialog.h"
 #include "ui/plfimp/plfimp_dialog.h"
 #include "ui/stampa/stampa_griglia.h"
-
-#include <QScreen>
 
 namespace planner {
 
@@ -36,7 +33,6 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
                     return suCarta(comando, {controlli, sessione, contenuti.oggi()}, vista, messaggi);
                 },
                 alfabeto}) {
-    fitFontsTo(*vista.screen());
     vista.setForm(finestra);
 }
 

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "grids/giornaliera.h"
 #include "session/tipi_impegno.h"
-#include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/cell_painter.h"
-#include "ui/plcal/grid_model.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QStyleOption>
 
 #include <gmock/gmock.h>
 
@@ -262,16 +259,10 @@ TEST_F(BarsTest, ThePictureOfADayStandsInTheMiddleOfItsCell) {
 }
 
 TEST_F(BarsTest, TheFocusFrameStandsAroundTheCurrentCellOnly) {
-    GridModel model(griglia, {[](Casella) { return std::string(); }, [](Casella) { return std::string(); }});
-    QObject owner;
-    const CellDelegate delegate(model, painter, &owner);
     QImage image(Width, height, QImage::Format_RGB32);
     const auto paintCell = [&](bool focused) {
         QPainter target(&image);
-        QStyleOptionViewItem option;
-        option.rect = image.rect();
-        option.state.setFlag(QStyle::State_HasFocus, focused);
-        delegate.paint(&target, option, model.index(0, 1));
+        painter.paintDataCell(target, image.rect(), griglia, {Row, 2}, focused);
     };
     const QRgb frame = qtColor(Colore::navy).rgb();
     paintCell(true);

@@ -4,12 +4,9 @@
 #include "painted.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/pictures.h"
-#include "ui/plcal/cell_delegate.h"
 #include "ui/plcal/cell_painter.h"
-#include "ui/plcal/grid_model.h"
 
 #include <QPainter>
-#include <QStyleOption>
 
 #include <gtest/gtest.h>
 
@@ -39,13 +36,7 @@ protected:
     }
     Painted paintFocused(bool focused) {
         return {CellSize, GetParam(), [&](QPainter& target) {
-                    const GridModel model(griglia, {[](Casella) { return std::string(); },
-                                                    [](Casella) { return std::string(); }});
-                    QObject owner;
-                    QStyleOptionViewItem option;
-                    option.rect = {{0, 0}, CellSize};
-                    option.state.setFlag(QStyle::State_HasFocus, focused);
-                    CellDelegate(model, painter, &owner).paint(&target, option, model.index(1, 2));
+                    painter.paintDataCell(target, {{0, 0}, CellSize}, griglia, {FirstRow + 1, 3}, focused);
                 }};
     }
 

@@ -34,14 +34,14 @@ struct FittingTest : testing::Test {
 TEST_F(FittingTest, ATextThatFitsIsShownAsDesigned) {
     const FittedText fitted = fitting.fit(LongName, width);
     EXPECT_EQ(fitted.shown, LongName);
-    EXPECT_EQ(fitted.font, font);
+    EXPECT_EQ(fitted.font(), font);
     EXPECT_FALSE(fitted.cut);
 }
 
 TEST_F(FittingTest, ATextALittleTooLongShrinksToNineTenths) {
     const FittedText fitted = fitting.fit(LongName, width - 1);
     EXPECT_EQ(fitted.shown, LongName);
-    EXPECT_DOUBLE_EQ(fitted.font.pointSizeF(), font.pointSizeF() * 0.9);
+    EXPECT_DOUBLE_EQ(fitted.font().pointSizeF(), font.pointSizeF() * 0.9);
     EXPECT_FALSE(fitted.cut);
 }
 
@@ -50,8 +50,8 @@ TEST_F(FittingTest, ATextFarTooLongIsElidedAtItsEnd) {
     EXPECT_TRUE(fitted.cut);
     EXPECT_TRUE(fitted.shown.startsWith(LongName.left(5)));
     EXPECT_TRUE(fitted.shown.endsWith(QChar(0x2026)));
-    EXPECT_LE(widthIn(fitted.font, fitted.shown), width / 2);
-    EXPECT_DOUBLE_EQ(fitted.font.pointSizeF(), font.pointSizeF() * 0.9);
+    EXPECT_LE(widthIn(fitted.font(), fitted.shown), width / 2);
+    EXPECT_DOUBLE_EQ(fitted.font().pointSizeF(), font.pointSizeF() * 0.9);
 }
 
 TEST_F(FittingTest, WithoutRoomOrTextNothingGoesWrong) {
@@ -81,7 +81,7 @@ TEST_F(FittingTest, ALabelFollowsItsFont) {
     EXPECT_FALSE(label.fitted().cut);
     label.setFont(qtFont(Carattere::normale, 3));
     EXPECT_TRUE(label.fitted().cut);
-    EXPECT_DOUBLE_EQ(label.fitted().font.pointSizeF(), 27 * 0.9);
+    EXPECT_DOUBLE_EQ(label.fitted().font().pointSizeF(), 27 * 0.9);
 }
 
 TEST_F(FittingTest, LettersHigherThanTheirLabelShrinkToIt) {
@@ -90,8 +90,8 @@ TEST_F(FittingTest, LettersHigherThanTheirLabelShrinkToIt) {
     label.setFont(qtFont(Carattere::normale, 3));
     label.resize(width, 20);
     label.show();
-    EXPECT_LE(QFontMetrics(label.fitted().font).height(), 20);
-    EXPECT_GT(label.fitted().font.pointSizeF(), 9);
+    EXPECT_LE(QFontMetrics(label.fitted().font()).height(), 20);
+    EXPECT_GT(label.fitted().font().pointSizeF(), 9);
 }
 
 TEST_F(FittingTest, ANameIsWholeInTheHeadersToolTipWhereItsColumnCutsItOff) {

@@ -110,8 +110,8 @@ TEST_P(RoomTest, EveryLabelShowsItsWholeText) {
         if (label->isVisible()) {
             const FittedText fitted = label->fitted();
             EXPECT_FALSE(fitted.cut) << describe(*label);
-            EXPECT_TRUE(legible(fitted.font)) << describe(*label);
-            EXPECT_LE(lineHeight(fitted.font), label->contentsRect().height()) << describe(*label);
+            EXPECT_TRUE(legible(fitted.font())) << describe(*label);
+            EXPECT_LE(lineHeight(fitted.font()), label->contentsRect().height()) << describe(*label);
         }
     }
 }
@@ -124,7 +124,7 @@ TEST_P(RoomTest, TheCaptionsOfTheTotalsHaveLettersOfOneSize) {
                                              return label->text() == fromUtf8(etichetta.didascalia);
                                          });
         if (caption && label->isVisible()) {
-            sizes.insert(label->fitted().font.pointSizeF());
+            sizes.insert(label->fitted().font().pointSizeF());
         }
     }
     EXPECT_EQ(sizes.size(), 1U);

@@ -24,8 +24,29 @@ namespace {
 struct WindowTest : testing::Test {
     WindowBench bench;
 
-    bool shows(const char* name) { return bench.widget(name).isVisibleTo(&bench.vista); }
+    bool shows(const char* name) {
+        const auto* widget = bench.vista.findChild<QWidget*>(QLatin1String(name));
+        return widget != nullptr && widget->isVisibleTo(&bench.vista);
+    }
     QTableView& grid(const char* name) { return bench.widget<QTableView>(name); }
+};
+
+/// What of a widget is painted while the object lives.
+class PaintedPart : public QObject {
+public:
+    explicit PaintedPart(QWidget& widget) { widget.installEventFilter(this); }
+
+    QRect rect() const { return m_rect; }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            m_rect |= static_cast<QPaintEvent*>(event)->rect();
+        }
+        return false;
+    }
+
+    QRect m_rect;
 };
 
 /// True when some pixel of the widget has nearly the colour: the edges of letters are blended with what lies
@@ -67,6 +88,34 @@ TEST_F(WindowTest, AnUnknownKindOpensTheWindowWithoutAGrid) {
     EXPECT_TRUE(bench.vista.isVisible());
     for (const char* name : {"Flxm", "flxg", "flxa"}) {
         EXPECT_FALSE(shows(name)) << name;
+    }
+}
+
+TEST_F(WindowTest, AGridIsMadeWhenItIsFirstShownAndLooksAsItWouldHave) {
+    bench.open("M");
+    EXPECT_EQ(bench.vista.findChildren<GridView*>().size(), 1);
+    bench.finestra.griglia_Comando(ComandoGriglia::ingrandisci);
+    const QRect place = bench.view().geometry();
+    bench.open("G");
+    EXPECT_EQ(bench.view().geometry(), place);
+    const int larger = bench.view().rowHeight(0);
+    bench.finestra.griglia_Comando(ComandoGriglia::riduci);
+    EXPECT_LT(bench.view().rowHeight(0), larger);
+    bench.open("M");
+    EXPECT_EQ(bench.vista.findChildren<GridView*>().size(), 2);
+}
+
+TEST_F(WindowTest, TheFocusComingAndGoingPaintsTheCurrentCellAlone) {
+    bench.open("M");
+    QApplication::setActiveWindow(&bench.vista);
+    bench.view().setFocus();
+    QApplication::processEvents();
+    const QRect cell = bench.view().visualRect(bench.view().currentIndex());
+    for (QWidget* next : {&bench.widget("calendario"), static_cast<QWidget*>(&bench.view())}) {
+        PaintedPart painted(*bench.view().viewport());
+        next->setFocus();
+        QApplication::processEvents();
+        EXPECT_EQ(painted.rect(), cell);
     }
 }
 

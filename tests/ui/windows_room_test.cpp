@@ -168,7 +168,7 @@ TEST_F(WindowsRoomTest, TheStaffListsCountFitsItsPlace) {
     bench.press(ComandoCollab::selezionaTutti);
     EXPECT_FALSE(count->text().isEmpty());
     EXPECT_FALSE(count->fitted().cut);
-    EXPECT_GE(count->height(), lineHeight(count->fitted().font));
+    EXPECT_GE(count->height(), lineHeight(count->fitted().font()));
 }
 
 TEST_F(WindowsRoomTest, TheStaffWindowIsWhole) {

@@ -42,6 +42,11 @@ constexpr const CategoriaTotali& descrizione(Totale totale) {
     return CategorieTotali.at(static_cast<std::size_t>(totale));
 }
 
+/// Whether the total counts deadlines, of which the reduced window variant shows nothing.
+constexpr bool diScadenze(Totale totale) {
+    return totale == Totale::scadenze || totale == Totale::scadenzeConcluse;
+}
+
 /// The numeric values of eleven counters; index 1 to 11, index 0 is always 0.
 using ValoriContatori = std::array<double, 12>;
 ValoriContatori valoriContatori(const RigaPlanner& riga);

@@ -60,7 +60,10 @@ typedef int (*OpenFunction)(int folder, const char* file, EventObject* event);
 static int openNew(const char* file, OpenFunction openEventOf, EventHandle** handle) {
     EventObject event;
     const int folder = lockEventFolder();
-    int error = folder < 0 ? -folder : openEventOf(folder, file, &event);
+    if (folder < 0) {
+        return -folder;
+    }
+    int error = openEventOf(folder, file, &event);
     if (error == 0) {
         error = joinHosts(file, &event, handle);
     }

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/appearance.h"
 
+#include "ui/kit/drawn_icon.h"
 #include "ui/kit/key_names.h"
 #include "ui/kit/planner_style.h"
+#include "ui/kit/screen_scale.h"
 #include "ui/kit/text.h"
 
 #include <QApplication>
@@ -51,7 +53,7 @@ void setUpAppearance(QApplication& application) {
     const QStringList own{QStringLiteral(":/planner")};
     QIcon::setThemeSearchPaths(own);
     QIcon::setFallbackSearchPaths(own);
-    QApplication::setFont(qtFont(Carattere::normale, 1));
+    fitFontsTo(*QGuiApplication::primaryScreen()); // before windows take another font over
     QApplication::setWindowIcon(qtIcon("planner"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(SlowTyping);
@@ -79,10 +81,6 @@ QFont qtFont(const DescrizioneCarattere& described, double factor) {
     font.setPointSizeF(std::max(described.punti * factor, SmallestLegible));
     font.setBold(described.grassetto);
     return font;
-}
-
-QIcon qtIcon(std::string_view name) {
-    return QIcon(QStringLiteral(":/planner/") + fromUtf8(name) + QStringLiteral(".svg"));
 }
 
 } // namespace planner

@@ -6,7 +6,6 @@
 
 #include <QColor>
 #include <QFont>
-#include <QIcon>
 
 class QApplication;
 
@@ -24,8 +23,5 @@ double desktopFontFactor();
 /// A font `factor` times its design-time size, which it shrinks below only as far as letters stay legible.
 QFont qtFont(Carattere which, double factor);
 QFont qtFont(const DescrizioneCarattere& described, double factor);
-
-/// A picture of the program's resources by its name.
-QIcon qtIcon(std::string_view name);
 
 } // namespace planner

@@ -31,6 +31,11 @@ QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys)
 /// Names a button for assistive programs: it is called its caption, and described by its keys.
 void nameButton(QWidget& button, const QString& caption, const QList<QKeySequence>& keys);
 
+/// Whether the event tells a widget that its window has become the active one, or is so no longer.
+inline bool changesActivation(const QEvent& event) {
+    return event.type() == QEvent::WindowActivate || event.type() == QEvent::WindowDeactivate;
+}
+
 /// Answers an event that asks for a tool tip with the plain text that `textAt` gives for a position of the
 /// widget, empty for none. False for any other event.
 template <typename TextAt>

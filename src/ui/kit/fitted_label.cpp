@@ -56,7 +56,7 @@ void FittedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
     const FittedText shown = fitted();
-    painter.setFont(shown.font);
+    painter.setFont(shown.font());
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), static_cast<int>(alignment()) | static_cast<int>(Qt::TextSingleLine),
                      shown.shown);

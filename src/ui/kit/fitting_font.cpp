@@ -51,14 +51,41 @@ QFont fontWithin(const QFont& font, int height) {
     return within;
 }
 
+Letters::Known& Letters::known(const QString& text) const {
+    constexpr qsizetype most = 4096; // an office's names and days; no more stay in memory
+    const auto found = m_known.find(text);
+    if (found != m_known.end()) {
+        return *found;
+    }
+    if (m_known.size() >= most) {
+        m_known.clear();
+    }
+    return *m_known.insert(text, {m_metrics.horizontalAdvance(text), {}});
+}
+
+void Letters::write(QPainter& painter, const QRect& place, const QString& text, bool centred) const {
+    Known& written = known(text);
+    if (written.shaped.text().isEmpty()) {
+        QString line = text;
+        written.shaped.setText(line.replace(QLatin1Char('\n'), QLatin1Char(' ')));
+        written.shaped.setTextFormat(Qt::PlainText);
+        written.shaped.prepare({}, m_font);
+        written.advance = QFontMetricsF(m_font).horizontalAdvance(text);
+    }
+    const double left = centred ? (place.width() - written.advance) / 2 : 0;
+    const int top = qRound((place.height() - written.shaped.size().height()) / 2);
+    painter.setFont(m_font);
+    painter.drawStaticText(place.topLeft() + QPointF(left, top), written.shaped);
+}
+
 FittedText FittingFont::fit(const QString& text, int width) const {
     for (const Letters& letters : m_letters) {
-        if (letters.metrics.horizontalAdvance(text) <= width) {
-            return {letters.font, text, false};
+        if (letters.width(text) <= width) {
+            return {letters, text, false};
         }
     }
     const Letters& smallest = m_letters.back();
-    return {smallest.font, smallest.metrics.elidedText(text, Qt::ElideRight, width), true};
+    return {smallest, smallest.metrics().elidedText(text, Qt::ElideRight, width), true};
 }
 
 } // namespace planner

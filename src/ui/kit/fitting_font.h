@@ -4,17 +4,50 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QHash>
+#include <QStaticText>
 #include <QString>
 
 #include <vector>
 
+class QPainter;
+
 namespace planner {
 
-/// What of a text is shown in its place, and in which font.
+/// A font with the texts that have been written in it: to shape a text takes longer than to paint it, and a
+/// grid has the same few texts over and over.
+class Letters {
+public:
+    explicit Letters(const QFont& font) : m_font(font), m_metrics(font) {}
+
+    const QFont& font() const { return m_font; }
+    const QFontMetrics& metrics() const { return m_metrics; }
+    /// The pixels that the text takes.
+    int width(const QString& text) const { return known(text).width; }
+    /// Writes one line of plain text in the middle of the place's height, and of its width or from its left
+    /// edge.
+    void write(QPainter& painter, const QRect& place, const QString& text, bool centred) const;
+
+private:
+    struct Known {
+        int width = 0;
+        QStaticText shaped; // once it is written
+        double advance = 0; // the same
+    };
+    Known& known(const QString& text) const;
+
+    QFont m_font;
+    QFontMetrics m_metrics;
+    mutable QHash<QString, Known> m_known;
+};
+
+/// What of a text is shown in its place, and in which letters.
 struct FittedText {
-    const QFont& font; // of the FittingFont that made it
+    const Letters& letters; // of the FittingFont that made it
     QString shown;
     bool cut; // the text is not shown whole
+
+    const QFont& font() const { return letters.font(); }
 };
 
 /// A font whose texts fit their places: one that is too long shrinks to nine tenths, then is elided at its
@@ -26,16 +59,13 @@ public:
 
     explicit FittingFont(const QFont& font = {});
 
-    const QFont& font() const { return m_letters.front().font; }
+    const QFont& font() const { return m_letters.front().font(); }
+    /// The pixels that the text takes in that font.
+    int width(const QString& text) const { return m_letters.front().width(text); }
     /// Fits one line of text into `width` pixels.
     FittedText fit(const QString& text, int width) const;
 
 private:
-    struct Letters {
-        QFont font;
-        QFontMetrics metrics;
-        explicit Letters(const QFont& of) : font(of), metrics(of) {}
-    };
     std::vector<Letters> m_letters; // from the largest to the smallest
 };
 

@@ -14,11 +14,6 @@ namespace planner {
 
 namespace {
 
-std::unique_ptr<QSvgRenderer> loadDrawing(std::string_view name) {
-    return std::make_unique<QSvgRenderer>(QStringLiteral(":/planner/") + fromUtf8(name) +
-                                          QStringLiteral(".svg"));
-}
-
 /// The corner's square: half the picture's side, with half a gap to its neighbours.
 QRectF cornerOf(std::size_t corner, const QRectF& square) {
     constexpr double gap = 1;
@@ -26,6 +21,11 @@ QRectF cornerOf(std::size_t corner, const QRectF& square) {
     const double left = corner % 2 == 0 ? 0 : half + gap;
     const double top = corner < 2 ? 0 : half + gap;
     return {square.left() + left, square.top() + top, half, half};
+}
+
+/// By the digit of the picture key.
+std::string_view drawingOf(char digit) {
+    return TipiImpegno.at(static_cast<std::size_t>(digit - '1')).disegno;
 }
 
 QPixmap transparent(QSize size, qreal devicePixelRatio) {
@@ -37,13 +37,17 @@ QPixmap transparent(QSize size, qreal devicePixelRatio) {
 
 } // namespace
 
-Pictures::Pictures() : m_presence(loadDrawing("presenza")) {
-    for (const DescrizioneImpegno& tipo : TipiImpegno) {
-        m_corners.push_back(loadDrawing(tipo.disegno));
-    }
-}
-
+Pictures::Pictures() = default;
 Pictures::~Pictures() = default;
+
+QSvgRenderer& Pictures::drawing(std::string_view name) const {
+    std::unique_ptr<QSvgRenderer>& renderer = m_drawings[name];
+    if (!renderer) {
+        renderer = std::make_unique<QSvgRenderer>(QStringLiteral(":/planner/") + fromUtf8(name) +
+                                                  QStringLiteral(".svg"));
+    }
+    return *renderer;
+}
 
 const QPixmap& Pictures::picture(int number, int side, qreal devicePixelRatio) {
     const auto ratio = static_cast<quint64>(devicePixelRatio * 100);
@@ -68,11 +72,11 @@ QPixmap Pictures::draw(int number, int side, qreal devicePixelRatio) const {
 
 void Pictures::render(QPainter& painter, int number, const QRectF& square) const {
     if (number == ImmaginePresenza) {
-        m_presence->render(&painter, square);
+        drawing("presenza").render(&painter, square);
     }
     for (const char digit : chiaveImmagine(number)) {
         const auto corner = static_cast<std::size_t>(digit - '1');
-        m_corners.at(corner)->render(&painter, cornerOf(corner, square));
+        drawing(TipiImpegno.at(corner).disegno).render(&painter, cornerOf(corner, square));
     }
 }
 
@@ -88,7 +92,7 @@ void Pictures::renderLine(QPainter& painter, int number, const QRectF& place) co
         return render(painter, number, square);
     }
     for (const char digit : key) {
-        m_corners.at(static_cast<std::size_t>(digit - '1'))->render(&painter, square);
+        drawing(drawingOf(digit)).render(&painter, square);
         square.translate(across ? side : 0, across ? 0 : side);
     }
 }
@@ -118,7 +122,7 @@ QPixmap Pictures::drawLine(int number, QSize room, qreal devicePixelRatio) const
     QPainter painter(&pixmap);
     int left = 0;
     for (const char digit : key) {
-        m_corners.at(static_cast<std::size_t>(digit - '1'))->render(&painter, QRectF(left, 0, side, side));
+        drawing(drawingOf(digit)).render(&painter, QRectF(left, 0, side, side));
         left += side;
     }
     return pixmap;

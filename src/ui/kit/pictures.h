@@ -6,8 +6,9 @@
 #include <QPixmap>
 #include <QSize>
 
+#include <map>
 #include <memory>
-#include <vector>
+#include <string_view>
 
 class QPainter;
 class QSvgRenderer;
@@ -37,9 +38,9 @@ public:
 private:
     QPixmap draw(int number, int side, qreal devicePixelRatio) const;
     QPixmap drawLine(int number, QSize room, qreal devicePixelRatio) const;
+    QSvgRenderer& drawing(std::string_view name) const;
 
-    std::vector<std::unique_ptr<QSvgRenderer>> m_corners; // by the digit of the picture key less one
-    std::unique_ptr<QSvgRenderer> m_presence;
+    mutable std::map<std::string_view, std::unique_ptr<QSvgRenderer>> m_drawings; // read when first drawn
     QHash<quint64, QPixmap> m_drawn;
     QHash<quint64, QPixmap> m_lines;
 };

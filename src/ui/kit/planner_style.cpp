@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/planner_style.h"
 
+#include "ui/kit/drawn_icon.h"
 #include "ui/kit/legible.h"
 
 #include <QAbstractButton>
@@ -65,6 +66,19 @@ void PlannerStyle::drawComplexControl(ComplexControl control, const QStyleOption
     if (control == CC_ScrollBar) {
         drawEdge(*painter, edgeColor(option->palette),
                  subControlRect(control, option, SC_ScrollBarSlider, widget), false);
+    }
+}
+
+QIcon PlannerStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    switch (which) {
+    case SP_ArrowLeft:
+        return arrowIcon(PE_IndicatorArrowLeft);
+    case SP_ArrowRight:
+    case SP_ToolBarHorizontalExtensionButton:
+        return arrowIcon(PE_IndicatorArrowRight);
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
     }
 }
 

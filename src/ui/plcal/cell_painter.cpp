@@ -127,6 +127,15 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
     paintMarks(painter, rect, griglia, casella);
 }
 
+void CellPainter::paintDataCell(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
+                                bool focus) {
+    paint(painter, rect, griglia, casella);
+    if (focus || casella == griglia.corrente()) {
+        paintFrame(painter, rect.adjusted(0, 0, -1, -1), cornice(griglia.aspetto(casella).fondo),
+                   focus ? 2 : 1);
+    }
+}
+
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
     const int side = besideText ? sideBesideText(rect) : pictureSide(rect);
     const QPixmap& pixmap = m_pictures.picture(picture, side, painter.device()->devicePixelRatioF());
@@ -155,8 +164,8 @@ QRect CellPainter::textPlace(const QRect& rect, const Griglia& griglia, Casella 
     QRect place = textPlace(rect, griglia.cella(casella), keptFree);
     if (casella.riga < griglia.FixedRows() && griglia.riepilogo(casella.colonna)) {
         const int taken = SummaryMargin + summaryWidth(rect) + 1;
-        const QFontMetrics letters(font(griglia, casella, rect.height()).font());
-        const int text = letters.horizontalAdvance(measured(fromCp1252(griglia.TextMatrix(casella))));
+        const int text =
+            font(griglia, casella, rect.height()).width(measured(fromCp1252(griglia.TextMatrix(casella))));
         place.setRight(rect.right() - (text > rect.width() - 2 * taken ? taken : 1));
     }
     return place;
@@ -165,7 +174,7 @@ QRect CellPainter::textPlace(const QRect& rect, const Griglia& griglia, Casella 
 FittedText CellPainter::fittedText(const QRect& place, const Griglia& griglia, Casella casella) const {
     const QString text = fromCp1252(griglia.TextMatrix(casella));
     FittedText fitted = font(griglia, casella, place.height()).fit(measured(text), place.width());
-    return text == measured(text) ? fitted : FittedText{fitted.font, text, fitted.cut};
+    return text == measured(text) ? fitted : FittedText{fitted.letters, text, fitted.cut};
 }
 
 bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella, int keptFree) const {
@@ -176,12 +185,8 @@ bool CellPainter::cut(const QRect& rect, const Griglia& griglia, Casella casella
 void CellPainter::paintText(QPainter& painter, const QRect& place, const Griglia& griglia, Casella casella) {
     const Cella& cella = griglia.cella(casella);
     const FittedText fitted = fittedText(place, griglia, casella);
-    painter.setFont(fitted.font);
     painter.setPen(qtColor(griglia.aspetto(casella).colore));
-    painter.drawText(place,
-                     static_cast<int>(Qt::TextSingleLine | Qt::AlignVCenter |
-                                      (centred(cella) ? Qt::AlignHCenter : Qt::AlignLeft)),
-                     fitted.shown);
+    fitted.letters.write(painter, place, fitted.shown, centred(cella));
 }
 
 void CellPainter::paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col,

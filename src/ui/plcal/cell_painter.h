@@ -32,6 +32,9 @@ public:
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
+    /// A data cell, with the frame of the current one and of the focus.
+    void paintDataCell(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
+                       bool focus);
     /// The bar of a column in the header, at the right of its texts, and the room for the longest; `rect` is
     /// the whole height of the header.
     static void paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col);

@@ -76,7 +76,7 @@ void DetailPanel::giveOneSize() {
     for (const Coppia& coppia : m_coppie) {
         if (!coppia.didascalia->isHidden()) {
             const FittedText fitted = letters.fit(coppia.didascalia->text(), coppia.didascalia->width());
-            smallest = std::min(smallest, fitted.font.pointSizeF());
+            smallest = std::min(smallest, fitted.font().pointSizeF());
         }
     }
     for (const Coppia& coppia : m_coppie) {

@@ -4,8 +4,8 @@
 
 #include "engine/kinds/kind.h"
 #include "forms/plcal/design.h"
-#include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/drawn_icon.h"
 #include "ui/plcal/cell_painter.h"
 
 #include <QPainter>

@@ -79,7 +79,8 @@ bool GridHeader::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave) {
         point({});
     }
-    return showToolTip(*event, *viewport(), [this](QPoint position) { return toolTipAt(position); }) ||
+    return changesActivation(*event) || // it looks the same
+           showToolTip(*event, *viewport(), [this](QPoint position) { return toolTipAt(position); }) ||
            QHeaderView::viewportEvent(event);
 }
 

@@ -6,7 +6,7 @@
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/view_accessible.h"
-#include "ui/plcal/cell_delegate.h"
+#include "ui/plcal/cell_painter.h"
 #include "ui/plcal/grid_corner.h"
 #include "ui/plcal/grid_header.h"
 #include "ui/plcal/grid_model.h"
@@ -14,6 +14,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -43,7 +44,6 @@ GridView::GridView(Griglia& griglia, TipoPlanner tipo, CellPainter& painter, con
     setHorizontalHeader(m_columns);
     setVerticalHeader(m_names);
     setModel(m_model);
-    setItemDelegate(new CellDelegate(*m_model, painter, this));
     setUpBehaviour();
     connectEvents();
 }
@@ -153,6 +153,48 @@ void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
         announce(target, Mezzo::frecce);
         scrollToCurrentCell();
     }
+}
+
+QRect GridView::cellsIn(const QRect& part) const {
+    const QPoint first(columnAt(part.left()), rowAt(part.top()));
+    if (first.x() < 0 || first.y() < 0) {
+        return {}; // beyond the last one
+    }
+    const auto orLast = [](int found, int count) { return found < 0 ? count - 1 : found; };
+    return {first, QPoint(orLast(columnAt(part.right()), m_model->columnCount()),
+                          orLast(rowAt(part.bottom()), m_model->rowCount()))};
+}
+
+// The toolkit's own way through the cells, by indexes, options and a delegate, takes as long as to paint
+// them.
+void GridView::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    for (const QRect& part : event->region()) {
+        const QRect cells = cellsIn(part);
+        for (int row = cells.top(); row <= cells.bottom(); ++row) {
+            for (int column = cells.left(); column <= cells.right(); ++column) {
+                const QRect place(columnViewportPosition(column), rowViewportPosition(row),
+                                  columnWidth(column), rowHeight(row));
+                const Casella casella{m_model->gridRow(row), GridModel::gridCol(column)};
+                m_painter.paintDataCell(painter, place, griglia(), casella,
+                                        hasFocus() && casella == griglia().corrente());
+            }
+        }
+    }
+}
+
+// Of the focus the current cell's frame tells, and an inactive window looks as an active one: the toolkit's
+// own handlers would paint every cell anew.
+void GridView::focusInEvent(QFocusEvent*) {
+    update(currentIndex());
+}
+
+void GridView::focusOutEvent(QFocusEvent*) {
+    update(currentIndex());
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+    return changesActivation(*event) || QTableView::viewportEvent(event);
 }
 
 void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {

@@ -73,6 +73,10 @@ protected:
     void keyboardSearch(const QString&) override {} // letters are no way to a cell
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -81,6 +85,8 @@ private:
     void setUpBehaviour();
     void connectEvents();
     QModelIndex currentCell() const;
+    /// The model's cells that lie in a part of the viewport, first and last row and column; none is empty.
+    QRect cellsIn(const QRect& part) const;
     /// The centre of the current cell, scrolled into sight.
     QPoint currentCellOnScreen();
     void announce(const QModelIndex& index, Mezzo mezzo);

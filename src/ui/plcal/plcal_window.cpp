@@ -12,6 +12,7 @@
 #include "ui/kit/annuncio.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/fitted_label.h"
+#include "ui/kit/screen_scale.h"
 #include "ui/kit/text.h"
 #include "ui/plcal/command_bar.h"
 #include "ui/plcal/detail_panel.h"
@@ -33,6 +34,13 @@ namespace planner {
 
 namespace {
 
+/// A kind's grid as a screen reader says it.
+QString nomeDetto(TipoPlanner tipo) {
+    return tipo == TipoPlanner::Mensile       ? QStringLiteral("Planner mensile")
+           : tipo == TipoPlanner::Giornaliero ? QStringLiteral("Planner giornaliero")
+                                              : QStringLiteral("Planner annuale");
+}
+
 /// A command that the grid alone has, by name, caption and keys.
 template <typename Described>
 QAction* addKey(GridView& grid, const Described& described) {
@@ -47,13 +55,11 @@ QAction* addKey(GridView& grid, const Described& described) {
 } // namespace
 
 PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
-    : m_sessione(sessione), m_controlli(controlli), m_Toolbar1(new CommandBar(this)),
-      m_calendario(new ShownCalendar(this)), m_lbldescr(new FittedLabel(this)),
-      m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)), m_campo(new PromptField(this)),
-      m_legenda(new LegendBar(this)), m_panel(new DetailPanel(this)),
-      m_annuncio(new Annuncio(this)), m_grids{makeGrid(TipoPlanner::Mensile, "Planner mensile"),
-                                              makeGrid(TipoPlanner::Giornaliero, "Planner giornaliero"),
-                                              makeGrid(TipoPlanner::Annuale, "Planner annuale")} {
+    : m_sessione(sessione), m_controlli(controlli), m_painter(fontFactorFor(*screen())),
+      m_Toolbar1(new CommandBar(this)), m_calendario(new ShownCalendar(this)),
+      m_lbldescr(new FittedLabel(this)), m_lblcollab(new FittedLabel(this)), m_stato(new FittedLabel(this)),
+      m_campo(new PromptField(this)), m_legenda(new LegendBar(this)), m_panel(new DetailPanel(this)),
+      m_annuncio(new Annuncio(this)) {
     setObjectName(QStringLiteral("plcal"));
     m_lbldescr->setObjectName(QStringLiteral("lbldescr"));
     m_lblcollab->setObjectName(QStringLiteral("lblcollab"));
@@ -67,18 +73,22 @@ PlcalWindow::PlcalWindow(const modpl& sessione, ControlliPlcal& controlli)
     m_mezzanotte.setTimerType(Qt::VeryCoarseTimer);
 }
 
-GridView* PlcalWindow::makeGrid(TipoPlanner tipo, std::string_view spoken) {
+GridView* PlcalWindow::makeGrid(TipoPlanner tipo) {
     const VociGriglia voci{
         [this, tipo](Casella casella) { return nomeCasella(m_controlli, m_sessione, tipo, casella); },
         [this, tipo](Casella casella) { return fraseCella(m_controlli, m_sessione, tipo, casella); }};
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, voci, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
-    grid->setAccessibleName(fromUtf8(spoken));
+    grid->setAccessibleName(nomeDetto(tipo));
     grid->setTips([this, tipo](Casella casella) {
         return casella.colonna < Griglia::FixedCols()
                    ? fraseTotali(m_controlli, m_sessione, tipo, casella.riga)
                    : fraseColonna(m_controlli, tipo, casella.colonna);
     });
+    grid->setGeometry(m_postoGriglia);
+    grid->setScala(m_scala);
+    grid->setIngrandimento(m_ingrandimento);
+    connectGrid(*grid);
     return grid;
 }
 
@@ -129,9 +139,6 @@ void PlcalWindow::connectEvents() {
         m_form->giornoCambiato();
         awaitMidnight();
     });
-    for (GridView* grid : m_grids) {
-        connectGrid(*grid);
-    }
 }
 
 void PlcalWindow::connectGrid(GridView& grid) {
@@ -195,7 +202,7 @@ void PlcalWindow::updateCalendar() {
 
 void PlcalWindow::updateGrid() {
     GridView* visible = visibleGrid();
-    for (GridView* grid : m_grids) {
+    for (const auto& [tipo, grid] : m_grids) {
         grid->setVisible(grid == visible);
     }
     if (visible != nullptr) {
@@ -205,11 +212,15 @@ void PlcalWindow::updateGrid() {
     }
 }
 
-GridView* PlcalWindow::visibleGrid() const {
-    const auto found = std::find_if(m_grids.begin(), m_grids.end(), [this](const GridView* grid) {
-        return &grid->griglia() == m_controlli.grigliaVisibile();
-    });
-    return found == m_grids.end() ? nullptr : *found;
+GridView* PlcalWindow::visibleGrid() {
+    if (!m_controlli.tipoVisibile) {
+        return nullptr;
+    }
+    GridView*& grid = m_grids[*m_controlli.tipoVisibile];
+    if (grid == nullptr) {
+        grid = makeGrid(*m_controlli.tipoVisibile);
+    }
+    return grid;
 }
 
 void PlcalWindow::disponiPulsantiPeriodo() {
@@ -225,8 +236,8 @@ void PlcalWindow::scorriA(int colonna) {
 }
 
 int PlcalWindow::primaColonnaInVista() const {
-    const GridView* grid = visibleGrid();
-    return grid == nullptr ? Griglia::FixedCols() : grid->firstColumnInSight();
+    const auto shown = m_controlli.tipoVisibile ? m_grids.find(*m_controlli.tipoVisibile) : m_grids.end();
+    return shown == m_grids.end() ? Griglia::FixedCols() : shown->second->firstColumnInSight();
 }
 
 void PlcalWindow::scorriAlCursore() {
@@ -285,8 +296,8 @@ void PlcalWindow::portaDavanti() {
     activateWindow();
 }
 
-void PlcalWindow::LockWindowUpdate(bool locked) {
-    setUpdatesEnabled(!locked);
+void PlcalWindow::LockWindowUpdate(bool) {
+    // Nothing to do: the toolkit paints once the form has returned, and then only what has changed.
 }
 
 void PlcalWindow::mostraInformazioni() {

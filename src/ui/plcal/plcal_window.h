@@ -71,7 +71,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    GridView* makeGrid(TipoPlanner tipo, std::string_view spoken);
+    GridView* makeGrid(TipoPlanner tipo);
     void addGridCommands();
     void addKeys(GridView& grid);
     void awaitMidnight();
@@ -87,14 +87,15 @@ private:
     void fillRemainingSpace();
     void placeStatus();
     void showStatus(const QString& text);
-    GridView* visibleGrid() const;
+    /// Null when the window shows none.
+    GridView* visibleGrid();
 
     const modpl& m_sessione;
     ControlliPlcal& m_controlli;
     plcal* m_form = nullptr;
     Scala m_scala;
     Ingrandimento m_ingrandimento; // as shown
-    CellPainter m_painter{1};
+    CellPainter m_painter;
 
     CommandBar* m_Toolbar1;
     ShownCalendar* m_calendario;
@@ -105,9 +106,10 @@ private:
     LegendBar* m_legenda;
     DetailPanel* m_panel;
     Annuncio* m_annuncio;
-    std::unique_ptr<GuidaWindow> m_guida; // once it is asked for
-    std::array<GridView*, 3> m_grids;
-    std::vector<QAction*> m_comandiGriglia; // in the order of their table
+    std::unique_ptr<GuidaWindow> m_guida;     // once it is asked for
+    std::map<TipoPlanner, GridView*> m_grids; // each once it is shown
+    QRect m_postoGriglia;                     // the same for all
+    std::vector<QAction*> m_comandiGriglia;   // in the order of their table
     QTimer m_mezzanotte;
     bool m_pressedHere = false;    // the mouse, since the window was shown for this request
     bool m_untouched = true;       // the user has done nothing since then

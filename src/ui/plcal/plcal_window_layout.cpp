@@ -38,8 +38,12 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
     m_lbldescr->setFont(qtFont(Carattere::grassetto, factor * TitleFontFactor));
     m_lblcollab->setFont(qtFont(Carattere::grassetto, factor));
     for (const ControlloProgetto& controllo : controlli) {
+        const QRect place = qtRect(pixels(controllo.posizione, {})); // scaled already
         if (auto* widget = findChild<QWidget*>(fromUtf8(controllo.nome), Qt::FindDirectChildrenOnly)) {
-            widget->setGeometry(qtRect(pixels(controllo.posizione, {}))); // scaled already
+            widget->setGeometry(place);
+        }
+        if (controllo.nome == regole(TipoPlanner::Mensile).nomeGriglia) {
+            m_postoGriglia = place;
         }
     }
     setSmallestSize();
@@ -47,7 +51,7 @@ void PlcalWindow::disponi(const std::vector<ControlloProgetto>& controlli, const
     resize(available.size());
     move(available.topLeft()); // of the frame: the title stays on the screen
     fillRemainingSpace();
-    for (GridView* grid : m_grids) {
+    for (const auto& [tipo, grid] : m_grids) {
         grid->setScala(scala);
     }
 }
@@ -62,7 +66,7 @@ void PlcalWindow::showZoom() {
     }
     m_ingrandimento = m_form->ingrandimento();
     setGridFonts();
-    for (GridView* grid : m_grids) {
+    for (const auto& [tipo, grid] : m_grids) {
         grid->setIngrandimento(m_ingrandimento);
     }
 }
@@ -84,7 +88,7 @@ void PlcalWindow::placeField() {
 
 void PlcalWindow::setSmallestSize() {
     const Dimensioni twips = dimensioniMinime(m_scala);
-    const int besideCommands = m_calendario->width() + 2 * m_grids.front()->x();
+    const int besideCommands = m_calendario->width() + 2 * m_postoGriglia.x();
     const QSize whole(std::max(twips.width / TwipsPerPixel, m_Toolbar1->sizeHint().width() + besideCommands),
                       twips.height / TwipsPerPixel);
     setMinimumSize(whole.boundedTo(screen()->availableSize()));
@@ -112,11 +116,12 @@ void PlcalWindow::fillRemainingSpace() {
     // Positions were scaled once, at load; what is left of the window belongs to the grid. A window that is
     // made smaller than it can show is cut at its edges, with nothing over anything else.
     const QSize room = size().expandedTo(minimumSize());
-    const int margin = m_grids.front()->x();
+    const int margin = m_postoGriglia.x();
     m_stato->move(m_stato->x(), room.height() - m_stato->height());
     placeStatus();
-    for (GridView* grid : m_grids) {
-        grid->resize(room.width() - 2 * margin, m_stato->y() - grid->y());
+    m_postoGriglia.setSize({room.width() - 2 * margin, m_stato->y() - m_postoGriglia.y()});
+    for (const auto& [tipo, grid] : m_grids) {
+        grid->setGeometry(m_postoGriglia);
     }
     m_calendario->move(room.width() - m_calendario->width() - margin, m_calendario->y());
     m_Toolbar1->resize(m_calendario->x() - margin, m_Toolbar1->height());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/shown_calendar.h"
 
+#include "ui/kit/controls.h"
 #include "ui/kit/fitting_font.h"
 
 #include <QApplication>
@@ -73,7 +74,7 @@ void ShownCalendar::hideNavigation() {
         if (auto* button = findChild<QToolButton*>(QLatin1String(heading))) {
             button->setAttribute(Qt::WA_TransparentForMouseEvents);
             button->setFocusPolicy(Qt::NoFocus);
-            button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+            button->setMenu(nullptr); // nor does it look as if it had one
         }
     }
 }
@@ -155,7 +156,10 @@ bool ShownCalendar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) {
         m_selected = QDate();
     }
-    return event->type() == QEvent::Wheel || QCalendarWidget::eventFilter(watched, event);
+    // Where an inactive window's colours are an active one's, the toolkit need not paint the days again.
+    const bool looksTheSame =
+        changesActivation(*event) && palette().isEqual(QPalette::Active, QPalette::Inactive);
+    return looksTheSame || event->type() == QEvent::Wheel || QCalendarWidget::eventFilter(watched, event);
 }
 
 } // namespace planner

@@ -7,6 +7,7 @@
 #include "ui/kit/annuncio.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/drawn_icon.h"
 #include "ui/kit/fitted_label.h"
 #include "ui/kit/screen_scale.h"
 #include "ui/kit/tool_commands.h"

@@ -7,10 +7,11 @@
 #include "ui/plfgraf/chart_shapes.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
-#include <numbers>
 
 namespace planner {
 
@@ -31,6 +32,12 @@ QFont fontFor(const DescrizioneCarattere& described, double factor) {
     QFont font = qtFont(described, factor);
     font.setPixelSize(std::max(qRound(font.pointSizeF() * PixelsPerPoint), 1));
     return font;
+}
+
+/// Whether a line beside the slice would leave little of its arc.
+bool isNarrow(const ChartLayout& layout, const ChartSlice& slice) {
+    constexpr double narrowest = 6; // pixels
+    return layout.pieRadius * qDegreesToRadians(slice.span) < narrowest;
 }
 
 /// The text as wide as its area allows.
@@ -135,14 +142,48 @@ void ChartPainter::paintAxes(QPainter& painter, const ChartLayout& layout) const
 }
 
 void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) const {
-    constexpr double degreesPerRadian = 180 / std::numbers::pi;
-    constexpr double narrowest = 6; // arc, in pixels, that a line beside it leaves something of
-    for (const ChartSlice& slice : layout.slices) {
-        const double arc = layout.pieRadius * slice.span / degreesPerRadian;
-        painter.setPen(arc < narrowest ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
-        painter.setBrush(colourOf(slice.colour));
-        painter.drawPath(slicePath(layout, slice));
+    const bool pixels = painter.paintEngine()->type() == QPaintEngine::Raster;
+    if (pixels) {
+        paintNarrowSlices(painter, layout);
     }
+    for (const ChartSlice& slice : layout.slices) {
+        const bool narrow = isNarrow(layout, slice);
+        if (!narrow || !pixels) {
+            painter.setPen(narrow ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
+            painter.setBrush(colourOf(slice.colour));
+            painter.drawPath(slicePath(layout, slice));
+        }
+    }
+}
+
+/// Without smoothing between neighbours, but for the rim: to smooth hundreds of wedges takes longer than a
+/// frame, and lets the ground through between them.
+void ChartPainter::paintNarrowSlices(QPainter& painter, const ChartLayout& layout) const {
+    constexpr double beyondRim = 2;
+    if (std::none_of(layout.slices.begin(), layout.slices.end(),
+                     [&](const ChartSlice& slice) { return isNarrow(layout, slice); })) {
+        return;
+    }
+    const double scale = painter.deviceTransform().m11();
+    const QPointF corner = pointOf(layout.pieCentre) - QPointF(1, 1) * (layout.pieRadius + beyondRim);
+    const int side = qCeil(2 * (layout.pieRadius + beyondRim) * scale);
+    QImage wedges(side, side, QImage::Format_ARGB32_Premultiplied);
+    wedges.fill(Qt::transparent);
+    QPainter onWedges(&wedges);
+    onWedges.scale(scale, scale);
+    onWedges.translate(-corner);
+    onWedges.setPen(Qt::NoPen);
+    for (const ChartSlice& slice : layout.slices) {
+        if (isNarrow(layout, slice)) {
+            onWedges.setBrush(colourOf(slice.colour));
+            onWedges.drawPath(slicePath(layout, slice, beyondRim));
+        }
+    }
+    QBrush brush(wedges);
+    brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / scale, 1 / scale));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawEllipse(pointOf(layout.pieCentre), layout.pieRadius, layout.pieRadius);
 }
 
 void ChartPainter::paintLabelBoxes(QPainter& painter, const ChartLayout& layout) const {

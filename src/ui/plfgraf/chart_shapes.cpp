@@ -31,10 +31,10 @@ QPainterPath outline(const ChartLayout& layout, std::size_t number) {
 
 } // namespace
 
-QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice) {
+QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice, double longer) {
     const QPointF centre = pointOf(layout.pieCentre);
-    const QRectF circle(centre.x() - layout.pieRadius, centre.y() - layout.pieRadius, 2 * layout.pieRadius,
-                        2 * layout.pieRadius);
+    const double radius = layout.pieRadius + longer;
+    const QRectF circle(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
     QPainterPath path;
     if (slice.span >= 360) {
         path.addEllipse(circle);

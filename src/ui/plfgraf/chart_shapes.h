@@ -16,6 +16,7 @@ inline QPointF pointOf(ChartPoint point) {
     return {point.x, point.y};
 }
 
-QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice);
+/// The slice of a pie whose radius is that much longer than laid out.
+QPainterPath slicePath(const ChartLayout& layout, const ChartSlice& slice, double longer = 0);
 
 } // namespace planner

@@ -5,6 +5,8 @@
 #include "ui/kit/appearance.h"
 #include "ui/kit/fitting_font.h"
 
+#include <QtMath>
+
 #include <algorithm>
 
 namespace planner {
@@ -43,8 +45,8 @@ void paintHatching(QPainter& painter, const QRectF& place) {
     painter.setClipRect(place, Qt::IntersectClip);
     painter.setPen(QPen(QColor(inchiostri::Tratteggio), weight));
     const double last = place.right() + place.bottom();
-    for (double sum = distance * std::ceil((place.left() + place.top()) / distance); sum < last;
-         sum += distance) {
+    for (int line = qCeil((place.left() + place.top()) / distance); line * distance < last; ++line) {
+        const double sum = line * distance;
         painter.drawLine(QPointF(sum - place.bottom(), place.bottom()),
                          QPointF(sum - place.top(), place.top()));
     }
@@ -62,7 +64,7 @@ void paintText(QPainter& painter, const QRectF& place, const TestoSuCarta& testo
     const FittingFont font(paperFont(testo.corpo, testo.grassetto));
     const FittedText fitted = font.fit(testo.testo, static_cast<int>(std::ceil(place.width() * Steps)));
     paintInSteps(painter, [&] {
-        painter.setFont(fitted.font);
+        painter.setFont(fitted.font());
         painter.setPen(QColor(testo.colore));
         painter.drawText(inSteps(place),
                          static_cast<int>(testo.posto) | Qt::TextSingleLine | Qt::TextDontClip, fitted.shown);

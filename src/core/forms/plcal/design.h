@@ -23,9 +23,7 @@ struct EtichettaTotale {
     std::string_view singolare;   // the same of one
 
     /// Hidden in the window variant "B".
-    constexpr bool scadenze() const {
-        return totale == Totale::scadenze || totale == Totale::scadenzeConcluse;
-    }
+    constexpr bool scadenze() const { return diScadenze(totale); }
     /// Moved up to the deadlines' row in that variant.
     constexpr bool pratiche() const {
         return totale == Totale::pratiche || totale == Totale::praticheConcluse;

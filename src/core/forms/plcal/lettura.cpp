@@ -113,8 +113,9 @@ std::string totaliRiga(const ControlliPlcal& controlli, const modpl& sessione, i
     const IndiceCollaboratore indice = indiceDiRiga(controlli.griglia(tipo->tipo), riga);
     const bool deadlines = !sessione.varianteRidotta();
     return inWords([&](Totale totale) -> double {
-        const bool hidden = !deadlines && (totale == Totale::scadenze || totale == Totale::scadenzeConcluse);
-        return hidden || !indice.presente() ? 0 : sessione.TotaliImpegni.at(indice, totale);
+        return (!deadlines && diScadenze(totale)) || !indice.presente()
+                   ? 0
+                   : sessione.TotaliImpegni.at(indice, totale);
     });
 }
 

@@ -135,7 +135,7 @@ private:
     // plcal_go.cpp
     /// Writes the status line and has it spoken.
     void annunciaStato(const std::string& testo);
-    void ingrandisci(ComandoGriglia comando);
+    void ingrandita();
     void suCarta(ComandoGriglia comando);
     void apriCampo(CampoGriglia campo);
     bool cercaPersona();

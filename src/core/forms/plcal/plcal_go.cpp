@@ -48,20 +48,14 @@ void plcal::griglia_Comando(ComandoGriglia comando) {
         return apriCampo(CampoGriglia::data);
     case ComandoGriglia::vaiAOggi:
         return void(vaiA(m_contenuti.oggi()));
-    case ComandoGriglia::ingrandisci:
-    case ComandoGriglia::riduci:
-    case ComandoGriglia::grandezzaNormale:
-        return ingrandisci(comando);
     default:
-        return suCarta(comando);
+        return m_ingrandimento.esegui(comando) ? ingrandita() : suCarta(comando);
     }
 }
 
-void plcal::ingrandisci(ComandoGriglia comando) {
-    esegui([&] {
-        m_ingrandimento.esegui(comando);
-        annunciaStato("Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %.");
-    });
+void plcal::ingrandita() {
+    esegui(
+        [this] { annunciaStato("Ingrandimento al " + std::to_string(m_ingrandimento.percento()) + " %."); });
 }
 
 void plcal::suCarta(ComandoGriglia comando) {

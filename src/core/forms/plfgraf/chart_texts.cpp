@@ -48,8 +48,9 @@ std::string voceDi(const Grafico& grafico, std::size_t numero) {
 
 /// What a pie adds to a value that it shows a slice of.
 std::string share(const Grafico& grafico, std::size_t numero) {
-    const std::string quota =
-        grafico.tipo == TipoGrafico::Torta ? testoQuota(grafico, numero) : std::string();
+    const std::string quota = grafico.tipo == TipoGrafico::Torta
+                                  ? testoQuota(grafico.valore(numero), totaleTorta(grafico))
+                                  : std::string();
     return quota.empty() ? quota : ", " + quota;
 }
 
@@ -103,12 +104,15 @@ std::string fraseParlata(const Grafico& grafico, std::size_t numero) {
     return voceDi(grafico, numero) + ": " + oreParlate(grafico.valore(numero)) + share(grafico, numero);
 }
 
-std::string testoQuota(const Grafico& grafico, std::size_t numero) {
+double totaleTorta(const Grafico& grafico) {
     double total = 0;
     for (std::size_t each = 0; each < grafico.numValori(); ++each) {
         total += std::max(grafico.valore(each), 0.0);
     }
-    const double value = grafico.valore(numero);
+    return total;
+}
+
+std::string testoQuota(double value, double total) {
     if (!(value > 0) || !std::isfinite(total)) {
         return {};
     }

@@ -31,9 +31,11 @@ std::string fraseValore(const Grafico& grafico, std::size_t numero);
 /// std::out_of_range past the last value.
 std::string fraseParlata(const Grafico& grafico, std::size_t numero);
 
-/// A value's share of a pie, in hundredths: "48 %", "<1 %"; empty for one that has no slice. Throws
-/// std::out_of_range past the last value.
-std::string testoQuota(const Grafico& grafico, std::size_t numero);
+/// The hours that a pie's slices share: only values above 0 have one.
+double totaleTorta(const Grafico& grafico);
+
+/// A value's share of that total, in hundredths: "48 %", "<1 %"; empty for one that has no slice.
+std::string testoQuota(double value, double total);
 
 /// The line at the chart's foot: its heading, the hours in all and the mean of the values that are not 0,
 /// "Ore di Rossi Bruno - marzo 2006: totale 152:30, media 7:15 su 21 giorni".

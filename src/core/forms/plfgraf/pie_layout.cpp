@@ -27,10 +27,7 @@ struct SideLabel {
 };
 
 void placeSlices(const ChartLayoutTask& task) {
-    double total = 0;
-    for (std::size_t number = 0; number < task.grafico.numValori(); ++number) {
-        total += std::max(task.grafico.valore(number), 0.0);
-    }
+    const double total = totaleTorta(task.grafico);
     double sum = 0;
     for (std::size_t number = 0; number < task.grafico.numValori(); ++number) {
         const double value = task.grafico.valore(number);
@@ -75,11 +72,12 @@ double middleOf(const ChartSlice& slice) {
 std::vector<SideLabel> makeLabels(const ChartLayoutTask& task, bool shares) {
     std::vector<SideLabel> labels;
     const ChartLayout& layout = task.layout;
+    const double total = totaleTorta(task.grafico);
     for (std::size_t i = 0; i < layout.slices.size(); ++i) {
         const std::size_t number = layout.slices[i].number;
-        const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " +
-                                 testoOre(task.grafico.valore(number)) +
-                                 (shares ? "  " + testoQuota(task.grafico, number) : "");
+        const double value = task.grafico.valore(number);
+        const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(value) +
+                                 (shares ? "  " + testoQuota(value, total) : "");
         ChartSize size = task.measure(ChartTextRole::value, text);
         size = {size.width + 2 * LabelPadding, size.height + LabelPadding};
         labels.push_back({i, text, size, layout.slices[i].span, 0});

@@ -35,8 +35,7 @@ std::vector<VoceTotale> staffTotals(bool varianteRidotta) {
     std::vector<VoceTotale> voci;
     for (std::size_t i = 0; i < CategorieTotali.size(); ++i) {
         const auto totale = static_cast<Totale>(i);
-        const bool deadlines = totale == Totale::scadenze || totale == Totale::scadenzeConcluse;
-        if (!(deadlines && varianteRidotta)) {
+        if (!(varianteRidotta && diScadenze(totale))) {
             voci.push_back({totale, CategorieTotali[i].nome});
         }
     }

@@ -56,22 +56,25 @@ TEST(TestoOreTest, IsHoursAndMinutes) {
 TEST(TestoQuotaTest, IsTheSharesHundredthsInAPie) {
     Grafico pie =
         chart({"1", "2", "3", "4"}, {30, 0, 69.8, 0.2}, {"1 marzo", "2 marzo", "3 marzo", "4 marzo"});
-    EXPECT_EQ(testoQuota(pie, 0), "30 %");
-    EXPECT_EQ(testoQuota(pie, 1), "");
-    EXPECT_EQ(testoQuota(pie, 2), "70 %");
-    EXPECT_EQ(testoQuota(pie, 3), "<1 %");
+    const double total = totaleTorta(pie);
+    EXPECT_EQ(total, 100);
+    EXPECT_EQ(testoQuota(30, total), "30 %");
+    EXPECT_EQ(testoQuota(0, total), "");
+    EXPECT_EQ(testoQuota(69.8, total), "70 %");
+    EXPECT_EQ(testoQuota(0.2, total), "<1 %");
     EXPECT_EQ(fraseValore(pie, 0), "1 marzo: 30:00");
     pie.tipo = TipoGrafico::Torta;
     EXPECT_EQ(fraseValore(pie, 0), "1 marzo: 30:00, 30 %");
     EXPECT_EQ(fraseValore(pie, 1), "2 marzo: 0:00");
     EXPECT_EQ(fraseParlata(pie, 0), "1 marzo: 30 ore, 30 %");
-    EXPECT_THROW(testoQuota(pie, 4), std::out_of_range);
 }
 
 TEST(TestoQuotaTest, NegativeAndEndlessValuesHaveNoShare) {
-    EXPECT_EQ(testoQuota(chart({"1", "2"}, {-5, 5}, {"a", "b"}), 0), "");
-    EXPECT_EQ(testoQuota(chart({"1", "2"}, {-5, 5}, {"a", "b"}), 1), "100 %");
-    EXPECT_EQ(testoQuota(chart({"1", "2"}, {MassimoDouble, MassimoDouble}, {"a", "b"}), 0), "");
+    EXPECT_EQ(totaleTorta(chart({"1", "2"}, {-5, 5}, {"a", "b"})), 5);
+    EXPECT_EQ(testoQuota(-5, 5), "");
+    EXPECT_EQ(testoQuota(5, 5), "100 %");
+    const double endless = totaleTorta(chart({"1", "2"}, {MassimoDouble, MassimoDouble}, {"a", "b"}));
+    EXPECT_EQ(testoQuota(MassimoDouble, endless), "");
 }
 
 TEST(TestoPiedeTest, SaysWhoseHoursHowManyAndTheMean) {
