@@ -10,13 +10,13 @@ namespace planner {
 
 namespace {
 
-void suCarta(ComandoGriglia comando, DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi) {
+bool suCarta(ComandoGriglia comando, DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi) {
     if (comando == ComandoGriglia::copia) {
         copiaGriglia(documento);
-        return;
+        return true;
     }
     documento.totali = comando == ComandoGriglia::stampaConTotali;
-    stampaGriglia(documento, parent, messaggi);
+    return stampaGriglia(documento, parent, messaggi);
 }
 
 } // namespace
@@ -30,7 +30,7 @@ PlannerWindows::PlannerWindows(modpl& sessione, ControlliPlcal& controlli, Conte
                {vista, messaggi, chiediImpegno, collaboratori,
                 [&messaggi](plfgraf& form) { mostraGrafico(form, messaggi); },
                 [&, this](ComandoGriglia comando) {
-                    suCarta(comando, {controlli, sessione, contenuti.oggi()}, vista, messaggi);
+                    return suCarta(comando, {controlli, sessione, contenuti.oggi()}, vista, messaggi);
                 },
                 alfabeto}) {
     vista.setForm(finestra);

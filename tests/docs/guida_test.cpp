@@ -5,9 +5,11 @@
 #include "forms/plcal/salti.h"
 #include "forms/plfcollab/commands.h"
 #include "forms/plfgraf/plfgraf.h"
+#include "forms/tasti.h"
 #include "session/toolbar.h"
 #include "support/compiti.h"
 
+#include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -25,19 +27,10 @@ std::string guida() {
 
 /// The keys as an Italian keyboard names them.
 std::string italianKeys(std::string keys) {
-    for (const auto& [english, italian] : {std::pair{"Shift", "Maiusc"},
-                                           {"Return", "Invio"},
-                                           {"Space", "Barra spaziatrice"},
-                                           {"PgUp", "PagSu"},
-                                           {"PgDown", "PagGiù"},
-                                           {"Space", "Spazio"},
-                                           {"Left", "Freccia sinistra"},
-                                           {"Right", "Freccia destra"},
-                                           {"Up", "Freccia su"},
-                                           {"Down", "Freccia giù"}}) {
+    for (const auto& [english, italian] : NomiTasti) {
         const std::size_t at = keys.find(english);
         if (at != std::string::npos) {
-            keys.replace(at, std::string_view(english).size(), italian);
+            keys.replace(at, english.size(), italian);
         }
     }
     return keys;
@@ -138,18 +131,27 @@ TEST(GuidaTest, NamesEveryGestureAndWhatFollowsIt) {
     }
 }
 
-/// "| task | its keys | their number |".
-std::string rowOf(const test::Compito& compito) {
-    std::string keys;
-    for (const test::Battuta& battuta : compito.battute()) {
-        const std::string key(battuta.tasto);
-        keys += (keys.empty() ? "" : ", ") + (battuta.testo.empty() ? italianKeys(key) : key);
-    }
-    return "| " + std::string(compito.nome) + " | " + keys + " | " + std::to_string(compito.quante()) +
-           " |\n";
+std::string nameOf(const test::Battuta& battuta) {
+    const std::string name(battuta.tasto);
+    return battuta.testo.empty() ? italianKeys(name) : name;
 }
 
-TEST(GuidaTest, SaysHowTheTasksOfTheDayAreDoneByKeysAlone) {
+/// "| task | its keys | their number | after which one it is heard that it is done |".
+std::string rowOf(const test::Compito& compito) {
+    std::string keys;
+    std::string heard;
+    for (const test::Battuta& battuta : compito.battute()) {
+        keys += (keys.empty() ? "" : ", ") + nameOf(battuta);
+        const auto said = battuta.dette();
+        if (std::find(said.begin(), said.end(), compito.fatto) != said.end()) {
+            heard = nameOf(battuta) + ": «" + std::string(compito.fatto) + "»";
+        }
+    }
+    return "| " + std::string(compito.nome) + " | " + keys + " | " + std::to_string(compito.quante()) +
+           " | " + heard + " |\n";
+}
+
+TEST(GuidaTest, SaysHowTheTasksOfTheDayAreDoneByKeysAndByEarAlone) {
     for (const test::Compito& compito : test::Compiti) {
         EXPECT_LE(compito.quante(), test::MassimoBattute) << compito.nome;
         EXPECT_NE(guida().find(rowOf(compito)), std::string::npos) << rowOf(compito);

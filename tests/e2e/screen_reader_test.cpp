@@ -70,6 +70,12 @@ TEST_F(ScreenReader, SaysOfTheMonthOneThingForEachKey) {
             {"marzo 2006.", "scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
            {"ctrl+Left", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
            {"ctrl+Left", {"Nella riga non c'è altro prima di questa casella."}},
+           {"ctrl+m",
+            {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.", "planner non dettagliato."}},
+           {"ctrl+m", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.", "planner dettagliato."}},
+           {"shift+F10", {"Consultazione."}},
+           {"Down", {"Inserimento impegni."}},
+           {"Escape", {"Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
            {"ctrl+minus", {"Ingrandimento al 90 %."}},
            {"ctrl+0", {"Ingrandimento al 100 %."}}});
 }
@@ -77,7 +83,8 @@ TEST_F(ScreenReader, SaysOfTheMonthOneThingForEachKey) {
 TEST_F(ScreenReader, NamesAFieldAndSaysWhereItLeadsWithTheHolidaysName) {
     open('M', "20061226", "Planner Mensile",
          "Planner mensile nessun impegno. Neri Carla, martedì 26 dicembre 2006, Santo Stefano.");
-    check(finestra(), {{"ctrl+d", {"Vai alla data text. 15/8."}}});
+    check(finestra(), {{"ctrl+f", {"Cerca collaboratore text. parte del nome, o il codice."}},
+                       {"ctrl+d", {"Vai alla data text. 15/8."}}});
     finestra().type("25");
     check(finestra(),
           {{"Return", {"Planner mensile nessun impegno. Neri Carla, lunedì 25 dicembre 2006, Natale."}},
@@ -133,7 +140,7 @@ TEST_F(ScreenReader, SaysEachRowOfTheStaffListOnceAndItsTicks) {
     open('M', "20060316", "Planner Mensile",
          "Planner mensile scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica.");
     finestra().press("ctrl+l");
-    lettore.hear("Collaboratori.");
+    lettore.hear("Collaboratori. 0 spuntati su 2.");
     const Finestra list = window(planner(), "Selezione Collaboratori");
     check(list, {{"Down", {"Neri Carla, 01, Neri Carla, non spuntato."}},
                  {"Down", {"Verdi Anna, 02, Verdi Anna, non spuntato."}},
@@ -167,7 +174,9 @@ TEST_F(ScreenReader, SaysTheValuesOfAChart) {
     finestra().press("space");
     EXPECT_EQ(lettore.next(), "Impegni di Neri Carla: 3 scadenze (1 conclusa), 1 pratica.");
     finestra().press("ctrl+g");
-    lettore.hear("Grafico. List with 31 items. Ore di Neri Carla - marzo 2006.");
+    lettore.hear("Planner dialog Ore di Neri Carla - marzo 2006: totale 7:30, media 7:30 su 1 giorno "
+                 "Frecce o mouse: leggere i valori.");
+    lettore.hear("Grafico. List with 31 items.");
     check(window(planner(), "Planner"), {{"Right", {"1 marzo: nessuna ora."}},
                                          {"Right", {"2 marzo: 7 ore e 30 minuti."}},
                                          {"ctrl+c", {"Valori copiati."}}});

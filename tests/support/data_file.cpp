@@ -8,8 +8,12 @@
 
 namespace planner::test {
 
+std::string dataFile(std::string_view name) {
+    return std::string(PLANNER_TEST_DATA) + "/" + std::string(name);
+}
+
 std::string readDataFile(std::string_view name) {
-    std::ifstream file(std::string(PLANNER_TEST_DATA) + "/" + std::string(name), std::ios::binary);
+    std::ifstream file(dataFile(name), std::ios::binary);
     EXPECT_TRUE(file) << "no data file " << name;
     return {std::istreambuf_iterator<char>(file), {}};
 }

@@ -7,6 +7,9 @@
 
 namespace planner::test {
 
+/// Where a file of tests/data is.
+std::string dataFile(std::string_view name);
+
 /// The whole content of a file of tests/data; a failed expectation and "" when it cannot be read.
 std::string readDataFile(std::string_view name);
 

@@ -6,7 +6,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
@@ -124,6 +126,31 @@ TEST_F(AccessibilityTest, AMessageStandsInAStatusBarOfNoWindowAndOnlyOfOneThatSh
     bench.vista.hide();
     bench.vista.annuncia("maggio 2006");
     EXPECT_EQ(bar->child(0)->text(QAccessible::Name), QStringLiteral("aprile 2006"));
+}
+
+TEST_F(AccessibilityTest, AMessageBehindADialogWaitsUntilTheWindowIsBack) {
+    bench.open("M");
+    QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(&bench.widget("annuncio"));
+    QDialog dialog(&bench.vista);
+    QApplication::setActiveWindow(&dialog);
+    bench.vista.annuncia("Il planner è stato stampato.");
+    EXPECT_EQ(bar->childCount(), 0);
+    QApplication::setActiveWindow(&bench.vista);
+    EXPECT_EQ(bar->childCount(), 0) << "the focus is said first";
+    QCoreApplication::processEvents();
+    ASSERT_EQ(bar->childCount(), 1);
+    EXPECT_EQ(bar->child(0)->text(QAccessible::Name), QStringLiteral("Il planner è stato stampato."));
+}
+
+TEST_F(AccessibilityTest, WhatBefallsAFieldWithoutTheFocusIsNotPerceived) {
+    bench.open("M");
+    QApplication::setActiveWindow(&bench.vista);
+    QLineEdit field(&bench.vista);
+    field.show();
+    QAccessibleTextSelectionEvent selection(&field, 0, 1);
+    EXPECT_FALSE(isPerceived(selection));
+    field.setFocus();
+    EXPECT_TRUE(isPerceived(selection));
 }
 
 TEST_F(AccessibilityTest, WhatGetsTheFocusOfAGridIsItsCell) {

@@ -125,8 +125,8 @@ TEST_F(ChartWindowTest, SaysWhoseHoursItShows) {
             const auto* foot = dialog.findChild<FittedLabel*>(QStringLiteral("piede"));
             EXPECT_TRUE(foot->text().startsWith(heading + QStringLiteral(": "))) << heading.toStdString();
             EXPECT_FALSE(foot->fitted().cut) << heading.toStdString();
-            EXPECT_EQ(chart(dialog).accessibleDescription(), heading);
-            EXPECT_EQ(dialog.accessibleDescription(), heading);
+            EXPECT_EQ(dialog.accessibleDescription() + chart(dialog).accessibleDescription(), QString())
+                << "a screen reader reads the foot already";
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Planner"));
             EXPECT_EQ(offeredName(dialog), heading);
             trigger(dialog, "copia");

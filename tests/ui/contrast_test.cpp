@@ -11,6 +11,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -169,6 +170,15 @@ TEST_P(DesktopContrastTest, ButtonsFieldsAndMarksHaveEdgesThatShow) {
             return least(QColor(pixel), GetParam().palette.color(QPalette::Window)) >= ShapeContrast - 0.1;
         })) << edge.x();
     }
+}
+
+TEST_P(DesktopContrastTest, AMenuStandsOutFromTheWindowBehindIt) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("Guida"));
+    menu.resize(menu.sizeHint());
+    const Painted painted(menu);
+    const QColor edge = painted.at({0, menu.height() / 2.0});
+    EXPECT_GE(contrasto(rgbOf(edge), rgbOf(GetParam().palette.color(QPalette::Window))), ShapeContrast - 0.1);
 }
 
 TEST_P(DesktopContrastTest, TheFieldWithTheFocusHasAnEdgeThatShows) {

@@ -54,6 +54,20 @@ TEST_F(FittingTest, ATextFarTooLongIsElidedAtItsEnd) {
     EXPECT_DOUBLE_EQ(fitted.font().pointSizeF(), font.pointSizeF() * 0.9);
 }
 
+TEST_F(FittingTest, LettersShrinkFurtherOnALargeDesktopOnlyWhereThatSavesTheWhole) {
+    const QVariant before = qApp->property("desktopPoints");
+    qApp->setProperty("desktopPoints", 15.0);
+    const QFont large = qtFont(Carattere::normale, 1.5);
+    const FittingFont letters(large);
+    const FittedText whole = letters.fit(LongName, widthIn(large, LongName) * 7 / 10);
+    EXPECT_EQ(whole.shown, LongName);
+    EXPECT_LT(whole.font().pointSizeF(), large.pointSizeF() * 0.8);
+    const FittedText cut = letters.fit(LongName, widthIn(large, LongName) / 2);
+    EXPECT_TRUE(cut.cut);
+    EXPECT_DOUBLE_EQ(cut.font().pointSizeF(), large.pointSizeF() * 0.9);
+    qApp->setProperty("desktopPoints", before);
+}
+
 TEST_F(FittingTest, WithoutRoomOrTextNothingGoesWrong) {
     EXPECT_FALSE(fitting.fit(QString(), 0).cut);
     EXPECT_TRUE(fitting.fit(LongName, 0).cut);

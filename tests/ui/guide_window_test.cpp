@@ -73,6 +73,15 @@ struct GuideWindowTest : testing::Test {
 
 } // namespace
 
+/// Played on each screen and with large letters too.
+struct GuideRoomTest : GuideWindowTest {};
+
+TEST_F(GuideRoomTest, NothingStandsBesideThePage) {
+    opened();
+    EXPECT_LE(text().horizontalScrollBar()->maximum(), 1) << "rounded up";
+    EXPECT_FALSE(text().horizontalScrollBar()->isVisible());
+}
+
 TEST_F(GuideWindowTest, IsMadeAtItsFirstUse) {
     bench.open("M");
     EXPECT_EQ(guide(), nullptr);

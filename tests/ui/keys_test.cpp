@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "forms/tasti.h"
+#include "ui/kit/text.h"
 #include "window_bench.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -61,13 +65,25 @@ TEST_F(KeysTest, CtrlMDoesNothingInTheYear) {
 
 TEST_F(KeysTest, ShiftF10OpensTheMenuAtTheCurrentCell) {
     bench.open("G");
-    bench.click(2, 60);
+    bench.click(2, 45);
     bench.key(Qt::Key_F10, Qt::ShiftModifier);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
-    const QRect cell = bench.view().visualRect(bench.index(2, 60));
+    const QRect cell = bench.view().visualRect(bench.index(2, 45));
     EXPECT_EQ(bench.view().viewport()->mapFromGlobal(menu->pos()), cell.center());
+    EXPECT_EQ(menu->activeAction(), menu->actions().constFirst()) << "which a screen reader says";
     menu->close();
+}
+
+TEST_F(KeysTest, KeysAreNamedEverywhereAsInTheGuide) {
+    for (const NomeTasto& each : NomiTasti) {
+        const QString key = each.tasto == "Shift" ? QStringLiteral("Shift+A") : fromUtf8(each.tasto);
+        EXPECT_TRUE(QKeySequence(key).toString(QKeySequence::NativeText).startsWith(fromUtf8(each.nome)))
+            << each.tasto;
+    }
+    bench.open("M");
+    EXPECT_EQ(bench.widget<QToolButton>("bselm0").toolTip().toStdString(),
+              "Mese precedente (Alt+Freccia sinistra; Ctrl+PagSu)");
 }
 
 TEST_F(KeysTest, LettersAndCtrlArrowsJumpInTheGrid) {
@@ -133,6 +149,18 @@ TEST_F(KeysTest, AFieldWithoutSuccessStaysForAnotherText) {
     QTest::keyClick(&field, Qt::Key_F3);
     EXPECT_FALSE(fieldStands());
     EXPECT_EQ(bench.base.sessione.collab, "7 ");
+}
+
+TEST_F(KeysTest, OneFieldGivesWayToTheOther) {
+    bench.open("M");
+    write(Qt::Key_F, "Neri");
+    const QPointer<QWidget> date = &write(Qt::Key_D, "20");
+    EXPECT_TRUE(fieldStands());
+    EXPECT_EQ(date->accessibleName(), QStringLiteral("Vai alla data"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(bench.widget("campo").findChildren<QLineEdit*>().size(), 1);
+    QTest::keyClick(date, Qt::Key_Return);
+    EXPECT_EQ(bench.shownDay(), "20060320");
 }
 
 TEST_F(KeysTest, CtrlDGoesToADateAndCtrlTBack) {

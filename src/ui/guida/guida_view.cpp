@@ -27,6 +27,7 @@ namespace planner {
 namespace {
 
 constexpr int CellPadding = 5;
+constexpr int WidthRoundedUp = 1; // by which a table may be wider than the page
 
 /// Behind folders or our own scheme.
 QString fileNameIn(const QString& address) {
@@ -74,6 +75,9 @@ GuidaView::GuidaView(QWidget* parent) : QTextBrowser(parent) {
     setUndoRedoEnabled(false);
     setOpenLinks(false);
     setTabChangesFocus(true);
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int most) {
+        setHorizontalScrollBarPolicy(most > WidthRoundedUp ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    });
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     document()->setDefaultFont(font());
     document()->setDocumentMargin(12);

@@ -4,6 +4,9 @@
 
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QEvent>
+
+#include <utility>
 
 namespace planner {
 
@@ -78,6 +81,7 @@ QAccessibleInterface* describe(const QString& name, QObject* object) {
 Annuncio::Annuncio(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("annuncio"));
     hide();
+    parent->window()->installEventFilter(this);
     QAccessible::installFactory(describe);
 }
 
@@ -86,6 +90,20 @@ void Annuncio::di(const QString& testo) {
         return;
     }
     m_testo = testo;
+    m_waiting = QApplication::activeWindow() != window();
+    if (!m_waiting) {
+        tell();
+    }
+}
+
+bool Annuncio::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && std::exchange(m_waiting, false)) {
+        QMetaObject::invokeMethod(this, &Annuncio::tell, Qt::QueuedConnection); // the focus comes first
+    }
+    return false;
+}
+
+void Annuncio::tell() {
     if (auto* bar = dynamic_cast<BarAccessible*>(QAccessible::queryAccessibleInterface(this))) {
         QAccessibleEvent shown(bar->renew(), QAccessible::ObjectShow);
         QAccessible::updateAccessibility(&shown);

@@ -14,13 +14,20 @@ class Annuncio : public QWidget {
 public:
     explicit Annuncio(QWidget* parent);
 
-    /// Has the text spoken, if it is not empty and the window shows.
+    /// Has the text spoken, if it is not empty and the window shows; behind another window of the program, as
+    /// when a dialog goes, once this one has come back and what has the focus in it is said.
     void di(const QString& testo);
     /// What was said last.
     const QString& testo() const { return m_testo; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void tell();
+
     QString m_testo;
+    bool m_waiting = false;
 };
 
 } // namespace planner

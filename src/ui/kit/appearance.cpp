@@ -3,6 +3,7 @@
 #include "ui/kit/appearance.h"
 
 #include "ui/kit/drawn_icon.h"
+#include "ui/kit/key_names.h"
 #include "ui/kit/planner_style.h"
 #include "ui/kit/screen_scale.h"
 #include "ui/kit/text.h"
@@ -45,6 +46,7 @@ void setUpAppearance(QApplication& application) {
     if (translator->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(translator);
     }
+    QCoreApplication::installTranslator(new KeyNames(&application));
     QApplication::setStyle(new PlannerStyle); // the application owns it
     // The style's own pictures everywhere: to search a desktop's themes takes a tenth of the start. An empty
     // list would mean the system's folders.

@@ -84,8 +84,8 @@ FittedText FittingFont::fit(const QString& text, int width) const {
             return {letters, text, false};
         }
     }
-    const Letters& smallest = m_letters.back();
-    return {smallest, smallest.metrics().elidedText(text, Qt::ElideRight, width), true};
+    const Letters& large = m_letters.at(1); // smaller ones would not save the whole
+    return {large, large.metrics().elidedText(text, Qt::ElideRight, width), true};
 }
 
 } // namespace planner

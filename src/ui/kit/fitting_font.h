@@ -50,9 +50,9 @@ struct FittedText {
     const QFont& font() const { return letters.font(); }
 };
 
-/// A font whose texts fit their places: one that is too long shrinks to nine tenths, then is elided at its
-/// end. Where the desktop has larger letters than usual, it shrinks by steps to nine tenths of the usual ones
-/// in between.
+/// A font whose texts fit their places: one that is too long shrinks to nine tenths and, where the desktop
+/// has larger letters than usual, by steps to nine tenths of the usual ones. One that is not whole even so is
+/// elided at its end, in nine tenths.
 class FittingFont {
 public:
     static constexpr double Shrinking = 0.9;

@@ -55,6 +55,8 @@ void PlannerStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     } else if (element == PE_PanelButtonCommand || element == PE_FrameLineEdit) {
         drawEdge(*painter, isChosen(*option) ? focusColor(option->palette) : edgeColor(option->palette),
                  option->rect, false);
+    } else if (element == PE_PanelMenu) {
+        drawEdge(*painter, edgeColor(option->palette), option->rect, false);
     } else if (isFocusOfAButton(element, *option, widget)) {
         drawEdge(*painter, focusColor(option->palette), option->rect, false);
     }

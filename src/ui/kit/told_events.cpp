@@ -6,6 +6,9 @@
 #include <QAccessibleWidget>
 #include <QFrame>
 
+#include <algorithm>
+#include <array>
+
 namespace planner {
 
 namespace {
@@ -23,6 +26,12 @@ QAccessibleInterface* describeFrame(const QString& name, QObject* object) {
     return name == QLatin1String(QFrame::staticMetaObject.className())
                ? new QAccessibleWidget(static_cast<QFrame*>(object), QAccessible::Grouping)
                : nullptr;
+}
+
+bool isOfText(const QAccessibleEvent& event) {
+    constexpr std::array types{QAccessible::TextInserted, QAccessible::TextRemoved, QAccessible::TextUpdated,
+                               QAccessible::TextCaretMoved, QAccessible::TextSelectionChanged};
+    return std::find(types.begin(), types.end(), event.type()) != types.end();
 }
 
 void handle(QAccessibleEvent* event) {
@@ -43,6 +52,10 @@ bool isPerceived(const QAccessibleEvent& event) {
     if (event.type() == QAccessible::NameChanged || event.type() == QAccessible::DescriptionChanged) {
         const auto* widget = qobject_cast<const QWidget*>(event.object());
         return widget == nullptr || widget->isVisible();
+    }
+    if (isOfText(event)) {
+        const auto* widget = qobject_cast<const QWidget*>(event.object());
+        return widget == nullptr || widget->hasFocus();
     }
     if (event.type() == QAccessible::Focus) {
         const auto* view = qobject_cast<const QAbstractItemView*>(event.object());

@@ -6,8 +6,9 @@
 
 namespace planner {
 
-/// False for what the toolkit announces and nobody perceives: the name of a widget that does not show, and
-/// the current item of a view that has not the focus.
+/// False for what the toolkit announces and nobody perceives: the name of a widget that does not show, the
+/// current item of a view that has not the focus, and what befalls the text of a field that has it not: a
+/// screen reader would not name a field whose text it has heard of before.
 bool isPerceived(const QAccessibleEvent& event);
 
 /// The item that has the focus where the event says that its view has got it; null for any other event.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/kit/tool_commands.h"
 
+#include "ui/kit/appearance.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/drawn_icon.h"
 

@@ -171,6 +171,9 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
     jumps->addActions(visibleGrid()->actions());
     menu->insertMenu(line, jumps);
     menu->popup(globalPosition);
+    if (globalPosition != QCursor::pos()) { // by key: whoever hears must know where they are
+        menu->setActiveAction(menu->actions().constFirst());
+    }
 }
 
 void PlcalWindow::aggiorna() {

@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 namespace planner {
 
 namespace {
@@ -19,36 +21,49 @@ constexpr int TypicalLetters = 32;
 
 } // namespace
 
-PromptField::PromptField(QWidget* parent)
-    : QFrame(parent), m_caption(new PlainLabel(this)), m_edit(new QLineEdit(this)) {
+PromptField::PromptField(QWidget* parent) : QFrame(parent), m_caption(new PlainLabel(this)) {
     setObjectName(QStringLiteral("campo"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(6, 3, 6, 3);
     layout->addWidget(m_caption);
-    layout->addWidget(m_edit, 1);
-    m_edit->installEventFilter(this);
     hide();
 }
 
 void PromptField::open(const DescrizioneCampo& campo, const QString& text,
                        std::function<bool(const QString&)> confirm) {
     m_confirm = std::move(confirm);
-    const QString caption = fromUtf8(campo.didascalia);
-    m_caption->setText(caption + QLatin1Char(':'));
-    m_edit->setObjectName(fromUtf8(campo.nome));
-    m_edit->setAccessibleName(caption);
-    m_edit->setAccessibleDescription(fromUtf8(campo.esempio));
-    m_edit->setPlaceholderText(fromUtf8(campo.esempio));
-    m_edit->setMinimumWidth(TypicalLetters * m_edit->fontMetrics().averageCharWidth());
+    // To a screen reader what it has heard of before is the same field, whatever it is called since.
+    QLineEdit* before = std::exchange(m_edit, makeEdit(campo));
+    m_edit->setText(text);
+    m_edit->selectAll();
+    if (before != nullptr) {
+        before->removeEventFilter(this);
+    }
     show();
     raise();
-    m_edit->setFocus(); // first: a screen reader does not name a field whose text it has heard of before
-    if (text != m_edit->text()) { // it would tell of a change else
-        m_edit->setText(text);
+    m_edit->setFocus();
+    if (before != nullptr) {
+        before->setObjectName(QString());
+        before->hide();
+        before->deleteLater(); // its key may be under way
     }
-    m_edit->selectAll();
+}
+
+QLineEdit* PromptField::makeEdit(const DescrizioneCampo& campo) {
+    const QString caption = fromUtf8(campo.didascalia);
+    m_caption->setText(caption + QLatin1Char(':'));
+    auto* edit = new QLineEdit(this);
+    edit->setObjectName(fromUtf8(campo.nome));
+    edit->setAccessibleName(caption);
+    edit->setAccessibleDescription(fromUtf8(campo.esempio));
+    edit->setPlaceholderText(fromUtf8(campo.esempio));
+    edit->setMinimumWidth(TypicalLetters * edit->fontMetrics().averageCharWidth());
+    edit->installEventFilter(this);
+    layout()->addWidget(edit);
+    edit->show();
+    return edit;
 }
 
 bool PromptField::eventFilter(QObject* watched, QEvent* event) {

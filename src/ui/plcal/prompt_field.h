@@ -33,11 +33,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QLineEdit* makeEdit(const DescrizioneCampo& campo);
     void confirm();
     void leave();
 
     QLabel* m_caption;
-    QLineEdit* m_edit;
+    QLineEdit* m_edit = nullptr; // a new one for each text; none before the first
     std::function<bool(const QString&)> m_confirm;
 };
 

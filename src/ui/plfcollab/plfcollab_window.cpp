@@ -159,6 +159,7 @@ void PlfcollabWindow::aggiornaRighe() {
 void PlfcollabWindow::aggiorna() {
     m_list->showMarks();
     m_count->setText(fromUtf8(m_form.conteggio()));
+    m_list->setAccessibleDescription(m_count->text());
 }
 
 void PlfcollabWindow::portaInVista(int riga) {

@@ -62,11 +62,8 @@ ChartDialog::ChartDialog(plfgraf& form, MessageBoxes& messaggi, QWidget* parent)
     setObjectName(QStringLiteral("plfgraf"));
     setWindowTitle(QStringLiteral("Planner"));
     setFont(stripFont(m_fontFactor));
-    const QString heading = fromUtf8(testoIntestazione(grafico()));
-    setAccessibleDescription(heading);
     m_chart->setObjectName(fromUtf8(grafico().nome));
     m_chart->setAccessibleName(QStringLiteral("Grafico"));
-    m_chart->setAccessibleDescription(heading);
     m_piede->setObjectName(QStringLiteral("piede"));
     m_piede->setText(fromUtf8(testoPiede(grafico())));
     m_stato->setObjectName(QStringLiteral("stato"));

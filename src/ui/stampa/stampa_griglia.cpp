@@ -88,7 +88,7 @@ bool printOn(QPagedPaintDevice& device, const DocumentoStampa& documento) {
     return painter.begin(&device) && printPages(painter, device, documento) && painter.end();
 }
 
-void stampaGriglia(DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi) {
+bool stampaGriglia(DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(documentName(documento));
     printer.setFullPage(true);
@@ -98,13 +98,15 @@ void stampaGriglia(DocumentoStampa documento, QWidget& parent, MessageBoxes& mes
     dialog.setWindowTitle(documento.totali ? QStringLiteral("Stampa con i totali")
                                            : QStringLiteral("Stampa"));
     if (dialog.exec() != QDialog::Accepted) {
-        return;
+        return false;
     }
     const QSizeF sheet = printer.pageLayout().fullRect(QPageLayout::Point).size();
     documento.carta = {sheet.width(), sheet.height()};
-    if (!printOn(printer, documento)) {
+    const bool printed = printOn(printer, documento);
+    if (!printed) {
         messaggi.critical("Il planner non è stato stampato: la stampante non lo ha accettato.");
     }
+    return printed;
 }
 
 QString savePdf(const DocumentoStampa& documento, const QString& path) {

@@ -16,8 +16,8 @@ namespace planner {
 class MessageBoxes;
 
 /// Asks for printer, paper and pages over `parent`, and prints the document on the paper chosen. What goes
-/// wrong is said.
-void stampaGriglia(DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi);
+/// wrong is said. True when it has been printed.
+bool stampaGriglia(DocumentoStampa documento, QWidget& parent, MessageBoxes& messaggi);
 
 /// Prints on a device whose sheets are as large as the document's and painted to their edges; those pages
 /// alone that the device is set to, if any. False when it does not take them.

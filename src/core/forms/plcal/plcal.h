@@ -32,7 +32,8 @@ public:
         std::function<void(plfimp&)> finestraImpegno; // asks, modal; the answer is in the form
         plfcollab& collaboratori;
         std::function<void(plfgraf&)> finestraGrafici; // shows the visible chart, modal
-        std::function<void(ComandoGriglia)> suCarta;   // copies or prints the visible grid; may ask, modal
+        /// Copies or prints the visible grid; may ask, modal. True when that was done.
+        std::function<bool(ComandoGriglia)> suCarta;
         const Collation& alfabeto;
     };
 

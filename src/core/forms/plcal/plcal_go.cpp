@@ -60,9 +60,9 @@ void plcal::ingrandita() {
 
 void plcal::suCarta(ComandoGriglia comando) {
     esegui([&] {
-        m_porte.suCarta(comando);
-        if (comando == ComandoGriglia::copia) {
-            annunciaStato("La tabella è stata copiata.");
+        if (m_porte.suCarta(comando)) {
+            annunciaStato(comando == ComandoGriglia::copia ? "La tabella è stata copiata."
+                                                           : "Il planner è stato stampato.");
         }
     });
 }

@@ -258,12 +258,19 @@ TEST_F(CommandsTest, ThePlannerStaysUsableBesideTheStaffWindow) {
 TEST_F(CommandsTest, TheGridsOwnCommandsCopyAndPrintAndAnswerNothing) {
     open("M");
     form.griglia_Comando(ComandoGriglia::stampa);
+    EXPECT_EQ(form.stato(), "Il planner è stato stampato.");
     form.griglia_Comando(ComandoGriglia::stampaConTotali);
-    EXPECT_EQ(form.stato(), "");
     form.griglia_Comando(ComandoGriglia::copia);
     EXPECT_EQ(form.stato(), "La tabella è stata copiata.");
     EXPECT_EQ(bench.journal, (Journal{"stampa", "update", "stampaConTotali", "update", "copia", "update"}));
     EXPECT_THAT(reply(), IsEmpty());
+}
+
+TEST_F(CommandsTest, WhatIsNotPrintedIsNotSaidToBe) {
+    open("M");
+    suCartaRiesce = false;
+    form.griglia_Comando(ComandoGriglia::stampa);
+    EXPECT_EQ(form.stato(), "");
 }
 
 TEST_F(CommandsTest, TheGridIsShownSmallerForAllRequestsOfTheProgram) {

@@ -43,6 +43,7 @@ protected:
                             controlli.calendario,
                             {[this]() -> VistaPlfcollab& { return vistaCollab; }, bench.messaggi, alfabeto}};
     FakeFinestraGrafici finestraGrafici;
+    bool suCartaRiesce = true;
     plcal form{sessione,
                controlli,
                bench.motore,
@@ -50,6 +51,7 @@ protected:
                 [this](ComandoGriglia comando) {
                     bench.journal.push_back(
                         std::string(ComandiGriglia.at(static_cast<std::size_t>(comando)).nome));
+                    return suCartaRiesce;
                 },
                 alfabeto}};
 };
