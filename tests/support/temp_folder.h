@@ -27,7 +27,6 @@ public:
     /// A file of zero bytes that takes no room on the disk, however long.
     void writeSparse(std::string_view name, std::uint64_t length) const;
     void makeFolder(std::string_view name) const;
-    void makeFifo(std::string_view name) const;
 
 private:
     std::filesystem::path m_folder;

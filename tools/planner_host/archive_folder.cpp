@@ -5,7 +5,7 @@
 #include "archive/readers.h"
 #include "planner_host/errors.h"
 #include "planner_host/readable_text.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 #include "session/staff.h"
 
@@ -115,7 +115,7 @@ void ArchiveFolder::prepara(int anno) {
 std::string ArchiveFolder::cercaNome(std::string_view codice) const {
     Archivi archivi;
     try {
-        readCollaboratori(PosixFileSystem(), (m_cartella / "wcollab").string(), archivi);
+        readCollaboratori(SystemFileSystem(), (m_cartella / "wcollab").string(), archivi);
     } catch (const RuntimeError&) {
         return {}; // without a readable staff file nobody has a name
     }

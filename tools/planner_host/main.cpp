@@ -4,8 +4,8 @@
 #include "planner_host/errors.h"
 #include "planner_host/host.h"
 #include "planner_host/option_table.h"
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
+#include "platform/system/system_file_system.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ const char* avvisoSchermo() {
 
 /// Says what is wrong in a host's files; the exit code.
 int esitoControllo(const planner::OpzioniHost& opzioni) {
-    const planner::Rilievi rilievi = controllaCartella(planner::PosixFileSystem(), opzioni.daControllare,
+    const planner::Rilievi rilievi = controllaCartella(planner::SystemFileSystem(), opzioni.daControllare,
                                                        opzioni.transito, planner::SystemClock().today());
     std::cout << rilievi.testo() << (rilievi.empty() ? "non c'è nulla di sbagliato\n" : "");
     return static_cast<int>(rilievi.empty() ? planner::CodiceUscita::Riuscito

@@ -3,7 +3,7 @@
 #include "planner_host/transit_file.h"
 
 #include "planner_host/errors.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 
 namespace planner {
@@ -18,8 +18,8 @@ namespace {
 
 void scriviTransito(const std::filesystem::path& path, const TransitRequest& richiesta) {
     try {
-        PosixFileSystem().writeStart(path.string(),
-                                     {reinterpret_cast<const char*>(&richiesta), sizeof richiesta});
+        SystemFileSystem().writeStart(path.string(),
+                                      {reinterpret_cast<const char*>(&richiesta), sizeof richiesta});
     } catch (const FileError& error) {
         fail(path, error.what());
     }
@@ -29,7 +29,7 @@ TransitRequest leggiTransito(const std::filesystem::path& path) {
     TransitRequest risposta;
     std::size_t count = 0;
     try {
-        const auto file = PosixFileSystem().openForReading(path.string());
+        const auto file = SystemFileSystem().openForReading(path.string());
         count = file->read({reinterpret_cast<char*>(&risposta), sizeof risposta});
     } catch (const FileError& error) {
         fail(path, error.what());

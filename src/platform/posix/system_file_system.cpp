@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 
 #include "platform/posix/file_descriptor.h"
+#include "platform/posix/native_path.h"
 #include "ports/runtime_errors.h"
 
 #include <algorithm>
@@ -48,29 +49,35 @@ std::string nativePath(std::string path) {
     return path;
 }
 
-bool PosixFileSystem::fileExists(const std::string& path) const {
+bool SystemFileSystem::fileExists(const std::string& path) const {
     return lookAt(path) == Sight::file;
 }
 
-bool PosixFileSystem::isMissing(const std::string& path) const {
+bool SystemFileSystem::isMissing(const std::string& path) const {
     return lookAt(path) == Sight::none;
 }
 
-bool PosixFileSystem::deleteFile(const std::string& path) {
+bool SystemFileSystem::deleteFile(const std::string& path) {
     return ::unlink(nativePath(path).c_str()) == 0;
 }
 
-std::unique_ptr<InputFile> PosixFileSystem::openForReading(const std::string& path) const {
+std::unique_ptr<InputFile> SystemFileSystem::openForReading(const std::string& path) const {
     return std::make_unique<PosixInputFile>(FileDescriptor(nativePath(path), O_RDONLY));
 }
 
-std::size_t PosixFileSystem::readStart(const std::string& path, std::span<char> out) {
+std::size_t SystemFileSystem::readStart(const std::string& path, std::span<char> out) {
     FileDescriptor file(nativePath(path), O_RDWR | O_CREAT);
     file.regularFileLength();
     return file.readAll(out);
 }
 
-void PosixFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
+std::size_t SystemFileSystem::peekStart(const std::string& path, std::span<char> out) {
+    const FileDescriptor file(nativePath(path), O_RDONLY);
+    file.regularFileLength();
+    return file.readAll(out);
+}
+
+void SystemFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
     FileDescriptor file(nativePath(path), O_RDWR | O_CREAT);
     const std::uint64_t length = file.regularFileLength();
     std::vector<char> before(bytes.size());

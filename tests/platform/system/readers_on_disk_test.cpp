@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "archive/readers.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 #include "support/builders.h"
-#include "support/lock_holder.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 namespace planner::test {
 namespace {
@@ -35,7 +33,7 @@ protected:
     std::int16_t upperBound() const { return archivi.*GetParam().upperBound; }
 
     TempFolder folder;
-    PosixFileSystem files;
+    SystemFileSystem files;
     Archivi archivi;
 };
 
@@ -82,39 +80,6 @@ TEST_P(OpenTableTest, AFolderInItsPlaceIsAnError) {
     EXPECT_THROW(read(), FileError);
 }
 
-TEST_P(OpenTableTest, AFifoInItsPlaceIsAnErrorAndDoesNotHang) {
-    folder.makeFifo(GetParam().name);
-    EXPECT_THROW(read(), FileError);
-}
-
-TEST_P(OpenTableTest, AFileLockedByAnotherProgramIsAnError) {
-    folder.write(GetParam().name, std::string(GetParam().recordLength, 'x'));
-    for (const Lock lock : {Lock::flockExclusive, Lock::recordWrite, Lock::ofdWrite}) {
-        const LockHolder other(folder.path(GetParam().name), lock);
-        EXPECT_THROW(read(), FileError) << static_cast<int>(lock);
-        EXPECT_EQ(upperBound(), 0);
-    }
-    read();
-    EXPECT_EQ(upperBound(), 1);
-}
-
-TEST_P(OpenTableTest, AnotherReadersLockDoesNotMatter) {
-    folder.write(GetParam().name, std::string(GetParam().recordLength, 'x'));
-    for (const Lock lock : {Lock::flockShared, Lock::recordRead}) {
-        const LockHolder other(folder.path(GetParam().name), lock);
-        EXPECT_NO_THROW(read()) << static_cast<int>(lock);
-    }
-}
-
-TEST_P(OpenTableTest, AFileWithoutReadPermissionIsAnError) {
-    if (::geteuid() == 0) {
-        GTEST_SKIP() << "the superuser reads every file";
-    }
-    folder.write(GetParam().name, "x");
-    std::filesystem::permissions(folder.path(GetParam().name), std::filesystem::perms::none);
-    EXPECT_THROW(read(), FileError);
-}
-
 TEST_P(OpenTableTest, OneRecord) {
     readRecords(1);
     EXPECT_EQ(upperBound(), 1);
@@ -147,7 +112,7 @@ protected:
     void read() { readPlannerAnnuale(files, folder.path() + "\\wplanner", archivi); }
 
     TempFolder folder;
-    PosixFileSystem files;
+    SystemFileSystem files;
     Archivi archivi;
 };
 
@@ -165,21 +130,12 @@ TEST_F(YearOnDiskTest, ShortFilesLeaveBlankMonths) {
     EXPECT_EQ(bytesOf(archivi.PlannerAnnuale[11]), std::string(1900, ' '));
 }
 
-TEST_F(YearOnDiskTest, MissingEmptyFolderAndFifoAreErrors) {
+TEST_F(YearOnDiskTest, MissingEmptyAndFolderAreErrors) {
     EXPECT_THROW(read(), FileError);
     folder.write("wplanner", "");
     EXPECT_THROW(read(), FileError);
     std::filesystem::remove(folder.path("wplanner"));
     folder.makeFolder("wplanner");
-    EXPECT_THROW(read(), FileError);
-    std::filesystem::remove(folder.path("wplanner"));
-    folder.makeFifo("wplanner");
-    EXPECT_THROW(read(), FileError);
-}
-
-TEST_F(YearOnDiskTest, ALockedFileIsAnError) {
-    folder.write("wplanner", bytesOf(annoPlanner("2006")));
-    const LockHolder other(folder.path("wplanner"), Lock::flockExclusive);
     EXPECT_THROW(read(), FileError);
 }
 

@@ -6,8 +6,9 @@
 
 namespace planner {
 
-/// The file operations on a POSIX system.
-class PosixFileSystem : public FileSystem {
+/// The file operations on the operating system's own files. Paths are UTF-8 where the system wants
+/// characters.
+class SystemFileSystem : public FileSystem {
 public:
     bool fileExists(const std::string& path) const override;
     bool isMissing(const std::string& path) const override;
@@ -15,9 +16,10 @@ public:
     std::unique_ptr<InputFile> openForReading(const std::string& path) const override;
     std::size_t readStart(const std::string& path, std::span<char> out) override;
     void writeStart(const std::string& path, std::span<const char> bytes) override;
-};
 
-/// The path as the file system wants it: every "\" is a "/".
-std::string nativePath(std::string path);
+    /// Reads from the start of an existing file, locked or not, and never makes one; returns the bytes read.
+    /// Throws FileError.
+    static std::size_t peekStart(const std::string& path, std::span<char> out);
+};
 
 } // namespace planner

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "host/ftavtrmpl.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "support/host_fixture.h"
 #include "support/temp_folder.h"
 
@@ -32,7 +32,7 @@ protected:
     }
 
     TempFolder folder;
-    PosixFileSystem disk;
+    SystemFileSystem disk;
 };
 
 TEST_F(TransitFileTest, AFileOfAnyLengthIsRewrittenFromItsStartWith121Bytes) {
@@ -65,12 +65,6 @@ TEST_F(TransitFileTest, AFolderInItsPlaceIsSaidAndEndsTheConversation) {
     EXPECT_FALSE(runEvents());
     EXPECT_THAT(messageTexts(), ElementsAre(trouble()));
     EXPECT_THAT(journal, ElementsAre("message", "create [EV]", "signal [EV]", "remove [EV]"));
-}
-
-TEST_F(TransitFileTest, AFifoInItsPlaceDoesNotHang) {
-    folder.makeFifo("trans.dat");
-    EXPECT_FALSE(runEvents());
-    EXPECT_THAT(messageTexts(), ElementsAre(trouble()));
 }
 
 TEST_F(TransitFileTest, AMissingFolderIsSaidAndEndsTheConversation) {

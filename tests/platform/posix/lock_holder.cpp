@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "support/lock_holder.h"
+#include "platform/posix/lock_holder.h"
 
 #include <array>
 #include <csignal>
