@@ -1,12 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "TavTermIPC.h"
 #include "ipc_fixture.h"
-
-#include <atomic>
-#include <cerrno>
-#include <thread>
-#include <vector>
 
 namespace planner::ipctest {
 namespace {
@@ -25,26 +19,6 @@ protected:
     Actor planner;
     Actor host;
 };
-
-TEST_F(RemovalTest, LateHostTakesTheLastSignalOnce) {
-    leaveLastSignal();
-    EXPECT_EQ(host.wait("EV"), 1);
-    EXPECT_EQ(eventFiles(), 0);
-    host.beginWait("EV");
-    EXPECT_TRUE(host.isWaiting());
-    ASSERT_EQ(planner.create("EV"), 1);
-    EXPECT_TRUE(host.isWaiting());
-    ASSERT_EQ(planner.set("EV"), 1);
-    EXPECT_EQ(host.result(), 1);
-}
-
-TEST_F(RemovalTest, OnlyOneOfTwoLateHostsTakesTheLastSignal) {
-    Actor other;
-    leaveLastSignal();
-    EXPECT_EQ(host.wait("EV"), 1);
-    other.beginWait("EV");
-    EXPECT_TRUE(other.isWaiting());
-}
 
 TEST_F(RemovalTest, HostThatKnowsTheEventTakesItsLastSignal) {
     ASSERT_EQ(planner.create("EV"), 1);
@@ -112,43 +86,6 @@ TEST_F(RemovalTest, RemoverDoesNotTakeItsOwnLastSignal) {
     EXPECT_EQ(planner.result(), 1);
 }
 
-// Ends with 0 when the wait of a thread, begun before the host's signal or after it, brings what it must.
-int removeBesideASignal() {
-    TvIpcCreazioneEvento("EV");
-    std::atomic<int> taken{0};
-    std::atomic<int> cancelled{0};
-    std::vector<std::thread> waits;
-    for (int i = 0; i < 3; ++i) {
-        waits.emplace_back([&] {
-            const bool done = TvIpcWaitEvento("EV") == 1;
-            taken += done ? 1 : 0;
-            cancelled += !done && errno == ECANCELED ? 1 : 0;
-        });
-    }
-    TvIpcWaitEvento("NOW");
-    TvIpcRimozioneEvento("EV");
-    for (std::thread& wait : waits) {
-        wait.join();
-    }
-    return taken == 1 && cancelled == 2 ? 0 : 1;
-}
-
-// The signals come while the process is stopped: it cannot take the one before it removes the event.
-TEST_F(RemovalTest, WaitOfTheCreatorTakesWhatWasSignalledBeforeTheRemoval) {
-    for (int round = 0; round < 50; ++round) {
-        Child process(removeBesideASignal);
-        ASSERT_TRUE(process.fallsAsleep(4));
-        ASSERT_EQ(host.create("NOW"), 1);
-        process.stop();
-        ASSERT_EQ(host.set("EV"), 1);
-        ASSERT_EQ(host.set("NOW"), 1);
-        process.goOn();
-        EXPECT_EQ(process.exitCode(), 0) << "round " << round;
-        ASSERT_EQ(host.remove("NOW"), 1);
-    }
-    EXPECT_EQ(eventFiles(), 0);
-}
-
 TEST_F(RemovalTest, SameProcessCanCreateAgain) {
     for (int round = 0; round < 3; ++round) {
         ASSERT_EQ(planner.create("EV"), 1);
@@ -177,12 +114,6 @@ TEST_F(RemovalTest, NothingCanBeSignalledAfterARemoval) {
     ASSERT_EQ(planner.remove("EV"), 1);
     EXPECT_EQ(planner.set("EV"), 0);
     EXPECT_EQ(host.set("EV"), 0);
-}
-
-TEST_F(RemovalTest, NothingCanBeSignalledBesideAnUntakenLastSignal) {
-    leaveLastSignal();
-    EXPECT_EQ(host.set("EV"), 0);
-    EXPECT_EQ(host.wait("EV"), 1);
 }
 
 TEST_F(RemovalTest, SignalThatTheCreatorDidNotTakeEndsWithTheEvent) {
