@@ -24,7 +24,7 @@ TempFolder::~TempFolder() {
 }
 
 std::string TempFolder::path(std::string_view name) const {
-    return name.empty() ? m_folder.string() : (m_folder / name).string();
+    return (name.empty() ? m_folder : m_folder / name).generic_string();
 }
 
 void TempFolder::write(std::string_view name, std::string_view bytes) const {

@@ -18,7 +18,7 @@ public:
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::filesystem::path& folder() const { return m_folder; }
-    /// The full path of `name` in the folder; the folder's own path without a name.
+    /// The full path of `name` in the folder, with "/"; the folder's own path without a name.
     std::string path(std::string_view name = {}) const;
 
     void write(std::string_view name, std::string_view bytes) const;

@@ -6,11 +6,11 @@
 #include "planner_host/errors.h"
 #include "planner_host/readable_text.h"
 #include "platform/system/system_file_system.h"
+#include "platform/system/this_process.h"
 #include "ports/runtime_errors.h"
 #include "session/staff.h"
 
 #include <array>
-#include <cstdlib>
 #include <fstream>
 #include <system_error>
 
@@ -72,12 +72,11 @@ void ArchiveFolder::openFolder(const std::filesystem::path& asked) {
 }
 
 void ArchiveFolder::makeTemporaryFolder() {
-    std::error_code error;
-    std::string name = fullPath(std::filesystem::temp_directory_path(error) / "planner-host-XXXXXX").string();
-    if (error || ::mkdtemp(name.data()) == nullptr) {
-        fail(name, "impossibile creare la cartella temporanea");
+    try {
+        m_cartella = fullPath(planner::makeTemporaryFolder("planner-host-"));
+    } catch (const std::filesystem::filesystem_error& error) {
+        fail(error.path1(), "impossibile creare la cartella temporanea");
     }
-    m_cartella = name;
 }
 
 void ArchiveFolder::refuseForeignArchives() const {

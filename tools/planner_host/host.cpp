@@ -8,18 +8,16 @@
 #include "planner_host/polling_conversation.h"
 #include "planner_host/request.h"
 #include "planner_host/transit_file.h"
+#include "platform/system/this_process.h"
 
 #include <ostream>
-#include <unistd.h>
 
 namespace planner {
 
 namespace {
 
 std::filesystem::path plannerBesideThisProgram() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::path("planner") : program.parent_path() / "planner";
+    return programFolder() / "planner";
 }
 
 std::string commandLine(const DatiColloquio& dati) {
@@ -59,7 +57,8 @@ void Host::prepareArchive(int anno) {
 DatiColloquio Host::makeDati() {
     ++m_avviati;
     const bool polling = m_opzioni.modo == Modo::Polling;
-    const std::string unique = "planner-host-" + std::to_string(::getpid()) + "-" + std::to_string(m_avviati);
+    const std::string unique =
+        "planner-host-" + std::to_string(processNumber()) + "-" + std::to_string(m_avviati);
     const std::string evento = m_opzioni.evento.empty() ? unique : m_opzioni.evento;
     return {m_opzioni.planner.empty() ? plannerBesideThisProgram() : m_opzioni.planner,
             m_archivio.cartella() / m_opzioni.transito, m_opzioni.flag, polling ? "NOEVENT" : evento};

@@ -6,10 +6,8 @@
 #include "planner_host/option_table.h"
 #include "platform/system/system_clock.h"
 #include "platform/system/system_file_system.h"
+#include "platform/system/this_process.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <exception>
 #include <iostream>
 
@@ -17,12 +15,8 @@ namespace {
 
 /// What the surroundings lack, for a person who wonders why no window has come; empty when nothing.
 const char* avvisoSchermo() {
-    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    const bool named = std::any_of(names.begin(), names.end(), [](const char* name) {
-        const char* value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    });
-    return named ? "" : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
+    return planner::screenIsNamed() ? ""
+                                    : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
 }
 
 /// Says what is wrong in a host's files; the exit code.
@@ -39,7 +33,9 @@ int esitoControllo(const planner::OpzioniHost& opzioni) {
 int main(int argc, char** argv) {
     using namespace planner;
     try {
-        const std::vector<std::string_view> argomenti(argv + (argc > 0 ? 1 : 0), argv + argc);
+        keepStreamsPlain();
+        const std::vector<std::string> parole = programArguments(argc, argv);
+        const std::vector<std::string_view> argomenti(parole.begin(), parole.end());
         const OpzioniHost opzioni = leggiOpzioni(argomenti, SystemClock().today());
         if (opzioni.aiuto) {
             std::cout << testoAiuto();

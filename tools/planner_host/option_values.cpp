@@ -74,7 +74,8 @@ std::string transitName(std::string_view valore) {
 }
 
 std::filesystem::path folder(std::string_view valore) {
-    if (valore.empty() || valore.find('\\') != std::string_view::npos) {
+    constexpr bool separates = std::filesystem::path::preferred_separator == '\\';
+    if (valore.empty() || (!separates && valore.find('\\') != std::string_view::npos)) {
         refuse(valore, "serve il percorso di una cartella, con \"/\" tra le cartelle");
     }
     return std::filesystem::path(valore);

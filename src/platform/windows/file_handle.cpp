@@ -12,7 +12,7 @@ namespace planner {
 
 namespace {
 
-[[noreturn]] void throwLastError() {
+[[noreturn]] void throwFileError() {
     const DWORD error = ::GetLastError();
     if (error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION) {
         throw FileError("il file è bloccato da un altro programma");
@@ -37,7 +37,7 @@ bool writeAtStart(void* handle, std::span<const char> bytes, DWORD& written) {
 
 FileHandle::FileHandle(const std::string& path, FileUse use) : m_handle(open(path, use)) {
     if (m_handle == INVALID_HANDLE_VALUE) {
-        throwLastError();
+        throwFileError();
     }
     if (::GetFileType(m_handle) != FILE_TYPE_DISK) {
         ::CloseHandle(m_handle);
@@ -57,7 +57,7 @@ FileHandle::FileHandle(FileHandle&& other) noexcept
 std::uint64_t FileHandle::length() const {
     LARGE_INTEGER length{};
     if (::GetFileSizeEx(m_handle, &length) == 0) {
-        throwLastError();
+        throwFileError();
     }
     return static_cast<std::uint64_t>(length.QuadPart);
 }
@@ -68,7 +68,7 @@ std::size_t FileHandle::readAll(std::span<char> out) const {
         const auto rest = out.subspan(total);
         DWORD count = 0;
         if (::ReadFile(m_handle, rest.data(), static_cast<DWORD>(rest.size()), &count, nullptr) == 0) {
-            throwLastError();
+            throwFileError();
         }
         if (count == 0) {
             break;
@@ -81,7 +81,7 @@ std::size_t FileHandle::readAll(std::span<char> out) const {
 void FileHandle::writeAllAtStart(std::span<const char> bytes) const {
     DWORD written = 0;
     if (!writeAtStart(m_handle, bytes, written)) {
-        throwLastError();
+        throwFileError();
     }
     if (written != bytes.size()) {
         throw FileError("scrittura incompleta");
@@ -101,7 +101,7 @@ void FileHandle::putBack(std::span<const char> start, std::uint64_t length) cons
 void FileHandle::syncAndClose() {
     if (::FlushFileBuffers(m_handle) == 0 ||
         ::CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE)) == 0) {
-        throwLastError();
+        throwFileError();
     }
 }
 

@@ -104,7 +104,7 @@ TEST_P(HostConversation, KeepsTheTemporaryFolderWhenAsked) {
 }
 
 TEST_P(HostConversation, WorksInAFolderWithBlanksAndAccents) {
-    const std::string path = (folder() / "studio perché no").string();
+    const std::string path = (folder() / "studio perché no").generic_string();
     const RunResult result =
         hostInMode("DE", {"--archivio", path, "--campione", "--transito", "il transito.dat"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "run_program.h"
+#include "tools/support/run_program.h"
 
 #include <array>
 #include <cerrno>

@@ -13,7 +13,8 @@ struct Run {
     std::string program;
     std::vector<std::string> arguments;
     std::map<std::string, std::string> environment; // on top of this process's
-    std::string interruptAfter; // sends SIGTERM to the program when its output holds this text
+    std::string
+        interruptAfter; // asks the program to end when its output holds this text, where the system can ask
 };
 
 struct RunResult {
