@@ -12,6 +12,9 @@ PACKAGES_PACKAGE="dpkg-dev file git help2man lintian"
 PACKAGES_WINDOWS="g++-mingw-w64-x86-64-posix googletest wine wine64"
 PACKAGES_DISPLAY="poppler-utils procps xvfb openbox xdotool x11-utils strace imagemagick python3-pyatspi orca at-spi2-core dbus-daemon dbus-bin"
 
+# Of the long tests alone.
+PACKAGES_WAYLAND="qt6-wayland weston"
+
 # Installs those of the named packages that are missing, as root or with sudo.
 install_packages() {
     local missing=()

@@ -5,6 +5,7 @@
 #include "archive/readers.h"
 #include "planner_host/errors.h"
 #include "planner_host/readable_text.h"
+#include "platform/system/paths.h"
 #include "platform/system/system_file_system.h"
 #include "platform/system/this_process.h"
 #include "ports/runtime_errors.h"
@@ -24,7 +25,7 @@ constexpr std::string_view NomeContrassegno = "campione.txt";
 constexpr std::array<std::string_view, 4> NomiArchivi{"wrighipl", "wplanner", "wcollab", "wgrafici"};
 
 [[noreturn]] void fail(const std::filesystem::path& path, const std::string& cause) {
-    throw HostError(CodiceUscita::ErroreFile, path.string() + ": " + cause);
+    throw HostError(CodiceUscita::ErroreFile, textOf(path) + ": " + cause);
 }
 
 std::string describe(const OpzioniCampione& opzioni, std::size_t lines) {
@@ -114,7 +115,7 @@ void ArchiveFolder::prepara(int anno) {
 std::string ArchiveFolder::cercaNome(std::string_view codice) const {
     Archivi archivi;
     try {
-        readCollaboratori(SystemFileSystem(), (m_cartella / "wcollab").string(), archivi);
+        readCollaboratori(SystemFileSystem(), textOf(m_cartella / "wcollab"), archivi);
     } catch (const RuntimeError&) {
         return {}; // without a readable staff file nobody has a name
     }

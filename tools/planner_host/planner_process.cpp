@@ -3,6 +3,7 @@
 #include "planner_host/planner_process.h"
 
 #include "planner_host/errors.h"
+#include "platform/system/paths.h"
 
 #include <array>
 #include <system_error>
@@ -24,7 +25,7 @@ ChildProcess start(const std::filesystem::path& programma, const std::vector<std
     try {
         return {programma, argomenti};
     } catch (const std::system_error& error) {
-        throw HostError(CodiceUscita::PlannerFallito, "impossibile avviare il planner " + programma.string() +
+        throw HostError(CodiceUscita::PlannerFallito, "impossibile avviare il planner " + textOf(programma) +
                                                           ": " + causeText(error.code()));
     }
 }

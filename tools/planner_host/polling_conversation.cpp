@@ -4,6 +4,7 @@
 
 #include "planner_host/errors.h"
 #include "planner_host/transit_file.h"
+#include "platform/system/paths.h"
 #include "platform/system/this_process.h"
 
 #include <system_error>
@@ -22,7 +23,7 @@ constexpr std::chrono::milliseconds Controllo{500};
 constexpr std::chrono::seconds AttesaDellaFine{30};
 
 [[noreturn]] void failFile(const std::filesystem::path& path, const std::string& cause) {
-    throw HostError(CodiceUscita::ErroreFile, path.string() + ": " + cause);
+    throw HostError(CodiceUscita::ErroreFile, textOf(path) + ": " + cause);
 }
 
 /// Makes an empty file. Whoever finds it may take it at once: all that it announces must be done before.
@@ -44,11 +45,11 @@ void removeFile(const std::filesystem::path& path) {
 /// The folder, once it is certain that it can be watched.
 std::string watchable(const std::filesystem::path& folder) {
     try {
-        const FolderWatch tried(folder.string());
+        const FolderWatch tried(textOf(folder));
     } catch (const std::system_error& error) {
         failFile(folder, "impossibile sorvegliare la cartella: " + error.code().message());
     }
-    return folder.string();
+    return textOf(folder);
 }
 
 } // namespace
@@ -115,7 +116,7 @@ void provaFlagZero(const DatiColloquio& dati, const Interruzioni& interruzioni) 
     attendi(planner.endWaitable(), NoWaitable, interruzioni, AttesaDellaFine);
     if (!planner.waitForEnd(std::chrono::milliseconds{0}) || std::filesystem::exists(marker)) {
         throw HostError(CodiceUscita::PlannerFallito,
-                        "con il flag 0 il planner doveva togliere " + marker.string() + " e finire");
+                        "con il flag 0 il planner doveva togliere " + textOf(marker) + " e finire");
     }
 }
 

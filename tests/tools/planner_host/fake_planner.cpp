@@ -17,6 +17,7 @@
 #include "TavTermIPC.h"
 #include "fake_planner_system.h"
 #include "host/transit_request.h"
+#include "platform/system/paths.h"
 #include "platform/system/this_process.h"
 
 #include <chrono>
@@ -151,7 +152,7 @@ int main(int argc, char** argv) {
     }
     goBehind();
     endWithStarter();
-    const std::filesystem::path transit = arguments[0];
+    const std::filesystem::path transit = planner::pathOf(arguments[0]);
     Script script{environment("FAKE_PLANNER_SCRIPT")};
     if (arguments[2] != "NOEVENT") {
         return runWithEvent(script, transit, arguments[2].c_str());

@@ -58,13 +58,6 @@ TEST_P(MisbehavingPlanner, ThatCannotBeStartedIsNamed) {
 
 INSTANTIATE_TEST_SUITE_P(Modes, MisbehavingPlanner, testing::Values("evento", "polling"));
 
-TEST_F(HostTest, ASignalThatNobodyCanReceiveIsSaid) {
-    const RunResult result = host("v", {"--collaboratori", "2", "--evento", "prova"});
-    EXPECT_TRUE(result.inTime);
-    EXPECT_EQ(result.exitCode, 3);
-    EXPECT_THAT(result.errors, HasSubstr("impossibile segnalare l'evento \"prova\": nessun planner"));
-}
-
 TEST_F(HostTest, AnEventNameThatIsTooLongIsSaid) {
     const RunResult result = host("w", {"--collaboratori", "2", "--evento", std::string(300, 'n')});
     EXPECT_EQ(result.exitCode, 3);

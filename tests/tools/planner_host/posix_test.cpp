@@ -62,6 +62,13 @@ TEST_F(HostTest, ThePlannersDeathBehindALauncherIsNoticed) {
                 HasSubstr("impossibile aspettare l'evento \"prova\": chi lo ha creato è finito"));
 }
 
+TEST_F(HostTest, ASignalThatNobodyCanReceiveIsSaid) {
+    const RunResult result = host("v", {"--collaboratori", "2", "--evento", "prova"});
+    EXPECT_TRUE(result.inTime);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors, HasSubstr("impossibile segnalare l'evento \"prova\": nessun planner"));
+}
+
 TEST_F(HostTest, AFolderOfEventsThatIsOpenToOthersIsSaid) {
     const std::filesystem::path events = runtimeFolder() / "tavterm-ipc";
     std::filesystem::create_directory(events);
