@@ -21,15 +21,15 @@ std::unique_ptr<ChildProcess> startTest(const std::string& name) {
                                                                    "--gtest_filter=" + name});
 }
 
-TEST(ChildTest, DISABLED_EndsWell) {}
+TEST(ChildProcessTest, DISABLED_EndsWell) {}
 
-TEST(ChildTest, DISABLED_SleepsUntilItIsEnded) {
+TEST(ChildProcessTest, DISABLED_SleepsUntilItIsEnded) {
     const WakeUp never;
     waitForFirst(std::array{never.waitable()}, std::nullopt);
 }
 
 TEST(ChildProcessTest, ItsEndIsAwaitedAndTold) {
-    const auto child = startTest("ChildTest.DISABLED_EndsWell");
+    const auto child = startTest("ChildProcessTest.DISABLED_EndsWell");
     EXPECT_EQ(waitForFirst(std::array{child->waitable()}, EndDeadline), 0U);
     ASSERT_TRUE(child->end());
     EXPECT_EQ(child->end()->number, 0);
@@ -37,7 +37,7 @@ TEST(ChildProcessTest, ItsEndIsAwaitedAndTold) {
 }
 
 TEST(ChildProcessTest, HasNotEndedAsLongAsItRuns) {
-    const auto child = startTest("ChildTest.DISABLED_SleepsUntilItIsEnded");
+    const auto child = startTest("ChildProcessTest.DISABLED_SleepsUntilItIsEnded");
     EXPECT_FALSE(child->end());
     child->kill();
     EXPECT_EQ(waitForFirst(std::array{child->waitable()}, EndDeadline), 0U);
