@@ -29,9 +29,11 @@ if(PLANNER_SANITIZERS)
         -fsanitize=${PLANNER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(planner_options INTERFACE -fsanitize=${PLANNER_SANITIZERS})
 else()
+    target_compile_definitions(planner_options INTERFACE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
+endif()
+if(NOT PLANNER_SANITIZERS AND NOT WIN32)
     target_compile_options(planner_options INTERFACE
         $<$<CONFIG:Release>:-fstack-protector-strong -fcf-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
-    target_compile_definitions(planner_options INTERFACE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
     target_link_options(planner_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now,-z,noexecstack>)
 endif()
 

@@ -9,7 +9,11 @@ PACKAGES_FUZZ="clang libclang-rt-dev llvm"
 PACKAGES_LINT="clang clang-format clang-tidy git pkg-config python3 shellcheck"
 PACKAGES_QT="qt6-base-dev libqt6opengl6-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n fonts-liberation libsm-dev libice-dev libxcb-damage0-dev libxcb-xtest0-dev"
 PACKAGES_PACKAGE="dpkg-dev file git help2man lintian"
+PACKAGES_WINDOWS="g++-mingw-w64-x86-64-posix googletest wine wine64"
 PACKAGES_DISPLAY="poppler-utils procps xvfb openbox xdotool x11-utils strace imagemagick python3-pyatspi orca at-spi2-core dbus-daemon dbus-bin"
+
+# Of the long tests alone.
+PACKAGES_WAYLAND="qt6-wayland weston"
 
 # Installs those of the named packages that are missing, as root or with sudo.
 install_packages() {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "engine/clsplg.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "served_request/quiet_ports.h"
 #include "test_records.h"
 
@@ -56,7 +56,7 @@ private:
     ControlliPlcal m_controls;
     std::vector<Message> m_messages;
     HiddenWindow m_window;
-    PosixFileSystem m_files;
+    SystemFileSystem m_files;
     MessageLog m_boxes{m_messages};
     ImmediateEnd m_events{m_session};
     FixedClock m_clock{*makeDate(ShownYear, ShownMonth, 1)};

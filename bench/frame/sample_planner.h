@@ -3,8 +3,8 @@
 #pragma once
 
 #include "engine/clsplg.h"
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
+#include "platform/system/system_file_system.h"
 #include "ui/planner_windows.h"
 #include "ui/ports/qt_event_pump.h"
 #include "ui/ports/qt_message_boxes.h"
@@ -28,7 +28,7 @@ public:
 private:
     std::unique_ptr<clsplg> newEngine();
 
-    PosixFileSystem m_files;
+    SystemFileSystem m_files;
     SystemClock m_orologio;
     QtMessageBoxes m_messaggi;
     QtEventPump m_eventi;

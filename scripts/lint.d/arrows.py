@@ -9,6 +9,7 @@ from project import ROOT, files, table
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.M)
 ROOTS = [ROOT / "src/core", ROOT / "src", ROOT / "tools", ROOT / "src/platform/ipc"]
+SYSTEM = re.compile(r"(?:sys/\w+|unistd|fcntl|poll|pthread|signal|spawn|windows)\.h")
 TOOLKIT = re.compile(r"\bQt?[A-Z]\w*|\bQt\b|\bQ_[A-Z]+\b")
 
 
@@ -39,6 +40,8 @@ def include_fault(file, bracket, name, reach):
     here = folder_of(file, reach)
     if here is None:
         return "stands in no folder of the table"
+    if bracket == "<" and SYSTEM.fullmatch(name) and not here.startswith("platform/"):
+        return f"<{name}> is a system's: platform/system asks for it"
     if bracket == "<":
         # What the standard library calls its own has no extension and no capital letter.
         return f"<{name}> is not the standard library's" if here.startswith("core") and not re.fullmatch("[a-z_]+", name) else None

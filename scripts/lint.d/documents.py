@@ -12,7 +12,7 @@ LINK = re.compile(r"\[[^\]]*\]\(([^)\s]+)\)")
 NAME = re.compile(r"[A-Za-z_]\w*(?:(?:::|\.)[A-Za-z_]\w*)*(?:\(\))?")
 PATH = re.compile(r"\.?[\w*.-]+(?:/[\w*.-]*)+")
 FOLDERS = ["", "src", "src/core", "docs"]  # what paths in documents are relative to
-OUTSIDE = {"PKG_CONFIG_PATH", "libTavTermIPC.so"}  # names that the sources need not say
+OUTSIDE = {"PKG_CONFIG_PATH", "TavTermIPC.dll", "libTavTermIPC.so"}  # names that the sources need not say
 MADE = ("build/", "demo-out/", "lib/pkgconfig")  # made by building and running
 
 

@@ -19,6 +19,7 @@ from pathlib import Path
 from project import ROOT, glossary
 
 BATCHES = {"ui": ["src/ui", "src/app"], "core": ["src/core"], "system": ["src/platform", "tools"]}
+ELSEWHERE = ROOT / "src/platform/windows"  # compiles for another system alone
 C_FOLDER = ROOT / "src/platform/ipc"
 C_FLAGS = ["-std=c11", "-D_GNU_SOURCE"]
 QT = ["Qt6Widgets", "Qt6PrintSupport", "Qt6Svg"]
@@ -55,7 +56,8 @@ def faults(path, checks, flags):
 
 
 def batch_faults(name, folders, folder, checks, flags):
-    files = sorted(file for part in folders for file in (ROOT / part).rglob("*.cpp"))
+    files = sorted(file for part in folders for file in (ROOT / part).rglob("*.cpp")
+                   if ELSEWHERE not in file.parents)
     found = []
     while files:
         path = folder / f"{name}{len(files)}.cpp"

@@ -10,9 +10,9 @@
 #include "platform/ipc/tavterm_host_ipc.h"
 #include "platform/posix/end_signals.h"
 #include "platform/posix/fault_watch.h"
-#include "platform/posix/posix_file_system.h"
 #include "platform/posix/starter.h"
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
+#include "platform/system/system_file_system.h"
 #include "ui/kit/appearance.h"
 #include "ui/kit/guarded_application.h"
 #include "ui/planner_windows.h"
@@ -59,7 +59,7 @@ struct Legame {
 
     const RigaComando riga;
     SupportLog supporto;
-    PosixFileSystem disco;
+    SystemFileSystem disco;
     FileConDiario files{disco, supporto.diario()};
     QtMessageBoxes finestre;
     MessaggiConDiario messaggi{finestre, supporto.diario()};

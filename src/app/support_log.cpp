@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/support_log.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 
 #include <cstdlib>
-#include <unistd.h>
 
 namespace planner {
 
@@ -13,7 +13,7 @@ namespace {
 
 std::string timeAndProcess() {
     return QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs).toStdString() + " " +
-           std::to_string(::getpid());
+           std::to_string(QCoreApplication::applicationPid());
 }
 
 } // namespace

@@ -32,6 +32,11 @@ bool isAboutScreen(const QMessageLogContext& context) {
            std::string_view(context.category).starts_with("qt.qpa.");
 }
 
+/// The last that a lost Wayland compositor lets the toolkit say: then it ends the process on the spot.
+bool tellsLostCompositor(const QString& text) {
+    return hasScreen() && text.startsWith(QLatin1String("The Wayland connection "));
+}
+
 /// The toolkit tells why there is no screen before it gives up, and then at length what might be done.
 void onMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     const std::string line = text.section(QLatin1Char('\n'), 0, 0).trimmed().toStdString();
@@ -41,6 +46,9 @@ void onMessage(QtMsgType type, const QMessageLogContext& context, const QString&
         theWayOut->noteScreenTrouble(line);
     } else {
         toolkitMessages(type, context, text);
+    }
+    if (theWayOut != nullptr && tellsLostCompositor(text)) {
+        theWayOut->leave();
     }
 }
 

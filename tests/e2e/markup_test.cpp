@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "e2e/support/scenario.h"
+#include "support/fifo.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -15,7 +16,7 @@ namespace {
 class Markup : public Scenario {
 protected:
     Markup() {
-        archivio.folder().makeFifo("f");
+        test::makeFifo(archivio.folder().path("f"));
         const std::string name = "<img src=\"" + archivio.path("f") + "\">";
         archivio.writeStaff(std::vector<std::string>(9, name));
     }

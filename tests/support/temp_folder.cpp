@@ -5,17 +5,17 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <stdlib.h>
-#include <sys/stat.h>
+#include <random>
 
 namespace planner::test {
 
 TempFolder::TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "planner-test-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    m_folder = pattern;
+    std::random_device random;
+    const std::filesystem::path all = std::filesystem::temp_directory_path();
+    do { // until a name is free
+        m_folder = all / ("planner-test-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(m_folder));
+    std::filesystem::permissions(m_folder, std::filesystem::perms::owner_all);
 }
 
 TempFolder::~TempFolder() {
@@ -24,7 +24,7 @@ TempFolder::~TempFolder() {
 }
 
 std::string TempFolder::path(std::string_view name) const {
-    return name.empty() ? m_folder.string() : (m_folder / name).string();
+    return (name.empty() ? m_folder : m_folder / name).generic_string();
 }
 
 void TempFolder::write(std::string_view name, std::string_view bytes) const {
@@ -49,10 +49,6 @@ void TempFolder::writeSparse(std::string_view name, std::uint64_t length) const 
 
 void TempFolder::makeFolder(std::string_view name) const {
     ASSERT_TRUE(std::filesystem::create_directory(path(name)));
-}
-
-void TempFolder::makeFifo(std::string_view name) const {
-    ASSERT_EQ(::mkfifo(path(name).c_str(), 0600), 0);
 }
 
 std::string fileBytes(const std::filesystem::path& path) {

@@ -18,7 +18,7 @@ public:
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::filesystem::path& folder() const { return m_folder; }
-    /// The full path of `name` in the folder; the folder's own path without a name.
+    /// The full path of `name` in the folder, with "/"; the folder's own path without a name.
     std::string path(std::string_view name = {}) const;
 
     void write(std::string_view name, std::string_view bytes) const;
@@ -27,7 +27,6 @@ public:
     /// A file of zero bytes that takes no room on the disk, however long.
     void writeSparse(std::string_view name, std::uint64_t length) const;
     void makeFolder(std::string_view name) const;
-    void makeFifo(std::string_view name) const;
 
 private:
     std::filesystem::path m_folder;

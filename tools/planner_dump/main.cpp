@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "describe.h"
 #include "options.h"
+#include "platform/system/this_process.h"
 #include "served_request/tool.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -24,5 +23,6 @@ void dump(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    return runTool("planner-dump", {argv + std::min(argc, 1), argv + argc}, HelpText, parseOptions, dump);
+    keepStreamsPlain();
+    return runTool("planner-dump", programArguments(argc, argv), HelpText, parseOptions, dump);
 }

@@ -32,7 +32,7 @@ bool readArgument(Options& options, std::string_view argument, ArgumentReader& r
 
 } // namespace
 
-Options parseOptions(std::span<const char* const> arguments) {
+Options parseOptions(std::span<const std::string> arguments) {
     return readArguments<Options>(arguments, readArgument);
 }
 

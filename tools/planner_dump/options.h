@@ -19,7 +19,7 @@ struct Options : CommonOptions {
 };
 
 /// Reads the arguments that follow the program's name. Throws UsageError.
-Options parseOptions(std::span<const char* const> arguments);
+Options parseOptions(std::span<const std::string> arguments);
 
 /// The text of --help.
 extern const char* const HelpText;

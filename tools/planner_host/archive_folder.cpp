@@ -5,12 +5,13 @@
 #include "archive/readers.h"
 #include "planner_host/errors.h"
 #include "planner_host/readable_text.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/paths.h"
+#include "platform/system/system_file_system.h"
+#include "platform/system/this_process.h"
 #include "ports/runtime_errors.h"
 #include "session/staff.h"
 
 #include <array>
-#include <cstdlib>
 #include <fstream>
 #include <system_error>
 
@@ -24,7 +25,7 @@ constexpr std::string_view NomeContrassegno = "campione.txt";
 constexpr std::array<std::string_view, 4> NomiArchivi{"wrighipl", "wplanner", "wcollab", "wgrafici"};
 
 [[noreturn]] void fail(const std::filesystem::path& path, const std::string& cause) {
-    throw HostError(CodiceUscita::ErroreFile, path.string() + ": " + cause);
+    throw HostError(CodiceUscita::ErroreFile, textOf(path) + ": " + cause);
 }
 
 std::string describe(const OpzioniCampione& opzioni, std::size_t lines) {
@@ -72,12 +73,11 @@ void ArchiveFolder::openFolder(const std::filesystem::path& asked) {
 }
 
 void ArchiveFolder::makeTemporaryFolder() {
-    std::error_code error;
-    std::string name = fullPath(std::filesystem::temp_directory_path(error) / "planner-host-XXXXXX").string();
-    if (error || ::mkdtemp(name.data()) == nullptr) {
-        fail(name, "impossibile creare la cartella temporanea");
+    try {
+        m_cartella = fullPath(planner::makeTemporaryFolder("planner-host-"));
+    } catch (const std::filesystem::filesystem_error& error) {
+        fail(error.path1(), "impossibile creare la cartella temporanea");
     }
-    m_cartella = name;
 }
 
 void ArchiveFolder::refuseForeignArchives() const {
@@ -115,7 +115,7 @@ void ArchiveFolder::prepara(int anno) {
 std::string ArchiveFolder::cercaNome(std::string_view codice) const {
     Archivi archivi;
     try {
-        readCollaboratori(PosixFileSystem(), (m_cartella / "wcollab").string(), archivi);
+        readCollaboratori(SystemFileSystem(), textOf(m_cartella / "wcollab"), archivi);
     } catch (const RuntimeError&) {
         return {}; // without a readable staff file nobody has a name
     }

@@ -13,7 +13,7 @@ constexpr std::chrono::seconds TempoDopoChiusura{30};
 } // namespace
 
 void Conversation::chiudi() {
-    attendi(planner().endDescriptor(), NessunDescrittore, interruzioni(), TempoDopoChiusura);
+    attendi(planner().endWaitable(), NoWaitable, interruzioni(), TempoDopoChiusura);
     if (!planner().waitForEnd(std::chrono::milliseconds{0})) {
         throw HostError(CodiceUscita::PlannerFallito, "il planner ha risposto \"E\" ma non finisce");
     }

@@ -5,6 +5,7 @@
 #include "host/transit_request.h"
 #include "planner_host/planner_process.h"
 #include "planner_host/watch.h"
+#include "platform/system/paths.h"
 
 #include <filesystem>
 #include <memory>
@@ -22,7 +23,7 @@ struct DatiColloquio {
 
 /// The arguments that the planner is started with.
 inline std::vector<std::string> argomentiPlanner(const DatiColloquio& dati) {
-    return {dati.transito.string(), std::string(1, dati.flag), dati.evento};
+    return {textOf(dati.transito), std::string(1, dati.flag), dati.evento};
 }
 
 /// One planner, from its start to its end.

@@ -11,7 +11,6 @@
 #include <atomic>
 #include <cerrno>
 #include <string_view>
-#include <sys/eventfd.h>
 #include <system_error>
 #include <thread>
 
@@ -30,17 +29,17 @@ public:
     explicit AttesaEvento(const std::string& evento) : m_state(std::make_shared<State>()) {
         std::thread([state = m_state, evento] {
             state->error = TvIpcWaitEvento(evento.c_str()) == 0 ? errno : 0;
-            ::eventfd_write(state->handle.get(), 1);
+            state->ended.wake();
         }).detach();
     }
 
-    int descriptor() const { return m_state->handle.get(); }
+    Waitable waitable() const { return m_state->ended.waitable(); }
     /// Of the wait that has ended: the error number, 0 for a signal.
     int error() const { return m_state->error; }
 
 private:
     struct State {
-        FileDescriptor handle{::eventfd(0, EFD_CLOEXEC)};
+        WakeUp ended;
         std::atomic<int> error{0};
     };
     std::shared_ptr<State> m_state;
@@ -91,9 +90,9 @@ void EventConversation::announce() {
 
 void EventConversation::waitForAnswer() {
     const AttesaEvento attesa(dati().evento);
-    Sveglia sveglia = attendi(attesa.descriptor(), planner().endDescriptor(), interruzioni());
+    Sveglia sveglia = attendi(attesa.waitable(), planner().endWaitable(), interruzioni());
     if (sveglia == Sveglia::PlannerFinito) {
-        sveglia = attendi(attesa.descriptor(), NessunDescrittore, interruzioni(), TempoUltimaRisposta);
+        sveglia = attendi(attesa.waitable(), NoWaitable, interruzioni(), TempoUltimaRisposta);
     }
     if (sveglia != Sveglia::Pronto) {
         failWithoutAnswer();

@@ -8,22 +8,21 @@
 #include "planner_host/polling_conversation.h"
 #include "planner_host/request.h"
 #include "planner_host/transit_file.h"
+#include "platform/system/paths.h"
+#include "platform/system/this_process.h"
 
 #include <ostream>
-#include <unistd.h>
 
 namespace planner {
 
 namespace {
 
 std::filesystem::path plannerBesideThisProgram() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::path("planner") : program.parent_path() / "planner";
+    return programFolder() / "planner";
 }
 
 std::string commandLine(const DatiColloquio& dati) {
-    std::string text = dati.planner.string();
+    std::string text = textOf(dati.planner);
     for (const std::string& argomento : argomentiPlanner(dati)) {
         text += argomento.find(' ') == std::string::npos ? " " + argomento : " \"" + argomento + "\"";
     }
@@ -52,17 +51,18 @@ void Host::esegui() {
 
 void Host::prepareArchive(int anno) {
     m_archivio.prepara(anno);
-    tell("cartella", m_archivio.cartella().string());
+    tell("cartella", textOf(m_archivio.cartella()));
     tell("archivio", m_archivio.descrizione());
 }
 
 DatiColloquio Host::makeDati() {
     ++m_avviati;
     const bool polling = m_opzioni.modo == Modo::Polling;
-    const std::string unique = "planner-host-" + std::to_string(::getpid()) + "-" + std::to_string(m_avviati);
+    const std::string unique =
+        "planner-host-" + std::to_string(processNumber()) + "-" + std::to_string(m_avviati);
     const std::string evento = m_opzioni.evento.empty() ? unique : m_opzioni.evento;
     return {m_opzioni.planner.empty() ? plannerBesideThisProgram() : m_opzioni.planner,
-            m_archivio.cartella() / m_opzioni.transito, m_opzioni.flag, polling ? "NOEVENT" : evento};
+            m_archivio.cartella() / pathOf(m_opzioni.transito), m_opzioni.flag, polling ? "NOEVENT" : evento};
 }
 
 std::unique_ptr<Conversation> Host::makeConversation(DatiColloquio dati) {

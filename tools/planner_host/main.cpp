@@ -4,12 +4,10 @@
 #include "planner_host/errors.h"
 #include "planner_host/host.h"
 #include "planner_host/option_table.h"
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
+#include "platform/system/system_file_system.h"
+#include "platform/system/this_process.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <exception>
 #include <iostream>
 
@@ -17,17 +15,13 @@ namespace {
 
 /// What the surroundings lack, for a person who wonders why no window has come; empty when nothing.
 const char* avvisoSchermo() {
-    constexpr std::array names{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    const bool named = std::any_of(names.begin(), names.end(), [](const char* name) {
-        const char* value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    });
-    return named ? "" : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
+    return planner::screenIsNamed() ? ""
+                                    : "Manca lo schermo: né DISPLAY né WAYLAND_DISPLAY sono impostate.\n";
 }
 
 /// Says what is wrong in a host's files; the exit code.
 int esitoControllo(const planner::OpzioniHost& opzioni) {
-    const planner::Rilievi rilievi = controllaCartella(planner::PosixFileSystem(), opzioni.daControllare,
+    const planner::Rilievi rilievi = controllaCartella(planner::SystemFileSystem(), opzioni.daControllare,
                                                        opzioni.transito, planner::SystemClock().today());
     std::cout << rilievi.testo() << (rilievi.empty() ? "non c'è nulla di sbagliato\n" : "");
     return static_cast<int>(rilievi.empty() ? planner::CodiceUscita::Riuscito
@@ -39,7 +33,9 @@ int esitoControllo(const planner::OpzioniHost& opzioni) {
 int main(int argc, char** argv) {
     using namespace planner;
     try {
-        const std::vector<std::string_view> argomenti(argv + (argc > 0 ? 1 : 0), argv + argc);
+        keepStreamsPlain();
+        const std::vector<std::string> parole = programArguments(argc, argv);
+        const std::vector<std::string_view> argomenti(parole.begin(), parole.end());
         const OpzioniHost opzioni = leggiOpzioni(argomenti, SystemClock().today());
         if (opzioni.aiuto) {
             std::cout << testoAiuto();

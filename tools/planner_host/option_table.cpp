@@ -3,6 +3,7 @@
 #include "planner_host/option_table.h"
 
 #include "planner_host/option_values.h"
+#include "platform/system/paths.h"
 
 #include <algorithm>
 #include <array>
@@ -106,7 +107,7 @@ constexpr std::array Tabella{
                 [](OpzioniHost& o, std::string_view v) { o.flag = oneCharacter(v); }},
     OpzioneRiga{Colloquio, "planner", "FILE",
                 "il programma da avviare (normale: planner, accanto a planner-host)",
-                [](OpzioniHost& o, std::string_view v) { o.planner = std::filesystem::path(v); }},
+                [](OpzioniHost& o, std::string_view v) { o.planner = pathOf(v); }},
     OpzioneRiga{Colloquio, "risposte", "N",
                 "finisce dopo N risposte di ciascun planner, anche se nessuna è \"E\"",
                 [](OpzioniHost& o, std::string_view v) { o.risposte = number(v, 1, 1'000'000); }},

@@ -3,6 +3,7 @@
 #include "planner_host/option_values.h"
 
 #include "planner_host/errors.h"
+#include "platform/system/paths.h"
 #include "sample_archive/cp1252_from_utf8.h"
 
 #include <algorithm>
@@ -74,10 +75,11 @@ std::string transitName(std::string_view valore) {
 }
 
 std::filesystem::path folder(std::string_view valore) {
-    if (valore.empty() || valore.find('\\') != std::string_view::npos) {
+    constexpr bool separates = std::filesystem::path::preferred_separator == '\\';
+    if (valore.empty() || (!separates && valore.find('\\') != std::string_view::npos)) {
         refuse(valore, "serve il percorso di una cartella, con \"/\" tra le cartelle");
     }
-    return std::filesystem::path(valore);
+    return pathOf(valore);
 }
 
 } // namespace planner::option_values

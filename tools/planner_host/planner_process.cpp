@@ -3,18 +3,10 @@
 #include "planner_host/planner_process.h"
 
 #include "planner_host/errors.h"
+#include "platform/system/paths.h"
 
-#include <cerrno>
-#include <csignal>
-#include <fcntl.h>
-#include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
+#include <array>
 #include <system_error>
-
-extern "C" { // this header of some C libraries does not say so itself
-#include <sys/pidfd.h>
-}
 
 namespace planner {
 
@@ -22,110 +14,55 @@ namespace {
 
 constexpr std::chrono::milliseconds TempoPerFinire{5000};
 
-std::string causeText(int error) {
-    switch (error) {
-    case ENOENT:
+std::string causeText(const std::error_code& error) {
+    if (error == std::errc::no_such_file_or_directory) {
         return "il file non c'è";
-    case EACCES:
-        return "il file non si può eseguire";
-    default:
-        return std::generic_category().message(error);
     }
+    return error == std::errc::permission_denied ? "il file non si può eseguire" : error.message();
 }
 
-/// The host keeps the signals that interrupt it blocked; the planner must not inherit that.
-class SpawnAttributes {
-public:
-    SpawnAttributes() {
-        sigset_t none;
-        sigemptyset(&none);
-        ::posix_spawnattr_init(&m_attributes);
-        ::posix_spawnattr_setsigmask(&m_attributes, &none);
-        ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGMASK);
+ChildProcess start(const std::filesystem::path& programma, const std::vector<std::string>& argomenti) {
+    try {
+        return {programma, argomenti};
+    } catch (const std::system_error& error) {
+        throw HostError(CodiceUscita::PlannerFallito, "impossibile avviare il planner " + textOf(programma) +
+                                                          ": " + causeText(error.code()));
     }
-    ~SpawnAttributes() { ::posix_spawnattr_destroy(&m_attributes); }
-    SpawnAttributes(const SpawnAttributes&) = delete;
-    SpawnAttributes& operator=(const SpawnAttributes&) = delete;
-
-    const posix_spawnattr_t* get() const { return &m_attributes; }
-
-private:
-    posix_spawnattr_t m_attributes;
-};
+}
 
 } // namespace
 
 PlannerProcess::PlannerProcess(const std::filesystem::path& programma,
-                               const std::vector<std::string>& argomenti) {
-    std::vector<std::string> texts{programma.string()};
-    texts.insert(texts.end(), argomenti.begin(), argomenti.end());
-    std::vector<char*> pointers;
-    pointers.reserve(texts.size() + 1);
-    for (std::string& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    const int error = ::posix_spawn(&m_pid, texts.front().c_str(), nullptr, SpawnAttributes().get(),
-                                    pointers.data(), environ);
-    if (error != 0) {
-        throw HostError(CodiceUscita::PlannerFallito,
-                        "impossibile avviare il planner " + texts.front() + ": " + causeText(error));
-    }
-    m_handle = FileDescriptor(::pidfd_open(m_pid, 0));
-    if (m_handle.get() < 0) {
-        const int cause = errno;
-        ::kill(m_pid, SIGKILL);
-        ::waitpid(m_pid, nullptr, 0);
-        throw HostError(CodiceUscita::PlannerFallito,
-                        "impossibile seguire il planner avviato: " + causeText(cause));
-    }
-}
+                               const std::vector<std::string>& argomenti)
+    : m_process(start(programma, argomenti)) {}
 
 PlannerProcess::~PlannerProcess() {
     terminate();
 }
 
 bool PlannerProcess::waitForEnd(std::chrono::milliseconds limit) {
-    if (m_ended) {
-        return true;
-    }
-    const auto until = std::chrono::steady_clock::now() + limit;
-    int ready = 0;
-    do {
-        const auto rest =
-            std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
-        pollfd watched{m_handle.get(), POLLIN, 0};
-        ready = ::poll(&watched, 1, static_cast<int>(std::max(rest, std::chrono::milliseconds{0}).count()));
-    } while (ready < 0 && errno == EINTR);
-    if (ready > 0) {
-        reap();
-    }
-    return m_ended;
-}
-
-void PlannerProcess::reap() {
-    siginfo_t info{};
-    if (::waitid(P_PIDFD, static_cast<id_t>(m_handle.get()), &info, WEXITED) == 0) {
-        m_ended = true;
-        m_signalled = info.si_code != CLD_EXITED;
-        m_status = info.si_status;
-    }
+    waitForFirst(std::array{m_process.waitable()}, limit);
+    return m_process.end().has_value();
 }
 
 void PlannerProcess::terminate() {
     if (waitForEnd(std::chrono::milliseconds{0})) {
         return;
     }
-    ::pidfd_send_signal(m_handle.get(), SIGTERM, nullptr, 0);
-    if (!waitForEnd(TempoPerFinire)) {
-        ::pidfd_send_signal(m_handle.get(), SIGKILL, nullptr, 0);
+    if (!m_process.askToEnd() || !waitForEnd(TempoPerFinire)) {
+        m_process.kill();
         waitForEnd(TempoPerFinire);
     }
 }
 
-std::string PlannerProcess::descriviFine() const {
-    return m_signalled ? "chiuso dal segnale " + std::to_string(m_status)
-                       : "codice d'uscita " + std::to_string(m_status);
+bool PlannerProcess::endedWell() {
+    const auto& end = m_process.end();
+    return end && end->number == 0 && !end->signalled;
+}
+
+std::string PlannerProcess::descriviFine() {
+    const ProcessEnd end = m_process.end().value_or(ProcessEnd{0, false});
+    return (end.signalled ? "chiuso dal segnale " : "codice d'uscita ") + std::to_string(end.number);
 }
 
 } // namespace planner

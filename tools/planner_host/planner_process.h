@@ -2,17 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/posix/file_descriptor.h"
+#include "platform/system/child_process.h"
 
 #include <chrono>
-#include <filesystem>
 #include <string>
-#include <sys/types.h>
-#include <vector>
 
 namespace planner {
 
-/// The planner as a child process. Only this process is ever signalled, and only as long as it runs.
+/// The planner as a child process. Only this process is ever ended, and only as long as it runs.
 class PlannerProcess {
 public:
     /// Starts the program. Throws HostError with exit code 2 when it cannot be started.
@@ -22,26 +19,20 @@ public:
     PlannerProcess(const PlannerProcess&) = delete;
     PlannerProcess& operator=(const PlannerProcess&) = delete;
 
-    /// Becomes readable when the planner has ended.
-    int endDescriptor() const { return m_handle.get(); }
+    /// Becomes ready when the planner has ended.
+    Waitable endWaitable() const { return m_process.waitable(); }
     /// Waits for the planner's end; false when it still runs after that time.
     bool waitForEnd(std::chrono::milliseconds limit);
     /// Asks the planner to end, and kills it if it does not.
     void terminate();
 
     /// True when the planner has ended with exit code 0.
-    bool endedWell() const { return m_ended && m_status == 0 && !m_signalled; }
+    bool endedWell();
     /// How the planner ended, in Italian.
-    std::string descriviFine() const;
+    std::string descriviFine();
 
 private:
-    void reap();
-
-    pid_t m_pid = -1;
-    FileDescriptor m_handle;
-    bool m_ended = false;
-    bool m_signalled = false;
-    int m_status = 0; // exit code or signal number
+    ChildProcess m_process;
 };
 
 } // namespace planner

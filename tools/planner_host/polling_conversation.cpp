@@ -4,11 +4,9 @@
 
 #include "planner_host/errors.h"
 #include "planner_host/transit_file.h"
+#include "platform/system/paths.h"
+#include "platform/system/this_process.h"
 
-#include <array>
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/inotify.h>
 #include <system_error>
 
 namespace planner {
@@ -25,17 +23,17 @@ constexpr std::chrono::milliseconds Controllo{500};
 constexpr std::chrono::seconds AttesaDellaFine{30};
 
 [[noreturn]] void failFile(const std::filesystem::path& path, const std::string& cause) {
-    throw HostError(CodiceUscita::ErroreFile, path.string() + ": " + cause);
+    throw HostError(CodiceUscita::ErroreFile, textOf(path) + ": " + cause);
 }
 
 /// Makes an empty file. Whoever finds it may take it at once: all that it announces must be done before.
 void createFile(const std::filesystem::path& path) {
-    const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    if (file.get() < 0 && errno == EEXIST) {
+    const std::error_code error = createNewFile(path);
+    if (error == std::errc::file_exists) {
         failFile(path, "il file c'è già, di un'altra richiesta o di un planner finito male");
     }
-    if (file.get() < 0) {
-        failFile(path, std::generic_category().message(errno));
+    if (error) {
+        failFile(path, error.message());
     }
 }
 
@@ -44,17 +42,22 @@ void removeFile(const std::filesystem::path& path) {
     std::filesystem::remove(path, ignored);
 }
 
+/// The folder, once it is certain that it can be watched.
+std::string watchable(const std::filesystem::path& folder) {
+    try {
+        const FolderWatch tried(textOf(folder));
+    } catch (const std::system_error& error) {
+        failFile(folder, "impossibile sorvegliare la cartella: " + error.code().message());
+    }
+    return textOf(folder);
+}
+
 } // namespace
 
 PollingConversation::PollingConversation(DatiColloquio dati, const Interruzioni& interruzioni)
     : Conversation(std::move(dati), interruzioni),
       m_marker(this->dati().transito.parent_path() / NomeRichiesta),
-      m_watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
-    const std::filesystem::path folder = m_marker.parent_path();
-    if (::inotify_add_watch(m_watch.get(), folder.c_str(), IN_DELETE | IN_MOVED_FROM) < 0) {
-        failFile(folder, "impossibile sorvegliare la cartella: " + std::generic_category().message(errno));
-    }
-}
+      m_watch(watchable(m_marker.parent_path())) {}
 
 TransitRequest PollingConversation::chiedi(const TransitRequest& richiesta) {
     if (markerExists()) {
@@ -80,14 +83,13 @@ void PollingConversation::createMarker() {
 
 void PollingConversation::waitForRemoval() {
     while (markerExists()) {
-        const Sveglia sveglia = attendi(m_watch.get(), planner().endDescriptor(), interruzioni(), Controllo);
+        const Sveglia sveglia =
+            attendi(m_watch.waitable(), planner().endWaitable(), interruzioni(), Controllo);
         if (sveglia == Sveglia::PlannerFinito && markerExists()) {
             removeFile(m_marker);
             failWithoutAnswer();
         }
-        std::array<char, 4096> news{};
-        while (::read(m_watch.get(), news.data(), news.size()) > 0) {
-        }
+        m_watch.forget();
     }
 }
 
@@ -100,7 +102,7 @@ void PollingConversation::congeda() {
     // A marker without a transit file is how a host sends a planner away.
     removeFile(dati().transito);
     createFile(m_marker);
-    attendi(planner().endDescriptor(), NessunDescrittore, interruzioni(), AttesaDellaFine);
+    attendi(planner().endWaitable(), NoWaitable, interruzioni(), AttesaDellaFine);
     removeFile(m_marker);
     planner().terminate();
 }
@@ -111,10 +113,10 @@ void provaFlagZero(const DatiColloquio& dati, const Interruzioni& interruzioni) 
         createFile(marker);
     }
     PlannerProcess planner(dati.planner, argomentiPlanner(dati));
-    attendi(planner.endDescriptor(), NessunDescrittore, interruzioni, AttesaDellaFine);
+    attendi(planner.endWaitable(), NoWaitable, interruzioni, AttesaDellaFine);
     if (!planner.waitForEnd(std::chrono::milliseconds{0}) || std::filesystem::exists(marker)) {
         throw HostError(CodiceUscita::PlannerFallito,
-                        "con il flag 0 il planner doveva togliere " + marker.string() + " e finire");
+                        "con il flag 0 il planner doveva togliere " + textOf(marker) + " e finire");
     }
 }
 

@@ -22,7 +22,7 @@ private:
     bool markerExists() const;
 
     std::filesystem::path m_marker;
-    FileDescriptor m_watch; // tells of files that leave the folder
+    FolderWatch m_watch; // tells of files that leave the folder
 };
 
 /// Starts the planner with flag "0": it removes the marker TvPlaOK.lck, which is made here first, and ends

@@ -3,7 +3,8 @@
 #include "planner_host/transit_file.h"
 
 #include "planner_host/errors.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/paths.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 
 namespace planner {
@@ -11,15 +12,15 @@ namespace planner {
 namespace {
 
 [[noreturn]] void fail(const std::filesystem::path& path, const std::string& cause) {
-    throw HostError(CodiceUscita::ErroreFile, "file di transito " + path.string() + ": " + cause);
+    throw HostError(CodiceUscita::ErroreFile, "file di transito " + textOf(path) + ": " + cause);
 }
 
 } // namespace
 
 void scriviTransito(const std::filesystem::path& path, const TransitRequest& richiesta) {
     try {
-        PosixFileSystem().writeStart(path.string(),
-                                     {reinterpret_cast<const char*>(&richiesta), sizeof richiesta});
+        SystemFileSystem().writeStart(textOf(path),
+                                      {reinterpret_cast<const char*>(&richiesta), sizeof richiesta});
     } catch (const FileError& error) {
         fail(path, error.what());
     }
@@ -29,7 +30,7 @@ TransitRequest leggiTransito(const std::filesystem::path& path) {
     TransitRequest risposta;
     std::size_t count = 0;
     try {
-        const auto file = PosixFileSystem().openForReading(path.string());
+        const auto file = SystemFileSystem().openForReading(textOf(path));
         count = file->read({reinterpret_cast<char*>(&risposta), sizeof risposta});
     } catch (const FileError& error) {
         fail(path, error.what());

@@ -2,34 +2,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/posix/file_descriptor.h"
-
-#include <chrono>
-#include <optional>
+#include "platform/system/waiting.h"
 
 namespace planner {
 
-/// Turns the signals that would end the host into something to wait for, so that it can end the planner and
-/// remove its temporary folder first. Blocks them in the calling thread and the threads made afterwards.
+/// Turns what would end the host into something to wait for, so that it can end the planner and remove its
+/// temporary folder first. To be made before any thread.
 class Interruzioni {
 public:
-    Interruzioni();
-    int descriptor() const { return m_handle.get(); }
+    Waitable waitable() const { return m_wishes.waitable(); }
     /// Throws HostError with exit code 128 + signal when a signal has come.
     void check() const;
 
 private:
-    FileDescriptor m_handle;
+    EndWishes m_wishes;
 };
 
 enum class Sveglia { Pronto, PlannerFinito, TempoScaduto };
 
-inline constexpr int NessunDescrittore = -1;
-
-/// Sleeps until `descriptor` is readable, `fine` (a planner's end) is, or the time is over (no limit when
-/// there is none); the first of these that holds, in this order. Throws HostError when the host is
-/// interrupted.
-Sveglia attendi(int descriptor, int fine, const Interruzioni& interruzioni,
+/// Sleeps until `atteso` is ready, `fine` (a planner's end) is, or the time is over (no limit when there is
+/// none); the first of these that holds, in this order. Throws HostError when the host is interrupted.
+Sveglia attendi(Waitable atteso, Waitable fine, const Interruzioni& interruzioni,
                 std::optional<std::chrono::milliseconds> limit = std::nullopt);
 
 } // namespace planner

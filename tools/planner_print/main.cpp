@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "options.h"
+#include "platform/system/this_process.h"
 #include "served_request/in_quotes.h"
 #include "served_request/tool.h"
 #include "ui/kit/appearance.h"
@@ -9,8 +10,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QLoggingCategory>
-
-#include <algorithm>
 
 namespace {
 
@@ -63,5 +62,5 @@ void printPlanner(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    return runTool(Program, {argv + std::min(argc, 1), argv + argc}, HelpText, parseOptions, printPlanner);
+    return runTool(Program, programArguments(argc, argv), HelpText, parseOptions, printPlanner);
 }

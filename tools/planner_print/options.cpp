@@ -36,7 +36,7 @@ bool readArgument(Options& options, std::string_view argument, ArgumentReader& r
 
 } // namespace
 
-Options parseOptions(std::span<const char* const> arguments) {
+Options parseOptions(std::span<const std::string> arguments) {
     Options options = readArguments<Options>(arguments, readArgument);
     if (!options.help && options.outputPath.empty()) {
         throw UsageError("manca il file da scrivere: --pdf FILE o --png FILE");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sample_archive/sample_archive.h"
 
+#include "platform/system/paths.h"
 #include "ports/runtime_errors.h"
 #include "sample_archive/hours.h"
 #include "sample_archive/lines.h"
@@ -21,7 +22,7 @@ void writeRecords(const std::filesystem::path& path, const std::vector<Record>& 
                static_cast<std::streamsize>(records.size() * sizeof(Record)));
     file.close();
     if (!file) {
-        throw FileError("impossibile scrivere il file " + path.string());
+        throw FileError("impossibile scrivere il file " + textOf(path));
     }
 }
 

@@ -27,7 +27,7 @@ inline constexpr int ExitUsage = 2;
 /// Takes the arguments one by one.
 class ArgumentReader {
 public:
-    explicit ArgumentReader(std::span<const char* const> arguments) : m_rest(arguments) {}
+    explicit ArgumentReader(std::span<const std::string> arguments) : m_rest(arguments) {}
 
     bool done() const { return m_rest.empty(); }
     /// There must be one.
@@ -36,7 +36,7 @@ public:
     std::string_view valueOf(const char* missing);
 
 private:
-    std::span<const char* const> m_rest;
+    std::span<const std::string> m_rest;
 };
 
 /// What every such tool may be asked.
@@ -56,7 +56,7 @@ void requireTransitFile(const CommonOptions& options);
 /// Reads the arguments that follow the program's name. `readOwn` takes an option of the tool's own, and
 /// returns false for any other argument. Throws UsageError.
 template <typename Options, typename ReadOwn>
-Options readArguments(std::span<const char* const> arguments, ReadOwn readOwn) {
+Options readArguments(std::span<const std::string> arguments, ReadOwn readOwn) {
     Options options;
     ArgumentReader reader(arguments);
     while (!reader.done()) {

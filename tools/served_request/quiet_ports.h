@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/clock.h"
 #include "ports/event_pump.h"
 #include "ports/message_boxes.h"
@@ -63,7 +63,7 @@ public:
 private:
     [[noreturn]] static void refuse() { throw FileError("i file si possono soltanto leggere"); }
 
-    PosixFileSystem m_files;
+    SystemFileSystem m_files;
 };
 
 /// A day that stays the same.

@@ -4,13 +4,12 @@
 
 #include "engine/clsplg.h"
 #include "forms/plfgraf/visualizza_grafico.h"
-#include "platform/posix/file_descriptor.h"
+#include "platform/system/system_file_system.h"
 #include "ports/guard.h"
 #include "served_request/quiet_ports.h"
 
 #include <array>
 #include <bit>
-#include <fcntl.h>
 
 namespace planner {
 
@@ -43,9 +42,7 @@ void openChart(clsplg& engine, IndiceCollaboratore collab, MessageBoxes& message
 TransitRequest readTransitFile(const std::string& path) {
     std::array<char, sizeof(TransitRequest)> bytes;
     bytes.fill(' ');
-    const FileDescriptor file(nativePath(path), O_RDONLY);
-    file.regularFileLength();
-    file.readAll(bytes);
+    SystemFileSystem::peekStart(path, bytes);
     return std::bit_cast<TransitRequest>(bytes);
 }
 

@@ -3,7 +3,7 @@
 #include "served_request/tool.h"
 
 #include "host/command_line.h"
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
 #include "ports/runtime_errors.h"
 #include "served_request/in_quotes.h"
 

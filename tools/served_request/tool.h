@@ -27,7 +27,7 @@ Data todayOf(const CommonOptions& options);
 /// Reads the arguments and has `work` done with them, unless help is wanted; whatever fails is said. Returns
 /// the exit code.
 template <typename Parse, typename Work>
-int runTool(const std::string& tool, std::span<const char* const> arguments, const char* help, Parse parse,
+int runTool(const std::string& tool, std::span<const std::string> arguments, const char* help, Parse parse,
             Work work) {
     try {
         const auto options = parse(arguments);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
 
 #include <ctime>
 

@@ -34,7 +34,9 @@ protected:
     std::chrono::milliseconds pausedFor() const {
         return std::accumulate(eventi.pauses.begin(), eventi.pauses.end(), std::chrono::milliseconds{0});
     }
-    long calls(const std::string& entry) const { return std::count(journal.begin(), journal.end(), entry); }
+    std::ptrdiff_t calls(const std::string& entry) const {
+        return std::count(journal.begin(), journal.end(), entry);
+    }
 };
 
 TEST_F(EventTroubleTest, ANameThatAnotherPlannerOwnsIsTriedForTwoSecondsThenSaid) {

@@ -8,7 +8,7 @@
 #include "host/event_conversation.h"
 #include "host/ftavtrmpl.h"
 #include "platform/ipc/tavterm_host_ipc.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "support/fakes.h"
 
 #include <cstdlib>
@@ -48,7 +48,7 @@ bool serve(const std::string& commandLine) {
     RecordingTimer timer(journal);
     WakeUps events;
     TavTermHostIpc ipc(events);
-    PosixFileSystem files;
+    SystemFileSystem files;
     mtavtrmpl link(line, {files, messages}, [&journal] {
         return std::make_unique<FakeMotore>(journal, [&journal](WPlannerCall& call) {
             journal.clear(); // however many requests come

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "platform/posix/end_signals.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 #include "support/in_child.h"
 #include "support/temp_folder.h"
@@ -67,7 +67,7 @@ int writeBeyondLimit(const std::string& path) {
         ::setrlimit(RLIMIT_FSIZE, &tenBytes);
         int code = 1;
         try {
-            PosixFileSystem().writeStart(path, std::string(121, 'x'));
+            SystemFileSystem().writeStart(path, std::string(121, 'x'));
         } catch (const FileError&) {
             code = 0;
         }

@@ -3,7 +3,7 @@
 #include "fault.h"
 #include "platform/posix/end_signals.h"
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "ports/runtime_errors.h"
 #include "support/temp_folder.h"
 
@@ -44,7 +44,7 @@ protected:
     static std::string wordsOf(int error) { return std::generic_category().message(error); }
 
     TempFolder folder;
-    PosixFileSystem files;
+    SystemFileSystem files;
     std::string path = folder.path("file");
 };
 

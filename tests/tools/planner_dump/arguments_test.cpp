@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
-#include "platform/posix/system_clock.h"
+#include "platform/system/system_clock.h"
 #include "session/dates.h"
 #include "small_office.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 namespace planner::test {
 
@@ -69,7 +67,7 @@ TEST(DumpArguments, BackslashesAndDoubledSeparatorsReachTheSameFile) {
     const SmallOffice office;
     office.write();
     std::string path = office.transitPath();
-    path.replace(path.rfind('/'), 1, "\\\\");
+    path.replace(path.find_last_of("/\\"), 1, "\\\\");
     const DumpRun run = runDump({path, "--oggi", "20251120"});
     ASSERT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(run.json().at("richiesta").at("riservato1"), "HOST0001");
@@ -83,15 +81,6 @@ TEST(DumpArguments, TodayIsTheSystemsUnlessGiven) {
     const std::string after = formatDate(SystemClock().today());
     std::erase(shown, '-');
     EXPECT_TRUE(shown == before || shown == after) << shown;
-}
-
-TEST(DumpArguments, OutputThatCannotBeWrittenIsAnError) {
-    const SmallOffice office;
-    office.write();
-    const std::string command =
-        std::string(PLANNER_DUMP) + " " + office.transitPath() + " >/dev/full 2>/dev/null";
-    const int status = std::system(command.c_str());
-    EXPECT_EQ(WEXITSTATUS(status), 1);
 }
 
 } // namespace planner::test

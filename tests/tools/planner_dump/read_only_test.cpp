@@ -17,7 +17,8 @@ struct FileState {
 
 /// Every file of a folder, and the folder itself under the name ".".
 std::map<std::string, FileState> stateOf(const std::filesystem::path& folder) {
-    std::map<std::string, FileState> state{{".", {"", std::filesystem::last_write_time(folder)}}};
+    std::error_code unknown; // not every system says it of a folder
+    std::map<std::string, FileState> state{{".", {"", std::filesystem::last_write_time(folder, unknown)}}};
     for (const auto& each : std::filesystem::directory_iterator(folder)) {
         state[each.path().filename().string()] = {fileBytes(each.path()), each.last_write_time()};
     }

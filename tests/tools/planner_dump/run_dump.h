@@ -12,7 +12,7 @@ using Json = nlohmann::ordered_json;
 
 /// What a run of planner-dump left behind.
 struct DumpRun {
-    int exitCode; // -1 when it did not end by itself
+    int exitCode; // 128 + n when signal n ended it
     std::string out;
     std::string err;
 

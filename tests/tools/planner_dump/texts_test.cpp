@@ -68,16 +68,4 @@ TEST(DumpTexts, RequestOfForeignBytesIsStillUtf8) {
     EXPECT_TRUE(dump.at("griglia").is_null());
 }
 
-TEST(DumpTexts, AFolderNameOfAnyBytesBreaksNothing) {
-    SmallOffice office;
-    office.write();
-    const std::string folder = office.folder() + "archivi \xFF\xE8/";
-    std::filesystem::create_directory(folder);
-    std::filesystem::copy_file(office.transitPath(), folder + "transito");
-    const DumpRun run = runDump({folder + "transito", "--oggi", "20251120"});
-    ASSERT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(run.json().at("messaggi").at(0).at("testo"),
-              "Errore su File :" + office.folder() + "archivi \uFFFD\uFFFD/\\wrighipl");
-}
-
 } // namespace planner::test

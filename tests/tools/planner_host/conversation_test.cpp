@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "host_fixture.h"
+#include "platform/system/paths.h"
 
 #include <gmock/gmock.h>
 
@@ -104,12 +105,12 @@ TEST_P(HostConversation, KeepsTheTemporaryFolderWhenAsked) {
 }
 
 TEST_P(HostConversation, WorksInAFolderWithBlanksAndAccents) {
-    const std::string path = (folder() / "studio perché no").string();
+    const std::string path = folder().generic_string() + "/studio perché no";
     const RunResult result =
         hostInMode("DE", {"--archivio", path, "--campione", "--transito", "il transito.dat"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_EQ(diary().size(), 2u);
-    EXPECT_EQ(std::filesystem::file_size(std::filesystem::path(path) / "il transito.dat"), 121u);
+    EXPECT_EQ(std::filesystem::file_size(pathOf(path) / "il transito.dat"), 121u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, HostConversation, testing::Values("evento", "polling"));

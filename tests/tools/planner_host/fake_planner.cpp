@@ -12,25 +12,25 @@
 //                          k  is killed, without an answer
 //                          v  answers "D", removes its event, and gives no further answer
 //                          w  says "waiting" and gives no answer; says "ended gently" when asked to end
-//   FAKE_PLANNER_BEHIND  when set, a child plays the planner, and this process lives on when the child is
-//   gone FAKE_PLANNER_DIARY   a file that gets one line per request
+//   FAKE_PLANNER_BEHIND  when set, a child plays the planner, and this process lives on when it is gone
+//   FAKE_PLANNER_DIARY   a file that gets one line per request
 #include "TavTermIPC.h"
+#include "fake_planner_system.h"
 #include "host/transit_request.h"
+#include "platform/system/paths.h"
+#include "platform/system/this_process.h"
 
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <string>
-#include <sys/prctl.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 
 using planner::TransitRequest;
+using namespace planner::toolstest;
 
 constexpr int UsageExit = 64;
 constexpr int DiesExit = 9;
@@ -86,19 +86,6 @@ void answer(TransitRequest& record, char letter) {
         letter == 'x' ? "no answer!?" : day + record.collab.text() + static_cast<char>(std::toupper(letter)));
 }
 
-void endGently(int) {
-    constexpr std::string_view text = "ended gently\n";
-    std::_Exit(::write(STDOUT_FILENO, text.data(), text.size()) < 0 ? 1 : 0);
-}
-
-[[noreturn]] void waitForEver() {
-    std::signal(SIGTERM, endGently);
-    std::cout << "waiting" << std::endl;
-    for (;;) {
-        ::pause();
-    }
-}
-
 /// Serves the request in the transit file; false when the planner has to end.
 bool serve(Script& script, const std::filesystem::path& transit, int& exitCode) {
     TransitRequest record = readRecord(transit);
@@ -108,7 +95,7 @@ bool serve(Script& script, const std::filesystem::path& transit, int& exitCode) 
         std::exit(DiesExit);
     }
     if (letter == 'k') {
-        std::raise(SIGKILL);
+        dieAtOnce();
     }
     if (letter == 'w') {
         waitForEver();
@@ -159,20 +146,18 @@ int runWithMarker(Script& script, const std::filesystem::path& transit) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4 || std::string_view(argv[2]).size() != 1) {
+    const std::vector<std::string> arguments = planner::programArguments(argc, argv);
+    if (arguments.size() != 3 || arguments[1].size() != 1) {
         return UsageExit;
     }
-    if (std::getenv("FAKE_PLANNER_BEHIND") != nullptr && fork() != 0) {
-        waitForEver();
-    }
-    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
-    const std::filesystem::path transit = argv[1];
-    const std::string_view event = argv[3];
+    goBehind();
+    endWithStarter();
+    const std::filesystem::path transit = planner::pathOf(arguments[0]);
     Script script{environment("FAKE_PLANNER_SCRIPT")};
-    if (event != "NOEVENT") {
-        return runWithEvent(script, transit, argv[3]);
+    if (arguments[2] != "NOEVENT") {
+        return runWithEvent(script, transit, arguments[2].c_str());
     }
-    if (argv[2][0] == '0') {
+    if (arguments[1] == "0") {
         std::filesystem::remove(transit.parent_path() / "TvPlaOK.lck");
         return 0;
     }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "run_program.h"
 #include "support/temp_folder.h"
+#include "tools/support/run_program.h"
 
 #include <gtest/gtest.h>
 #include <map>

@@ -140,7 +140,6 @@ TEST(HostOptions, WrongValuesAreRefusedByName) {
         Wrong{"--seme", "-1"},
         Wrong{"--risposte", "0"},
         Wrong{"--flag", "10"},
-        Wrong{"--archivio", "C:\\dati"},
         Wrong{"--transito", "a/b"},
         Wrong{"--transito", ""},
     };

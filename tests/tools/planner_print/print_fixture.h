@@ -5,7 +5,7 @@
 #include "sample_archive/sample_archive.h"
 #include "support/builders.h"
 #include "support/temp_folder.h"
-#include "tools/planner_host/run_program.h"
+#include "tools/support/run_program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include "engine/request_dates.h"
 #include "host/transit_request.h"
 #include "planner_host/check/field_rules.h"
+#include "platform/system/paths.h"
 #include "ports/runtime_errors.h"
 
 #include <map>
@@ -65,7 +66,7 @@ private:
 
 std::optional<std::string> Controllo::readFile(const std::string& file) {
     try {
-        const auto input = m_files.openForReading((m_cartella / file).string());
+        const auto input = m_files.openForReading(textOf(m_cartella / file));
         std::string bytes(input->length(), '\0');
         bytes.resize(input->read(bytes));
         if (bytes.empty()) {

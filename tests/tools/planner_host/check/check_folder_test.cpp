@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "planner_host/check/check_folder.h"
-#include "platform/posix/posix_file_system.h"
+#include "platform/system/system_file_system.h"
 #include "support/builders.h"
 #include "support/temp_folder.h"
 
@@ -25,7 +25,7 @@ protected:
         folder.write("wgrafici", bytesOf(std::vector{rigaGrafico("RB", "20060315", "0000730")}));
     }
     std::string said() const {
-        return controllaCartella(PosixFileSystem(), folder.folder(), "trans.dat", *makeDate(2006, 3, 15))
+        return controllaCartella(SystemFileSystem(), folder.folder(), "trans.dat", *makeDate(2006, 3, 15))
             .testo();
     }
     /// Other bytes from a place in a file on.
