@@ -142,15 +142,17 @@ void ChartPainter::paintAxes(QPainter& painter, const ChartLayout& layout) const
 }
 
 void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) const {
-    const bool pixels = painter.paintEngine()->type() == QPaintEngine::Raster;
-    if (pixels) {
-        paintNarrowSlices(painter, layout);
+    const bool anyNarrow = std::any_of(layout.slices.begin(), layout.slices.end(),
+                                       [&](const ChartSlice& slice) { return isNarrow(layout, slice); });
+    const bool filled = anyNarrow && painter.paintEngine()->type() == QPaintEngine::Raster;
+    if (filled) {
+        fillSlices(painter, layout);
     }
     for (const ChartSlice& slice : layout.slices) {
         const bool narrow = isNarrow(layout, slice);
-        if (!narrow || !pixels) {
+        if (!narrow || !filled) {
             painter.setPen(narrow ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
-            painter.setBrush(colourOf(slice.colour));
+            painter.setBrush(filled ? QBrush(Qt::NoBrush) : QBrush(colourOf(slice.colour)));
             painter.drawPath(slicePath(layout, slice));
         }
     }
@@ -158,12 +160,8 @@ void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) con
 
 /// Without smoothing between neighbours, but for the rim: to smooth hundreds of wedges takes longer than a
 /// frame, and lets the ground through between them.
-void ChartPainter::paintNarrowSlices(QPainter& painter, const ChartLayout& layout) const {
+void ChartPainter::fillSlices(QPainter& painter, const ChartLayout& layout) {
     constexpr double beyondRim = 2;
-    if (std::none_of(layout.slices.begin(), layout.slices.end(),
-                     [&](const ChartSlice& slice) { return isNarrow(layout, slice); })) {
-        return;
-    }
     const double scale = painter.deviceTransform().m11();
     const QPointF corner = pointOf(layout.pieCentre) - QPointF(1, 1) * (layout.pieRadius + beyondRim);
     const int side = qCeil(2 * (layout.pieRadius + beyondRim) * scale);
@@ -174,10 +172,8 @@ void ChartPainter::paintNarrowSlices(QPainter& painter, const ChartLayout& layou
     onWedges.translate(-corner);
     onWedges.setPen(Qt::NoPen);
     for (const ChartSlice& slice : layout.slices) {
-        if (isNarrow(layout, slice)) {
-            onWedges.setBrush(colourOf(slice.colour));
-            onWedges.drawPath(slicePath(layout, slice, beyondRim));
-        }
+        onWedges.setBrush(colourOf(slice.colour));
+        onWedges.drawPath(slicePath(layout, slice, beyondRim));
     }
     QBrush brush(wedges);
     brush.setTransform(QTransform::fromTranslate(corner.x(), corner.y()).scale(1 / scale, 1 / scale));

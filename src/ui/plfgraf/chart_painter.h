@@ -32,7 +32,7 @@ private:
     void paintBars(QPainter& painter, const ChartLayout& layout) const;
     void paintAxes(QPainter& painter, const ChartLayout& layout) const;
     void paintSlices(QPainter& painter, const ChartLayout& layout) const;
-    void paintNarrowSlices(QPainter& painter, const ChartLayout& layout) const;
+    static void fillSlices(QPainter& painter, const ChartLayout& layout);
     void paintLabelBoxes(QPainter& painter, const ChartLayout& layout) const;
     void paintLegend(QPainter& painter, const ChartLayout& layout) const;
     void paintTexts(QPainter& painter, const ChartLayout& layout) const;
