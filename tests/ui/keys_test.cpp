@@ -5,6 +5,7 @@
 #include "window_bench.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -72,6 +73,18 @@ TEST_F(KeysTest, ShiftF10OpensTheMenuAtTheCurrentCell) {
     const QRect cell = bench.view().visualRect(bench.index(2, 45));
     EXPECT_EQ(bench.view().viewport()->mapFromGlobal(menu->pos()), cell.center());
     EXPECT_EQ(menu->activeAction(), menu->actions().constFirst()) << "which a screen reader says";
+    menu->close();
+}
+
+TEST_F(KeysTest, TheMousesMenuStandsOnNoCommandWhereverTheMouseHasGoneSince) {
+    bench.open("G");
+    const QPoint pressed = bench.view().viewport()->mapToGlobal(bench.centreOf(2, 45));
+    QCursor::setPos(pressed + QPoint(9, 9));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, bench.centreOf(2, 45), pressed);
+    QCoreApplication::sendEvent(bench.view().viewport(), &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->activeAction(), nullptr);
     menu->close();
 }
 

@@ -51,7 +51,7 @@ void GridHeader::mousePressEvent(QMouseEvent* event) {
 void GridHeader::contextMenuEvent(QContextMenuEvent* event) {
     const bool onName = orientation() == Qt::Vertical && logicalIndexAt(event->pos()) >= 0;
     if (onName && event->reason() == QContextMenuEvent::Mouse) {
-        Q_EMIT menuRequested(event->globalPos());
+        Q_EMIT menuRequested(event->globalPos(), /*byKey=*/false);
     }
 }
 

@@ -32,7 +32,7 @@ public:
 Q_SIGNALS:
     /// A section was pressed with the left or the right button.
     void pressed(int section, planner::Mezzo mezzo);
-    void menuRequested(const QPoint& globalPosition);
+    void menuRequested(const QPoint& globalPosition, bool byKey);
     /// The mouse rests on a section of which something is said; empty when it is on none.
     void pointed(const QString& tip);
 

@@ -102,7 +102,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Space) {
         announce(currentCell(), Mezzo::spazio);
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-        Q_EMIT menuRequested(currentCellOnScreen()); // the Menu key comes as a context menu event
+        Q_EMIT menuRequested(currentCellOnScreen(),
+                             /*byKey=*/true); // the Menu key comes as a context menu event
     } else if (const auto action = cursorActionOf(*event)) {
         moveByKey(*action, event->modifiers());
     } else {
@@ -213,7 +214,7 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     if (byMouse && !under.isValid()) {
         return;
     }
-    Q_EMIT menuRequested(byMouse ? event->globalPos() : currentCellOnScreen());
+    Q_EMIT menuRequested(byMouse ? event->globalPos() : currentCellOnScreen(), !byMouse);
 }
 
 QPoint GridView::currentCellOnScreen() {

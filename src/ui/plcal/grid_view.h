@@ -56,7 +56,8 @@ public:
 Q_SIGNALS:
     /// The user acted on a place of the grid: once for each gesture, and for nothing that the toolkit does.
     void gesture(const planner::Gesto& gesto);
-    void menuRequested(const QPoint& globalPosition);
+    /// By a key or, where the mouse is, by its button.
+    void menuRequested(const QPoint& globalPosition, bool byKey);
     /// The wheel was turned in the manner of a command.
     void commandGiven(planner::ComandoGriglia comando);
     void periodButtonClicked(const planner::PulsantePeriodo& pulsante);

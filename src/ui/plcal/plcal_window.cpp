@@ -153,7 +153,7 @@ void PlcalWindow::connectGrid(GridView& grid) {
             [this](const PulsantePeriodo& pulsante) { m_form->pulsantePeriodo_Click(pulsante); });
 }
 
-void PlcalWindow::showMenu(const QPoint& globalPosition) {
+void PlcalWindow::showMenu(const QPoint& globalPosition, bool byKey) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Pulsante pulsante : PulsantiMenu) {
@@ -171,7 +171,7 @@ void PlcalWindow::showMenu(const QPoint& globalPosition) {
     jumps->addActions(visibleGrid()->actions());
     menu->insertMenu(line, jumps);
     menu->popup(globalPosition);
-    if (globalPosition != QCursor::pos()) { // by key: whoever hears must know where they are
+    if (byKey) { // whoever hears must know where they are
         menu->setActiveAction(menu->actions().constFirst());
     }
 }

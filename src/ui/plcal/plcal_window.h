@@ -77,7 +77,7 @@ private:
     void awaitMidnight();
     void connectEvents();
     void connectGrid(GridView& grid);
-    void showMenu(const QPoint& globalPosition);
+    void showMenu(const QPoint& globalPosition, bool byKey);
     void placeField();
     void updateCalendar();
     void updateGrid();
