@@ -171,15 +171,19 @@ QRect GridView::cellsIn(const QRect& part) const {
 void GridView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     for (const QRect& part : event->region()) {
-        const QRect cells = cellsIn(part);
-        for (int row = cells.top(); row <= cells.bottom(); ++row) {
-            for (int column = cells.left(); column <= cells.right(); ++column) {
-                const QRect place(columnViewportPosition(column), rowViewportPosition(row),
-                                  columnWidth(column), rowHeight(row));
-                const Casella casella{m_model->gridRow(row), GridModel::gridCol(column)};
-                m_painter.paintDataCell(painter, place, griglia(), casella,
-                                        hasFocus() && casella == griglia().corrente());
-            }
+        paintCells(painter, cellsIn(part));
+    }
+}
+
+void GridView::paintCells(QPainter& painter, const QRect& cells) {
+    const bool focused = hasFocus();
+    for (int row = cells.top(); row <= cells.bottom(); ++row) {
+        for (int column = cells.left(); column <= cells.right(); ++column) {
+            const QRect place(columnViewportPosition(column), rowViewportPosition(row), columnWidth(column),
+                              rowHeight(row));
+            const Casella casella{m_model->gridRow(row), GridModel::gridCol(column)};
+            m_painter.paintDataCell(painter, place, griglia(), casella,
+                                    focused && casella == griglia().corrente());
         }
     }
 }

@@ -88,6 +88,7 @@ private:
     QModelIndex currentCell() const;
     /// The model's cells that lie in a part of the viewport, first and last row and column; none is empty.
     QRect cellsIn(const QRect& part) const;
+    void paintCells(QPainter& painter, const QRect& cells);
     /// The centre of the current cell, scrolled into sight.
     QPoint currentCellOnScreen();
     void announce(const QModelIndex& index, Mezzo mezzo);
