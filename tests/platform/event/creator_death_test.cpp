@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "event_steps.h"
 #include "ipc_fixture.h"
 
 #include <cerrno>
@@ -9,11 +10,6 @@ namespace {
 
 class CreatorDeathTest : public IpcTest {
 protected:
-    static void expectDeathTold(Actor& told) {
-        EXPECT_EQ(told.wait("EV"), 0);
-        EXPECT_EQ(told.error(), EOWNERDEAD);
-    }
-
     Actor planner;
     Actor next;
     Actor host;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
+#include "event_steps.h"
 #include "ipc_fixture.h"
 
 namespace planner::ipctest {
@@ -7,15 +8,6 @@ namespace {
 
 class RemovalTest : public IpcTest {
 protected:
-    // A planner that leaves its last answer and ends.
-    void leaveLastSignal() {
-        Actor other;
-        ASSERT_EQ(other.create("EV"), 1);
-        ASSERT_EQ(other.set("EV"), 1);
-        ASSERT_EQ(other.remove("EV"), 1);
-        other.end();
-    }
-
     Actor planner;
     Actor host;
 };

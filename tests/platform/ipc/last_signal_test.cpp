@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TavTermIPC.h"
 #include "ipc_fixture.h"
+#include "platform/event/event_steps.h"
 
 #include <atomic>
 #include <cerrno>
@@ -13,15 +14,6 @@ namespace {
 
 class LastSignalTest : public IpcTest {
 protected:
-    // A planner that leaves its last answer and ends.
-    void leaveLastSignal() {
-        Actor other;
-        ASSERT_EQ(other.create("EV"), 1);
-        ASSERT_EQ(other.set("EV"), 1);
-        ASSERT_EQ(other.remove("EV"), 1);
-        other.end();
-    }
-
     Actor planner;
     Actor host;
 };

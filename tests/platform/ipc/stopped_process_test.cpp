@@ -1,19 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The planner authors
 // SPDX-License-Identifier: MIT
 #include "ipc_fixture.h"
-
-#include <cerrno>
+#include "platform/event/event_steps.h"
 
 namespace planner::ipctest {
 namespace {
 
 class StoppedProcessTest : public IpcTest {
 protected:
-    static void expectDeathTold(Actor& told) {
-        EXPECT_EQ(told.wait("EV"), 0);
-        EXPECT_EQ(told.error(), EOWNERDEAD);
-    }
-
     Actor planner;
     Actor next;
     Actor host;
