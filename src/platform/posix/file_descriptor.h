@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace planner {
 
@@ -23,6 +24,8 @@ public:
 
     /// -1 when it holds none.
     int get() const { return m_descriptor; }
+    /// Gives it up to the caller, who closes it.
+    int release() { return std::exchange(m_descriptor, -1); }
 
     /// Bytes in the file; refuses what is no regular file.
     std::uint64_t regularFileLength() const;

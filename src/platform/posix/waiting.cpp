@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/waiting.h"
 
+#include "platform/posix/end_signals.h"
+
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/inotify.h>
@@ -59,15 +60,7 @@ void WakeUp::wake() const {
     ::eventfd_write(descriptor(m_handle), 1);
 }
 
-EndWishes::EndWishes() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        sigaddset(&signals, signal);
-    }
-    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    m_handle = checked(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
-}
+EndWishes::EndWishes() : m_handle(checked(holdEndSignals().release())) {}
 
 EndWishes::~EndWishes() {
     ::close(descriptor(m_handle));
