@@ -90,11 +90,10 @@ static int actAsHost(const EventObject* event, uint32_t seen, bool own, bool* me
         return restAsHost(event, seen, met);
     case SIGNAL_RETIRED:
         return WAIT_LOOK_AGAIN;
+    case SIGNAL_PENDING: // it came just now, and lets nobody sleep
     case SIGNAL_LAST:
         // This process's own one sleeps until another takes it.
         return own ? sleepAsHost(event, SIGNAL_LAST, NULL) : WAIT_GOES_ON;
-    case SIGNAL_PENDING:
-        return WAIT_GOES_ON;
     default:
         return reset(&event->state->toHost, seen);
     }

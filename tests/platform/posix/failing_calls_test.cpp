@@ -3,13 +3,16 @@
 #include "fault.h"
 #include "platform/posix/end_signals.h"
 #include "platform/posix/file_descriptor.h"
+#include "platform/system/child_process.h"
 #include "platform/system/system_file_system.h"
+#include "platform/system/waiting.h"
 #include "ports/runtime_errors.h"
 #include "support/temp_folder.h"
 
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <system_error>
 
@@ -40,6 +43,12 @@ protected:
             std::array<char, 6> bytes{};
             files.openForReading(path)->read(bytes);
         });
+    }
+    /// The numbers of this process's children.
+    static std::string children() {
+        std::ifstream file("/proc/thread-self/children");
+        EXPECT_TRUE(file.is_open());
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     static std::string wordsOf(int error) { return std::generic_category().message(error); }
 
@@ -103,6 +112,20 @@ TEST_F(FailingCallsTest, WithoutADescriptorForThemNoSignalIsHeld) {
     sigset_t held;
     ASSERT_EQ(::pthread_sigmask(SIG_BLOCK, nullptr, &held), 0);
     EXPECT_EQ(sigismember(&held, SIGTERM), 0);
+}
+
+TEST_F(FailingCallsTest, WishesToEndThatCannotBeReceivedSaySo) {
+    failCall("signalfd", 1, EMFILE);
+    EXPECT_THROW(EndWishes(), std::system_error);
+    EXPECT_TRUE(hasFailed());
+}
+
+TEST_F(FailingCallsTest, AChildThatCannotBeWatchedIsEndedAndSaysSo) {
+    const std::string before = children();
+    failCall("pidfd_open", 1, EMFILE);
+    EXPECT_THROW(ChildProcess("/bin/sleep", {"60"}), std::system_error);
+    EXPECT_TRUE(hasFailed());
+    EXPECT_EQ(children(), before);
 }
 
 } // namespace

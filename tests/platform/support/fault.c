@@ -8,6 +8,7 @@
 #include <stdarg.h>
 #include <stddef.h>
 #include <string.h>
+#include <sys/pidfd.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <sys/types.h>
@@ -128,6 +129,10 @@ int close(int descriptor) {
 int signalfd(int descriptor, const sigset_t* signals, int flags) {
     return strikes("signalfd") ? -1
                                : NEXT("signalfd", int, int, const sigset_t*, int)(descriptor, signals, flags);
+}
+
+int pidfd_open(pid_t process, unsigned flags) {
+    return strikes("pidfd_open") ? -1 : NEXT("pidfd_open", int, pid_t, unsigned)(process, flags);
 }
 
 // Tells its error by its result.

@@ -78,6 +78,10 @@ TEST(ThisProcessTest, TemporaryFoldersAreNewAndNamedAsAsked) {
     std::filesystem::remove(second);
 }
 
+TEST(ThisProcessTest, ATemporaryFolderThatCannotBeMadeSaysSo) {
+    EXPECT_THROW(makeTemporaryFolder("none/planner-test-"), std::filesystem::filesystem_error);
+}
+
 TEST(PathTest, TextAndPathAreTheSame) {
     EXPECT_EQ(textOf(pathOf("studio perché no")), "studio perché no");
 }
