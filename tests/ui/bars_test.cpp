@@ -262,7 +262,8 @@ TEST_F(BarsTest, TheFocusFrameStandsAroundTheCurrentCellOnly) {
     QImage image(Width, height, QImage::Format_RGB32);
     const auto paintCell = [&](bool focused) {
         QPainter target(&image);
-        painter.paintDataCell(target, image.rect(), griglia, {Row, 2}, focused);
+        griglia.setCurrent({Row, focused ? 2 : 3});
+        painter.paintBlock(target, {{Row, 2}, {0, height}, {0, Width}}, griglia, focused);
     };
     const QRgb frame = qtColor(Colore::navy).rgb();
     paintCell(true);

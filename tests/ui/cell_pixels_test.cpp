@@ -34,10 +34,16 @@ protected:
                     painter.paint(target, {{0, 0}, size}, grid, {row, column});
                 }};
     }
+    /// A cell with the focus, which is on the current one; or as it is without.
     Painted paintFocused(bool focused) {
-        return {CellSize, GetParam(), [&](QPainter& target) {
-                    painter.paintDataCell(target, {{0, 0}, CellSize}, griglia, {FirstRow + 1, 3}, focused);
-                }};
+        const Casella cell{FirstRow + 1, 3};
+        const Casella before = griglia.corrente();
+        griglia.setCurrent(focused ? cell : before);
+        const CellBlock alone{cell, {0, CellSize.height()}, {0, CellSize.width()}};
+        const Painted painted(CellSize, GetParam(),
+                              [&](QPainter& target) { painter.paintBlock(target, alone, griglia, focused); });
+        griglia.setCurrent(before);
+        return painted;
     }
 
     /// Expects a line of the colour, two pixels wide, all around, and none of it inside.

@@ -70,6 +70,8 @@ struct VoceLegenda {
     int immagine;
     std::string significato; // UTF-8
     std::string breve;       // the same in a word or two; empty where that would say nothing new
+
+    friend bool operator==(const VoceLegenda&, const VoceLegenda&) = default;
 };
 
 /// The legend of the pictures in the grid that shows details, or in the one that shows none.

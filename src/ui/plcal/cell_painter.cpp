@@ -55,6 +55,14 @@ QRect bottomLine(const QRect& rect) {
     return {rect.left(), rect.bottom(), rect.width(), 1};
 }
 
+Colore lineBelow(const Griglia& griglia, int row) {
+    return row < griglia.FixedRows() ? Colore::lineaForte : Colore::linea;
+}
+
+Colore lineBeside(const Griglia& griglia, int column) {
+    return finisceGruppo(griglia, column) ? Colore::lineaForte : Colore::linea;
+}
+
 bool centred(const Cella& cella) {
     return stile(cella).allineamento == Allineamento::centro;
 }
@@ -109,13 +117,61 @@ const FittingFont& CellPainter::font(const Griglia& griglia, Casella casella, in
 
 void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                         int keptFree) {
+    painter.fillRect(rect, qtColor(griglia.aspetto(casella).fondo));
+    painter.fillRect(bottomLine(rect), qtColor(lineBelow(griglia, casella.riga)));
+    painter.fillRect(rightLine(rect), qtColor(lineBeside(griglia, casella.colonna)));
+    paintContents(painter, rect, griglia, casella, keptFree);
+}
+
+void CellPainter::paintBlock(QPainter& painter, const CellBlock& block, const Griglia& griglia, bool focus) {
+    for (int row = 0; row < block.rows(); ++row) {
+        paintGrounds(painter, block, row, griglia);
+    }
+    const QRect whole = block.place(0, 0).united(block.place(block.rows() - 1, block.columns() - 1));
+    for (int row = 0; row < block.rows(); ++row) {
+        const QRect place = block.place(row, 0);
+        painter.fillRect(QRect(whole.left(), place.bottom(), whole.width(), 1),
+                         qtColor(lineBelow(griglia, block.first.riga + row)));
+    }
+    for (int column = 0; column < block.columns(); ++column) {
+        const QRect place = block.place(0, column);
+        painter.fillRect(QRect(place.right(), whole.top(), 1, whole.height()),
+                         qtColor(lineBeside(griglia, block.first.colonna + column)));
+    }
+    for (int row = 0; row < block.rows(); ++row) {
+        for (int column = 0; column < block.columns(); ++column) {
+            paintContents(painter, block.place(row, column), griglia, block.casella(row, column));
+        }
+    }
+    const int row = griglia.Row() - block.first.riga;
+    const int column = griglia.Col() - block.first.colonna;
+    if (row >= 0 && row < block.rows() && column >= 0 && column < block.columns()) {
+        const Colore colore = cornice(griglia.aspetto(griglia.corrente()).fondo);
+        paintFrame(painter, block.place(row, column).adjusted(0, 0, -1, -1), colore, focus ? 2 : 1);
+    }
+}
+
+void CellPainter::paintGrounds(QPainter& painter, const CellBlock& block, int row, const Griglia& griglia) {
+    const auto ground = [&](int column) { return griglia.aspetto(block.casella(row, column)).fondo; };
+    int first = 0;
+    Colore shown = ground(0);
+    for (int column = 1; column <= block.columns(); ++column) {
+        const bool end = column == block.columns();
+        const Colore next = end ? shown : ground(column);
+        if (end || next != shown) {
+            painter.fillRect(block.place(row, first).united(block.place(row, column - 1)), qtColor(shown));
+            first = column;
+            shown = next;
+        }
+    }
+}
+
+void CellPainter::paintContents(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
+                                int keptFree) {
     const Cella& cella = griglia.cella(casella);
-    const Aspetto aspetto = griglia.aspetto(casella);
-    painter.fillRect(rect, qtColor(aspetto.fondo));
-    paintLines(painter, rect, griglia, casella);
     for (const FasciaImpegno& fascia : griglia.fasce(casella.riga)) {
         if (fascia.copre(casella.colonna)) {
-            paintBar(painter, laneOf(rect, fascia), fascia, casella.colonna, aspetto.barra);
+            paintBar(painter, laneOf(rect, fascia), fascia, casella.colonna, griglia.aspetto(casella).barra);
         }
     }
     if (cella.immagine != 0 && !cella.impegno) { // a bar has its own
@@ -125,15 +181,6 @@ void CellPainter::paint(QPainter& painter, const QRect& rect, const Griglia& gri
         paintText(painter, textPlace(rect, griglia, casella, keptFree), griglia, casella);
     }
     paintMarks(painter, rect, griglia, casella);
-}
-
-void CellPainter::paintDataCell(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
-                                bool focus) {
-    paint(painter, rect, griglia, casella);
-    if (focus || casella == griglia.corrente()) {
-        paintFrame(painter, rect.adjusted(0, 0, -1, -1), cornice(griglia.aspetto(casella).fondo),
-                   focus ? 2 : 1);
-    }
 }
 
 void CellPainter::paintPicture(QPainter& painter, const QRect& rect, int picture, bool besideText) {
@@ -249,31 +296,24 @@ void CellPainter::paintSummary(QPainter& painter, const QRect& rect, const Grigl
 }
 
 void CellPainter::paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
-    const Colore fondo = griglia.aspetto(casella).fondo;
+    const auto ground = [&] { return griglia.aspetto(casella).fondo; };
     const QRect inside = rect.adjusted(0, 0, -1, -1); // the lines between the cells stay in sight
     if (griglia.cella(casella).oggi) {
-        paintFrame(painter, inside, corniceOggi(fondo), 2);
+        paintFrame(painter, inside, corniceOggi(ground()), 2);
     }
     if (casella.riga == griglia.RigaEvidenziata()) {
         constexpr int highEnough = 24; // pixels, that two lines of two leave something of
         const int thickness = rect.height() < highEnough ? 1 : 2;
-        const QColor colour = qtColor(cornice(fondo));
+        const QColor colour = qtColor(cornice(ground()));
         painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), thickness), colour);
         painter.fillRect(QRect(rect.left(), rect.bottom() + 1 - thickness, rect.width(), thickness), colour);
     }
     if (casella.riga == griglia.FixedRows() - 1 && griglia.inEvidenza(casella)) {
-        painter.fillRect(QRect(rect.left(), rect.bottom() - 1, rect.width(), 2), qtColor(cornice(fondo)));
+        painter.fillRect(QRect(rect.left(), rect.bottom() - 1, rect.width(), 2), qtColor(cornice(ground())));
     }
     if (griglia.scelta(casella)) {
-        paintFrame(painter, inside, cornice(fondo), 1);
+        paintFrame(painter, inside, cornice(ground()), 1);
     }
-}
-
-void CellPainter::paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella) {
-    painter.fillRect(bottomLine(rect),
-                     qtColor(casella.riga < griglia.FixedRows() ? Colore::lineaForte : Colore::linea));
-    painter.fillRect(rightLine(rect),
-                     qtColor(finisceGruppo(griglia, casella.colonna) ? Colore::lineaForte : Colore::linea));
 }
 
 } // namespace planner

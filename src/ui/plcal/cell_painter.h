@@ -7,12 +7,31 @@
 #include "ui/kit/fitting_font.h"
 #include "ui/kit/pictures.h"
 
+#include <QRect>
+
 #include <array>
+#include <vector>
 
 class QPainter;
-class QRect;
 
 namespace planner {
+
+/// Some of a grid's cells, beside each other, and where they stand; at least one.
+struct CellBlock {
+    Casella first;
+    std::vector<int> tops;  // pixels: where each row begins, and where the last one ends
+    std::vector<int> lefts; // the same of the columns
+
+    int rows() const { return static_cast<int>(tops.size()) - 1; }
+    int columns() const { return static_cast<int>(lefts.size()) - 1; }
+    /// Both counted from 0, the first cell's.
+    Casella casella(int row, int column) const { return {first.riga + row, first.colonna + column}; }
+    QRect place(int row, int column) const {
+        const auto r = static_cast<std::size_t>(row);
+        const auto c = static_cast<std::size_t>(column);
+        return {lefts[c], tops[r], lefts[c + 1] - lefts[c], tops[r + 1] - tops[r]};
+    }
+};
 
 /// Paints the cells of a grid: background, picture, text, lines. Delegate, headers and corner share it, so
 /// that every cell looks the same wherever it stands.
@@ -32,9 +51,9 @@ public:
     /// `keptFree` pixels at either side of the cell are another widget's, not the text's.
     void paint(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                int keptFree = 0);
-    /// A data cell, with the frame of the current one and of the focus.
-    void paintDataCell(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
-                       bool focus);
+    /// Data cells beside each other: what several have in common is painted at once. The current one has a
+    /// frame, a stronger one with the focus.
+    void paintBlock(QPainter& painter, const CellBlock& block, const Griglia& griglia, bool focus);
     /// The bar of a column in the header, at the right of its texts, and the room for the longest; `rect` is
     /// the whole height of the header.
     static void paintSummary(QPainter& painter, const QRect& rect, const Griglia& griglia, int col);
@@ -58,8 +77,11 @@ private:
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
-    void paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
-    void paintLines(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
+    static void paintGrounds(QPainter& painter, const CellBlock& block, int row, const Griglia& griglia);
+    /// What stands on the cell's ground and between its lines.
+    void paintContents(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
+                       int keptFree = 0);
+    static void paintMarks(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella);
 
     using Fonts = std::array<FittingFont, Caratteri.size()>;
 

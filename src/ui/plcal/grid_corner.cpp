@@ -30,6 +30,7 @@ QPalette lightButtonPalette() {
 
 GridCorner::GridCorner(const Griglia& griglia, TipoPlanner tipo, CellPainter& painter, QWidget* parent)
     : QWidget(parent), m_griglia(griglia), m_painter(painter) {
+    setAttribute(Qt::WA_OpaquePaintEvent); // its cells cover it
     for (const PulsantePeriodo& described : PulsantiPeriodo) {
         if (described.tipo == tipo) {
             addButton(described);
@@ -65,6 +66,10 @@ void GridCorner::addKeys(const PulsantePeriodo& described, QToolButton& button) 
 void GridCorner::setRowHeights(const std::vector<int>& heights) {
     m_heights = heights;
     update();
+}
+
+void GridCorner::updateCells() {
+    update(QRegion(rect()) - childrenRegion());
 }
 
 void GridCorner::setPeriod(const QString& period) {

@@ -25,6 +25,8 @@ public:
 
     /// Heights of the header rows, in pixels.
     void setRowHeights(const std::vector<int>& heights);
+    /// Paints the cells again, the buttons being as they were.
+    void updateCells();
     /// What its tool tip says where no text is cut, and assistive programs call it.
     void setPeriod(const QString& period);
     /// Puts the period buttons into their cells.

@@ -53,7 +53,7 @@ void GridView::connectEvents() {
     connect(m_model, &GridModel::headersChanged, this, [this] {
         m_columns->viewport()->update();
         m_names->viewport()->update();
-        m_corner->update();
+        m_corner->updateCells();
     });
     connect(m_model, &GridModel::periodChanged, this, [this] { m_otherPeriod = true; });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
@@ -157,35 +157,35 @@ void GridView::moveByKey(CursorAction action, Qt::KeyboardModifiers modifiers) {
 }
 
 QRect GridView::cellsIn(const QRect& part) const {
-    const QPoint first(columnAt(part.left()), rowAt(part.top()));
-    if (first.x() < 0 || first.y() < 0) {
-        return {}; // beyond the last one
-    }
-    const auto orLast = [](int found, int count) { return found < 0 ? count - 1 : found; };
-    return {first, QPoint(orLast(columnAt(part.right()), m_model->columnCount()),
-                          orLast(rowAt(part.bottom()), m_model->rowCount()))};
+    return {QPoint(columnAt(part.left()), rowAt(part.top())),
+            QPoint(columnAt(part.right()), rowAt(part.bottom()))};
 }
 
 // The toolkit's own way through the cells, by indexes, options and a delegate, takes as long as to paint
 // them.
 void GridView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
-    for (const QRect& part : event->region()) {
+    const QRect all(columnViewportPosition(0), rowViewportPosition(0), m_columns->length(),
+                    m_names->length());
+    for (const QRect& beyond : event->region().subtracted(all)) {
+        painter.fillRect(beyond, palette().base());
+    }
+    for (const QRect& part : event->region().intersected(all)) {
         paintCells(painter, cellsIn(part));
     }
 }
 
 void GridView::paintCells(QPainter& painter, const QRect& cells) {
-    const bool focused = hasFocus();
+    CellBlock block{{m_model->gridRow(cells.top()), GridModel::gridCol(cells.left())}, {}, {}};
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
-        for (int column = cells.left(); column <= cells.right(); ++column) {
-            const QRect place(columnViewportPosition(column), rowViewportPosition(row), columnWidth(column),
-                              rowHeight(row));
-            const Casella casella{m_model->gridRow(row), GridModel::gridCol(column)};
-            m_painter.paintDataCell(painter, place, griglia(), casella,
-                                    focused && casella == griglia().corrente());
-        }
+        block.tops.push_back(rowViewportPosition(row));
     }
+    block.tops.push_back(block.tops.back() + rowHeight(cells.bottom()));
+    for (int column = cells.left(); column <= cells.right(); ++column) {
+        block.lefts.push_back(columnViewportPosition(column));
+    }
+    block.lefts.push_back(block.lefts.back() + columnWidth(cells.right()));
+    m_painter.paintBlock(painter, block, griglia(), hasFocus());
 }
 
 // Of the focus the current cell's frame tells, and an inactive window looks as an active one: the toolkit's
@@ -263,6 +263,8 @@ void GridView::setUpBehaviour() {
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setWordWrap(false);
+    viewport()->setAutoFillBackground(false); // it is painted whole
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     // The cells' colours are given, and light: what lies outside them follows, on a dark desktop too.
     QPalette light = palette();
     light.setColor(QPalette::Base, qtColor(Colore::intestazione));

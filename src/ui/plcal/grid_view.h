@@ -86,7 +86,7 @@ private:
     void setUpBehaviour();
     void connectEvents();
     QModelIndex currentCell() const;
-    /// The model's cells that lie in a part of the viewport, first and last row and column; none is empty.
+    /// The model's cells that lie in a part of the cells in sight: first and last row and column.
     QRect cellsIn(const QRect& part) const;
     void paintCells(QPainter& painter, const QRect& cells);
     /// The centre of the current cell, scrolled into sight.

@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <numeric>
 
 namespace planner {
 
@@ -26,7 +27,11 @@ LegendBar::LegendBar(QWidget* parent) : QWidget(parent) {
 }
 
 void LegendBar::setEntries(const std::vector<VoceLegenda>& voci) {
+    if (voci == m_voci) {
+        return;
+    }
     m_voci = voci;
+    m_widths.reset();
     const QString sentence = fromUtf8(fraseLegenda(voci));
     if (sentence != accessibleDescription()) {
         setAccessibleDescription(sentence);
@@ -46,13 +51,17 @@ int LegendBar::entryWidth(const VoceLegenda& voce, bool words, const QFontMetric
     return side() + (words ? Gap + letters.horizontalAdvance(fromUtf8(voce.breve)) + EntryGap : Gap);
 }
 
-int LegendBar::widthOf(bool words) const {
-    const QFontMetrics metrics(letters());
-    int width = 0;
-    for (const VoceLegenda& voce : m_voci) {
-        width += entryWidth(voce, words, metrics);
+const LegendBar::Widths& LegendBar::widths() const {
+    if (!m_widths || m_widths->height != height()) { // the letters follow it
+        const QFontMetrics metrics(letters());
+        const auto widthOf = [&](bool words) {
+            return std::accumulate(m_voci.begin(), m_voci.end(), 0, [&](int sum, const VoceLegenda& voce) {
+                return sum + entryWidth(voce, words, metrics);
+            });
+        };
+        m_widths = {height(), widthOf(true), widthOf(false)};
     }
-    return width;
+    return *m_widths;
 }
 
 QString LegendBar::toolTipAt(const QPoint& position) const {
@@ -66,6 +75,13 @@ QString LegendBar::toolTipAt(const QPoint& position) const {
         }
     }
     return {};
+}
+
+void LegendBar::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        m_widths.reset();
+    }
 }
 
 bool LegendBar::event(QEvent* event) {

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace planner {
@@ -22,23 +23,29 @@ public:
     void setEntries(const std::vector<VoceLegenda>& voci);
 
     /// How wide it is with its words, and with the signs alone, in pixels.
-    int wholeWidth() const { return widthOf(/*words=*/true); }
-    int shortWidth() const { return widthOf(/*words=*/false); }
+    int wholeWidth() const { return widths().whole; }
+    int shortWidth() const { return widths().brief; }
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Widths {
+        int height, whole, brief; // pixels: for a bar of that height
+    };
+
     int side() const;
     QFont letters() const;
     int entryWidth(const VoceLegenda& voce, bool words, const QFontMetrics& letters) const;
-    int widthOf(bool words) const;
+    const Widths& widths() const;
     bool showsWords() const { return width() >= wholeWidth(); }
     QString toolTipAt(const QPoint& position) const;
     void paintSign(QPainter& painter, const QRect& square, const VoceLegenda& voce);
 
     std::vector<VoceLegenda> m_voci;
+    mutable std::optional<Widths> m_widths; // since the entries and the letters are as they are
     Pictures m_pictures;
 };
 
