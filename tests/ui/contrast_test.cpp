@@ -3,10 +3,10 @@
 #include "painted.h"
 #include "support/contrast.h"
 #include "ui/kit/legible.h"
+#include "ui/plcal/shown_calendar.h"
 #include "window_bench.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QFile>
 #include <QFrame>
 #include <QLabel>
@@ -17,7 +17,6 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QStyleOption>
-#include <QTextCharFormat>
 
 #include <gtest/gtest.h>
 #include <ostream>
@@ -96,9 +95,10 @@ TEST(DrawingContrastTest, EveryDrawingStandsOutFromEveryGroundAndItsDetailsFromI
 TEST_P(DesktopContrastTest, WhatTheProgramColoursItselfStandsOut) {
     WindowBench bench;
     bench.open("M");
-    auto& calendar = bench.widget<QCalendarWidget>("calendario");
-    const QColor days = calendar.palette().color(QPalette::Base);
-    EXPECT_GE(least(calendar.weekdayTextFormat(Qt::Sunday).foreground().color(), days), TextContrast);
+    const auto& calendar = bench.widget<ShownCalendar>("calendario");
+    for (const QPalette::ColorRole ground : {QPalette::Base, QPalette::AlternateBase}) {
+        EXPECT_GE(least(calendar.weekendLetters(), calendar.palette().color(ground)), TextContrast);
+    }
     const auto boxes = bench.vista.findChildren<QFrame*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QFrame* box : boxes) {
         if (box->frameStyle() == static_cast<int>(QFrame::Box | QFrame::Plain)) {
@@ -129,10 +129,8 @@ TEST_P(DesktopContrastTest, TheCalendarFollowsTheDesktopWhileItIsOpen) {
     bench.open("M");
     QApplication::setPalette(GetParam().palette);
     QCoreApplication::processEvents();
-    auto& calendar = bench.widget<QCalendarWidget>("calendario");
-    EXPECT_GE(least(calendar.weekdayTextFormat(Qt::Sunday).foreground().color(),
-                    calendar.palette().color(QPalette::Base)),
-              TextContrast);
+    const auto& calendar = bench.widget<ShownCalendar>("calendario");
+    EXPECT_GE(least(calendar.weekendLetters(), calendar.palette().color(QPalette::Base)), TextContrast);
 }
 
 TEST_P(DesktopContrastTest, WhatIsChosenAndWhatCannotBeUsedCanBeRead) {

@@ -6,6 +6,7 @@
 #include "ui/plcal/grid_corner.h"
 #include "window_bench.h"
 
+#include <QCalendarWidget>
 #include <QHeaderView>
 
 #include <gtest/gtest.h>
@@ -102,6 +103,34 @@ TEST_F(WindowPixels, TodayIsFramedInTheMonthsHeader) {
 TEST_F(WindowPixels, NoDayOfAnotherMonthIsFramed) {
     bench.open("M", "20060415");
     EXPECT_FALSE(header().any(QRectF(bench.view().horizontalHeader()->rect()), is(Today)));
+}
+
+TEST_F(WindowPixels, TheCalendarShowsItsMonthWithRedWeekendsAndTheDaysAroundItPale) {
+    bench.openPeriod("M", "20060515", "20060101", "20101231");
+    auto& calendar = bench.widget<QCalendarWidget>("calendario");
+    auto& days = *calendar.findChild<QTableView*>();
+    // Begins on a Monday; fills four weeks; begins on a Sunday; the last of the period.
+    for (const QDate shown :
+         {QDate(2006, 5, 15), QDate(2010, 2, 10), QDate(2006, 10, 3), QDate(2010, 12, 20)}) {
+        calendar.setSelectedDate(shown);
+        const QDate first(shown.year(), shown.month(), 1);
+        const QDate monday = first.addDays(first.dayOfWeek() == Qt::Monday ? -7 : 1 - first.dayOfWeek());
+        const Painted painted(*days.viewport());
+        for (int place = 0; place < 6 * 7; ++place) {
+            const QModelIndex index = days.model()->index(1 + place / 7, place % 7);
+            const QRectF cell(days.visualRect(index));
+            const QDate date = monday.addDays(place);
+            const std::string said = date.toString(Qt::ISODate).toStdString();
+            ASSERT_EQ(index.data().toInt(), date.day()) << said;
+            const bool within = date.month() == shown.month();
+            const bool weekend = date.dayOfWeek() >= Qt::Saturday;
+            EXPECT_EQ(painted.any(cell, isDark), within && !weekend && date != shown) << said;
+            EXPECT_EQ(painted.any(cell, isRed), within && weekend && date != shown) << said;
+            EXPECT_EQ(painted.any(cell, is(calendar.palette().color(QPalette::Highlight).rgb())),
+                      date == shown)
+                << said;
+        }
+    }
 }
 
 TEST_F(WindowPixels, TheNamesStandBesideTheirRows) {

@@ -64,8 +64,10 @@ void GridCorner::addKeys(const PulsantePeriodo& described, QToolButton& button) 
 }
 
 void GridCorner::setRowHeights(const std::vector<int>& heights) {
-    m_heights = heights;
-    update();
+    if (heights != m_heights) {
+        m_heights = heights;
+        update();
+    }
 }
 
 void GridCorner::updateCells() {

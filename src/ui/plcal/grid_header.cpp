@@ -30,9 +30,11 @@ GridHeader::GridHeader(Qt::Orientation orientation, const GridModel& model, Cell
 }
 
 void GridHeader::setThickness(const std::vector<int>& sizes) {
-    m_sizes = sizes;
-    updateGeometry();
-    viewport()->update();
+    if (sizes != m_sizes) {
+        m_sizes = sizes;
+        updateGeometry();
+        viewport()->update();
+    }
 }
 
 QSize GridHeader::sizeHint() const {

@@ -104,7 +104,6 @@ void GridView::updateGeometries() {
     QTableView::updateGeometries();
     const QPoint origin(frameWidth(), frameWidth());
     m_corner->setGeometry(QRect(pos() + origin, QSize(m_names->width(), m_columns->height())));
-    m_corner->raise();
     placeButtons();
 }
 

@@ -3,7 +3,6 @@
 #include "ui/plcal/shown_calendar.h"
 
 #include "ui/kit/controls.h"
-#include "ui/kit/fitting_font.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -11,10 +10,11 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QTableView>
-#include <QTextCharFormat>
 #include <QToolButton>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace planner {
 
@@ -27,9 +27,27 @@ QDate qtDate(Data data) {
     return {yearOf(data), monthOf(data), dayOf(data)};
 }
 
+/// Paints the items of a list as a function does. The toolkit lays out each one, with which the calendar
+/// would take longer to paint than the grid.
+class PlainItems : public QAbstractItemDelegate {
+public:
+    using Paint = std::function<void(QPainter&, const QRect&, const QModelIndex&)>;
+
+    PlainItems(Paint paint, QObject* parent) : QAbstractItemDelegate(parent), m_paint(std::move(paint)) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        m_paint(*painter, option.rect, index);
+    }
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {}; }
+
+private:
+    Paint m_paint;
+};
+
 } // namespace
 
-ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
+ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent), m_letters(font()) {
     setObjectName(QStringLiteral("calendario"));
     setLocale(QLocale());
     setFirstDayOfWeek(Qt::Monday);
@@ -42,8 +60,9 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent) {
         days->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where it was
         days->setAccessibleName(QStringLiteral("Giorni del calendario"));
         days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
+        days->setItemDelegate(new PlainItems(
+            [this](auto&&... item) { paintItem(std::forward<decltype(item)>(item)...); }, days));
     }
-    colourDays();
     connect(this, &QCalendarWidget::clicked, this, [this](QDate day) {
         if (day != m_selected) { // else it is announced already
             pick(day);
@@ -79,13 +98,9 @@ void ShownCalendar::hideNavigation() {
     }
 }
 
-void ShownCalendar::colourDays() {
-    // Readable on light and on dark; pure red is not.
+QColor ShownCalendar::weekendLetters() const {
     const bool dark = palette().color(QPalette::Base).lightness() < 128;
-    QTextCharFormat weekend;
-    weekend.setForeground(dark ? QColor(255, 128, 128) : QColor(176, 0, 0));
-    setWeekdayTextFormat(Qt::Saturday, weekend);
-    setWeekdayTextFormat(Qt::Sunday, weekend);
+    return dark ? QColor(255, 128, 128) : QColor(176, 0, 0); // pure red is not readable
 }
 
 void ShownCalendar::update(const Calendario& calendario, Data primo, Data ultimo) {
@@ -117,6 +132,17 @@ void ShownCalendar::fitHeading() {
     }
 }
 
+QDate ShownCalendar::dateOf(const QModelIndex& index) const {
+    constexpr int lastRowOfBefore = 2; // at the latest
+    constexpr int firstRowOfAfter = 5;
+    constexpr int middle = 15;
+    const int day = index.data().toInt();
+    const QDate first(yearShown(), monthShown(), 1);
+    const bool before = index.row() <= lastRowOfBefore && day > middle;
+    const bool after = index.row() >= firstRowOfAfter && day < middle;
+    return first.addMonths(after - before).addDays(day - 1);
+}
+
 QColor ShownCalendar::lettersOf(QDate date) const {
     const bool ofMonth = date.month() == monthShown() && date.year() == yearShown();
     if (!ofMonth || date < minimumDate() || date > maximumDate()) {
@@ -125,18 +151,22 @@ QColor ShownCalendar::lettersOf(QDate date) const {
     if (date == selectedDate()) {
         return palette().color(QPalette::HighlightedText);
     }
-    const QBrush ofWeekday = weekdayTextFormat(static_cast<Qt::DayOfWeek>(date.dayOfWeek())).foreground();
-    return ofWeekday.style() == Qt::NoBrush ? palette().color(QPalette::Text) : ofWeekday.color();
+    return date.dayOfWeek() >= Qt::Saturday ? weekendLetters() : palette().color(QPalette::Text);
 }
 
-/// The toolkit lays out each number as an item of a list, with which the calendar would take longer to paint
-/// than the grid.
-void ShownCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
-    if (date == selectedDate()) {
-        painter->fillRect(rect, palette().color(QPalette::Highlight));
+void ShownCalendar::paintItem(QPainter& painter, const QRect& rect, const QModelIndex& index) {
+    if (index.row() == 0) {
+        const bool weekend = index.column() + 1 >= Qt::Saturday;
+        painter.fillRect(rect, palette().color(QPalette::AlternateBase));
+        painter.setPen(weekend ? weekendLetters() : palette().color(QPalette::Text));
+    } else {
+        const QDate date = dateOf(index);
+        if (date == selectedDate()) {
+            painter.fillRect(rect, palette().color(QPalette::Highlight));
+        }
+        painter.setPen(lettersOf(date));
     }
-    painter->setPen(lettersOf(date));
-    painter->drawText(rect, Qt::AlignCenter | Qt::TextSingleLine, QString::number(date.day()));
+    m_letters.write(painter, rect, index.data().toString(), /*centred=*/true);
 }
 
 void ShownCalendar::resizeEvent(QResizeEvent* event) {
@@ -147,8 +177,8 @@ void ShownCalendar::resizeEvent(QResizeEvent* event) {
 
 void ShownCalendar::changeEvent(QEvent* event) {
     QCalendarWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        colourDays();
+    if (event->type() == QEvent::FontChange) {
+        m_letters = Letters(font());
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "session/calendario.h"
+#include "ui/kit/fitting_font.h"
 
 #include <QCalendarWidget>
 
@@ -16,6 +17,8 @@ public:
 
     /// Shows the date; days outside the bounds cannot be picked.
     void update(const Calendario& calendario, Data primo, Data ultimo);
+    /// The colour of Saturdays and Sundays: readable on light and on dark.
+    QColor weekendLetters() const;
 
 Q_SIGNALS:
     void dayPicked(planner::Data giorno);
@@ -23,17 +26,20 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// The day of an item below the letters of the weekdays; the month before and the one after fill the
+    /// weeks.
+    QDate dateOf(const QModelIndex& index) const;
     QColor lettersOf(QDate date) const;
+    void paintItem(QPainter& painter, const QRect& rect, const QModelIndex& index);
     void hideNavigation();
     void fitLetters();
     void fitHeading();
-    void colourDays();
     void pick(QDate day);
 
+    Letters m_letters;
     bool m_byCode = false;
     QDate m_selected; // the day that the user has selected since the mouse was pressed last
 };
