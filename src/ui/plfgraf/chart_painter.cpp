@@ -7,6 +7,8 @@
 #include "ui/plfgraf/chart_shapes.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
+#include <QList>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QtMath>
@@ -144,18 +146,32 @@ void ChartPainter::paintAxes(QPainter& painter, const ChartLayout& layout) const
 void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) const {
     const bool anyNarrow = std::any_of(layout.slices.begin(), layout.slices.end(),
                                        [&](const ChartSlice& slice) { return isNarrow(layout, slice); });
-    const bool filled = anyNarrow && painter.paintEngine()->type() == QPaintEngine::Raster;
-    if (filled) {
+    if (anyNarrow && painter.paintEngine()->type() == QPaintEngine::Raster) {
         fillSlices(painter, layout);
+        paintSliceEdges(painter, layout);
+        return;
     }
     for (const ChartSlice& slice : layout.slices) {
-        const bool narrow = isNarrow(layout, slice);
-        if (!narrow || !filled) {
-            painter.setPen(narrow ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
-            painter.setBrush(filled ? QBrush(Qt::NoBrush) : QBrush(colourOf(slice.colour)));
-            painter.drawPath(slicePath(layout, slice));
-        }
+        painter.setPen(isNarrow(layout, slice) ? QPen(Qt::NoPen) : QPen(Qt::white, 1));
+        painter.setBrush(colourOf(slice.colour));
+        painter.drawPath(slicePath(layout, slice));
     }
+}
+
+/// A white line at either side of each slice that is wide enough.
+void ChartPainter::paintSliceEdges(QPainter& painter, const ChartLayout& layout) {
+    QList<QLineF> edges;
+    bool narrowBefore = isNarrow(layout, layout.slices.back());
+    for (const ChartSlice& slice : layout.slices) {
+        const bool narrow = isNarrow(layout, slice);
+        if (!narrow || !narrowBefore) {
+            const QLineF edge = QLineF::fromPolar(layout.pieRadius, 90 - slice.start); // from three o'clock
+            edges.append(edge.translated(pointOf(layout.pieCentre)));
+        }
+        narrowBefore = narrow;
+    }
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawLines(edges);
 }
 
 /// Without smoothing between neighbours, but for the rim: to smooth hundreds of wedges takes longer than a
@@ -190,9 +206,15 @@ void ChartPainter::paintLabelBoxes(QPainter& painter, const ChartLayout& layout)
             const std::array line{pointOf(slice.labelLine[0]), pointOf(slice.labelLine[1]),
                                   pointOf(slice.labelLine[2])};
             painter.drawPolyline(line.data(), static_cast<int>(line.size()));
+        }
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false); // upright lines are sharp without
+    for (const ChartSlice& slice : layout.slices) {
+        if (slice.label) {
             painter.drawRect(rectOf(layout.texts[*slice.label].area));
         }
     }
+    painter.setRenderHint(QPainter::Antialiasing);
 }
 
 void ChartPainter::paintLegend(QPainter& painter, const ChartLayout& layout) const {

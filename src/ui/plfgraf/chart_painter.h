@@ -33,6 +33,7 @@ private:
     void paintAxes(QPainter& painter, const ChartLayout& layout) const;
     void paintSlices(QPainter& painter, const ChartLayout& layout) const;
     static void fillSlices(QPainter& painter, const ChartLayout& layout);
+    static void paintSliceEdges(QPainter& painter, const ChartLayout& layout);
     void paintLabelBoxes(QPainter& painter, const ChartLayout& layout) const;
     void paintLegend(QPainter& painter, const ChartLayout& layout) const;
     void paintTexts(QPainter& painter, const ChartLayout& layout) const;

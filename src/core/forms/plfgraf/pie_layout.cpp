@@ -22,9 +22,16 @@ struct SideLabel {
     std::size_t slice; // index into the layout's slices
     std::string text;
     ChartSize size;
-    double share;  // of the whole
-    double middle; // height of its middle
+    double middle = 0; // height of its middle
 };
+
+/// The labels on one side of the pie, from top to bottom.
+struct Side {
+    bool right;
+    std::vector<std::size_t> slices; // that have room for a label
+    std::vector<SideLabel> labels;
+};
+using Sides = std::array<Side, 2>;
 
 void placeSlices(const ChartLayoutTask& task) {
     const double total = totaleTorta(task.grafico);
@@ -69,72 +76,84 @@ double middleOf(const ChartSlice& slice) {
     return slice.start + slice.span / 2;
 }
 
-std::vector<SideLabel> makeLabels(const ChartLayoutTask& task, bool shares) {
-    std::vector<SideLabel> labels;
-    const ChartLayout& layout = task.layout;
-    const double total = totaleTorta(task.grafico);
-    for (std::size_t i = 0; i < layout.slices.size(); ++i) {
-        const std::size_t number = layout.slices[i].number;
-        const double value = task.grafico.valore(number);
-        const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(value) +
-                                 (shares ? "  " + testoQuota(value, total) : "");
-        ChartSize size = task.measure(ChartTextRole::value, text);
-        size = {size.width + 2 * LabelPadding, size.height + LabelPadding};
-        labels.push_back({i, text, size, layout.slices[i].span, 0});
+/// The side's slices; of too many only the largest, so that their labels have room one below the other.
+std::vector<std::size_t> labelledSlices(const ChartLayoutTask& task, bool right) {
+    const std::vector<ChartSlice>& slices = task.layout.slices;
+    std::vector<std::size_t> side;
+    for (std::size_t i = 0; i < slices.size(); ++i) {
+        if ((middleOf(slices[i]) < FullTurn / 2) == right) {
+            side.push_back(i);
+        }
     }
-    return labels;
+    const double line = task.lineHeight(ChartTextRole::value) + LabelPadding;
+    const auto room = static_cast<std::size_t>(std::max(task.body.height / line, 0.0));
+    if (side.size() > room) {
+        std::stable_sort(side.begin(), side.end(),
+                         [&](std::size_t a, std::size_t b) { return slices[a].span > slices[b].span; });
+        side.resize(room);
+    }
+    // On the right the slices descend, on the left they climb.
+    std::sort(side.begin(), side.end(),
+              [right](std::size_t a, std::size_t b) { return right ? a < b : a > b; });
+    return side;
+}
+
+SideLabel makeLabel(const ChartLayoutTask& task, std::size_t slice, bool share) {
+    const std::size_t number = task.layout.slices[slice].number;
+    const double value = task.grafico.valore(number);
+    const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(value) +
+                             (share ? "  " + testoQuota(value, totaleTorta(task.grafico)) : "");
+    const ChartSize size = task.measure(ChartTextRole::value, text);
+    return {slice, text, {size.width + 2 * LabelPadding, size.height + LabelPadding}};
+}
+
+void makeLabels(const ChartLayoutTask& task, Sides& sides, bool shares) {
+    for (Side& side : sides) {
+        side.labels.clear();
+        for (const std::size_t slice : side.slices) {
+            side.labels.push_back(makeLabel(task, slice, shares));
+        }
+    }
 }
 
 /// The largest width that leaves room for the labels on both sides; may be negative.
-double widthBetween(const ChartLayoutTask& task, const std::vector<SideLabel>& labels) {
+double widthBetween(const ChartLayoutTask& task, const Sides& sides) {
     double widest = 0;
-    for (const SideLabel& label : labels) {
-        widest = std::max(widest, label.size.width);
+    for (const Side& side : sides) {
+        for (const SideLabel& label : side.labels) {
+            widest = std::max(widest, label.size.width);
+        }
     }
     return task.body.width - 2 * (widest + LabelDistance);
 }
 
 /// With each slice's share, unless that leaves no room for the circle.
-std::vector<SideLabel> makeFittingLabels(const ChartLayoutTask& task) {
-    std::vector<SideLabel> labels = makeLabels(task, /*shares=*/true);
-    return widthBetween(task, labels) >= 2 * SmallestRadius ? labels : makeLabels(task, /*shares=*/false);
+Sides makeFittingSides(const ChartLayoutTask& task) {
+    Sides sides{Side{true, labelledSlices(task, true), {}}, Side{false, labelledSlices(task, false), {}}};
+    makeLabels(task, sides, /*shares=*/true);
+    if (widthBetween(task, sides) < 2 * SmallestRadius) {
+        makeLabels(task, sides, /*shares=*/false);
+    }
+    return sides;
 }
 
-void placeCircle(const ChartLayoutTask& task, const std::vector<SideLabel>& labels) {
+void placeCircle(const ChartLayoutTask& task, const Sides& sides) {
     const double above = BendDistance + task.lineHeight(ChartTextRole::value);
-    const double diameter = std::min(widthBetween(task, labels), task.body.height - 2 * above);
+    const double diameter = std::min(widthBetween(task, sides), task.body.height - 2 * above);
     task.layout.plot = task.body;
     task.layout.pieCentre = task.body.centre();
     task.layout.pieRadius = std::max(diameter / 2, SmallestRadius);
 }
 
-/// Leaves out the labels of the smallest slices, so that the others have room one below the other.
-void keepLargest(std::vector<SideLabel>& side, double height) {
-    const double line = side.empty() ? 1 : side.front().size.height;
-    const auto room = static_cast<std::size_t>(std::max(height / line, 0.0));
-    if (side.size() > room) {
-        std::stable_sort(side.begin(), side.end(),
-                         [](const SideLabel& a, const SideLabel& b) { return a.share > b.share; });
-        side.resize(room);
-    }
-}
-
-/// From top to bottom: on the right the slices descend, on the left they climb.
-void orderSide(std::vector<SideLabel>& side, bool right) {
-    std::sort(side.begin(), side.end(), [right](const SideLabel& a, const SideLabel& b) {
-        return right ? a.slice < b.slice : a.slice > b.slice;
-    });
-}
-
 /// Moves labels, as little as is simple, so that none covers another and all stay within the body.
-void spread(std::vector<SideLabel>& side, const ChartArea& body) {
+void spread(std::vector<SideLabel>& labels, const ChartArea& body) {
     double lowest = body.y;
-    for (SideLabel& label : side) {
+    for (SideLabel& label : labels) {
         label.middle = std::max(label.middle, lowest + label.size.height / 2);
         lowest = label.middle + label.size.height / 2;
     }
     double highest = body.bottom();
-    for (auto label = side.rbegin(); label != side.rend(); ++label) {
+    for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
         label->middle = std::min(label->middle, highest - label->size.height / 2);
         highest = label->middle - label->size.height / 2;
     }
@@ -160,21 +179,15 @@ void addSideLabel(ChartLayout& layout, const SideLabel& label, bool right) {
                             {x, label.middle - label.size.height / 2, label.size.width, label.size.height}});
 }
 
-void placeSide(const ChartLayoutTask& task, const std::vector<SideLabel>& labels, bool right) {
+void placeSide(const ChartLayoutTask& task, Side& side) {
     ChartLayout& layout = task.layout;
-    std::vector<SideLabel> side;
-    for (SideLabel label : labels) {
-        const ChartSlice& slice = layout.slices[label.slice];
-        if ((middleOf(slice) < FullTurn / 2) == right) {
-            label.middle = onCircle(layout, middleOf(slice), layout.pieRadius + BendDistance).y;
-            side.push_back(label);
-        }
+    for (SideLabel& label : side.labels) {
+        const double middle = middleOf(layout.slices[label.slice]);
+        label.middle = onCircle(layout, middle, layout.pieRadius + BendDistance).y;
     }
-    keepLargest(side, task.body.height);
-    orderSide(side, right);
-    spread(side, task.body);
-    for (const SideLabel& label : side) {
-        addSideLabel(layout, label, right);
+    spread(side.labels, task.body);
+    for (const SideLabel& label : side.labels) {
+        addSideLabel(layout, label, side.right);
     }
 }
 
@@ -192,10 +205,11 @@ void layoutPie(const ChartLayoutTask& task) {
         return;
     }
     colourSlices(task);
-    const std::vector<SideLabel> labels = makeFittingLabels(task);
-    placeCircle(task, labels);
-    placeSide(task, labels, /*right=*/true);
-    placeSide(task, labels, /*right=*/false);
+    Sides sides = makeFittingSides(task);
+    placeCircle(task, sides);
+    for (Side& side : sides) {
+        placeSide(task, side);
+    }
 }
 
 } // namespace planner

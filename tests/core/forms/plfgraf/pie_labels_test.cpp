@@ -47,6 +47,15 @@ TEST(PieLabels, KeepTheirOrderWhereTheyCrowd) {
     }
 }
 
+TEST(PieLabels, ThoseLeftOutTakeNoRoomFromTheCircle) {
+    Grafico pie = asPie(oneSeries(std::vector<double>(300, 5), 5));
+    const double radius = layoutOf(pie).pieRadius;
+    pie.etichette[7] = std::string(100, 'W');
+    EXPECT_LT(layoutOf(pie).pieRadius, radius) << "a label that is shown";
+    pie.serie[0].valori[7] = 1;
+    EXPECT_DOUBLE_EQ(layoutOf(pie).pieRadius, radius) << "the smallest slice's";
+}
+
 TEST(PieLabels, StandAsHighAsTheirSlicesWhereThereIsRoom) {
     const ChartLayout layout = layoutOf(asPie(oneSeries({3, 2, 2, 3}, 3)));
     for (const ChartSlice& slice : layout.slices) {
