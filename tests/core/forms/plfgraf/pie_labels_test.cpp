@@ -51,6 +51,7 @@ TEST(PieLabels, ThoseLeftOutTakeNoRoomFromTheCircle) {
     Grafico pie = asPie(oneSeries(std::vector<double>(300, 5), 5));
     const double radius = layoutOf(pie).pieRadius;
     pie.etichette[7] = std::string(100, 'W');
+    pie.serie[0].valori[7] = 6;
     EXPECT_LT(layoutOf(pie).pieRadius, radius) << "a label that is shown";
     pie.serie[0].valori[7] = 1;
     EXPECT_DOUBLE_EQ(layoutOf(pie).pieRadius, radius) << "the smallest slice's";
