@@ -65,14 +65,13 @@ TEST_F(ScreenReader, SaysOfTheMonthOneThingForEachKey) {
             {"Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica. Totali di marzo 2006: 3 scadenze "
              "(1 conclusa), 1 pratica. Poi nessun altro impegno."}},
            {"ctrl+c", {"La tabella è stata copiata."}},
-           {"alt+Right", {"aprile 2006.", "nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
+           {"alt+Right", {"aprile 2006, nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
            {"alt+Left",
-            {"marzo 2006.", "scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+            {"marzo 2006, scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
            {"ctrl+Left", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
            {"ctrl+Left", {"Nella riga non c'è altro prima di questa casella."}},
-           {"ctrl+m",
-            {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.", "planner non dettagliato."}},
-           {"ctrl+m", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.", "planner dettagliato."}},
+           {"ctrl+m", {"planner non dettagliato."}},
+           {"ctrl+m", {"planner dettagliato."}},
            {"shift+F10", {"Consultazione."}},
            {"Down", {"Inserimento impegni."}},
            {"Escape", {"Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
@@ -105,9 +104,9 @@ TEST_F(ScreenReader, SaysOfTheDayFromWhenToWhen) {
             {"scadenze. Neri Carla, mercoledì 15 marzo 2006, ore 8:30: 1 scadenza dalle 8:30 alle 9:45."}},
            {"Down", {"nessun impegno. Verdi Anna, mercoledì 15 marzo 2006, ore 8:30."}},
            {"alt+Right",
-            {"giovedì 16 marzo 2006.", "nessun impegno. Verdi Anna, giovedì 16 marzo 2006, ore 8:00."}},
+            {"giovedì 16 marzo 2006, nessun impegno. Verdi Anna, giovedì 16 marzo 2006, ore 8:00."}},
            {"alt+Right",
-            {"venerdì 17 marzo 2006.", "nessun impegno. Verdi Anna, venerdì 17 marzo 2006, ore 8:00."}}});
+            {"venerdì 17 marzo 2006, nessun impegno. Verdi Anna, venerdì 17 marzo 2006, ore 8:00."}}});
 }
 
 TEST_F(ScreenReader, SaysOfTheYearWhatADayHolds) {

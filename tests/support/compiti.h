@@ -110,9 +110,9 @@ inline constexpr std::array Compiti{
                  .dice("Impegni di Collab5 Neri: 2 scadenze.",
                        "Planner mensile nessun impegno. Collab5 Neri, mercoledì 15 marzo 2006.")}},
     Compito{"Passare al mese dopo",
-            "aprile 2006.",
+            "aprile 2006, nessun impegno. Collab5 Neri, sabato 15 aprile 2006.",
             {premi("Ctrl+PgDown", "Mese di Aprile 2006")
-                 .dice("aprile 2006.", "nessun impegno. Collab5 Neri, sabato 15 aprile 2006.")}},
+                 .dice("aprile 2006, nessun impegno. Collab5 Neri, sabato 15 aprile 2006.")}},
     Compito{
         "Aprire il grafico della persona scelta",
         "Planner dialog Ore di Collab5 Neri - aprile 2006: totale 7:30, media 7:30 su 1 giorno "
@@ -139,27 +139,26 @@ inline constexpr std::array Compiti{
              premi("Space", "3 spuntati su 60").dice("spuntato, 3 spuntati su 60."),
              chiudi("Esc").dice(MensileDetto,
                                 "Planner mensile nessun impegno. Collab5 Neri, sabato 15 aprile 2006.")}},
-    Compito{
-        "Inserire un impegno per una persona e un giorno",
-        StudioDetto,
-        {premi("Ctrl+F").dice(CampoCon5Detto), scrivi("il nome", "collab33").dice(TestoSostituito),
-         premi("Return").dice("Impegni di Collab33 Neri: nessun impegno.",
-                              "Planner mensile nessun impegno. Collab33 Neri, sabato 15 aprile 2006."),
-         premi("Ctrl+D").dice(CampoDataDetto), scrivi("la data", "20/6"),
-         premi("Return", "Mese di Giugno 2006")
-             .dice("giugno 2006.", "Planner mensile nessun impegno. Collab33 Neri, martedì 20 giugno 2006."),
-         apri("Ctrl+N", "Inserimento Impegni")
-             .dice("Inserimento Impegni dialog.",
-                   "Tipo di inserimento panel. Tipo di inserimento. Impegno. selected radio button"),
-         chiudi("Return").dice(StudioDetto, StudioPulsante)},
-        {},
-        "2006062033I"},
+    Compito{"Inserire un impegno per una persona e un giorno",
+            StudioDetto,
+            {premi("Ctrl+F").dice(CampoCon5Detto), scrivi("il nome", "collab33").dice(TestoSostituito),
+             premi("Return").dice("Impegni di Collab33 Neri: nessun impegno.",
+                                  "Planner mensile nessun impegno. Collab33 Neri, sabato 15 aprile 2006."),
+             premi("Ctrl+D").dice(CampoDataDetto), scrivi("la data", "20/6"),
+             premi("Return", "Mese di Giugno 2006")
+                 .dice("Planner mensile giugno 2006, nessun impegno. Collab33 Neri, martedì 20 giugno 2006."),
+             apri("Ctrl+N", "Inserimento Impegni")
+                 .dice("Inserimento Impegni dialog.",
+                       "Tipo di inserimento panel. Tipo di inserimento. Impegno. selected radio button"),
+             chiudi("Return").dice(StudioDetto, StudioPulsante)},
+            {},
+            "2006062033I"},
     Compito{
         "Andare a un giorno di tre mesi dopo",
-        "giugno 2006.",
+        "Planner mensile giugno 2006, nessun impegno. Collab7 Neri, giovedì 15 giugno 2006.",
         {premi("Ctrl+D").dice(CampoDataDetto), scrivi("la data", "15/6"),
          premi("Return", "Mese di Giugno 2006")
-             .dice("giugno 2006.", "Planner mensile nessun impegno. Collab7 Neri, giovedì 15 giugno 2006.")}},
+             .dice("Planner mensile giugno 2006, nessun impegno. Collab7 Neri, giovedì 15 giugno 2006.")}},
     Compito{"Stampare il mese",
             "Il planner è stato stampato.",
             {apri("Ctrl+P", "Stampa").dice("Stampa dialog.", "Stampante panel. Nome: combo box."),

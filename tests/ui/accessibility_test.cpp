@@ -128,6 +128,24 @@ TEST_F(AccessibilityTest, AMessageStandsInAStatusBarOfNoWindowAndOnlyOfOneThatSh
     EXPECT_EQ(bar->child(0)->text(QAccessible::Name), QStringLiteral("aprile 2006"));
 }
 
+TEST_F(AccessibilityTest, ANewPeriodIsSaidOnceByTheCellWithTheFocusOrElseByItself) {
+    bench.open("M");
+    const QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(&bench.widget("annuncio"));
+    const auto cell = [&] { return bench.view().currentIndex().data(Qt::AccessibleTextRole).toString(); };
+    QApplication::setActiveWindow(&bench.vista);
+    bench.view().setFocus();
+    EXPECT_FALSE(cell().startsWith(QStringLiteral("marzo 2006")));
+    bench.key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_TRUE(cell().startsWith(QStringLiteral("aprile 2006, "))) << cell().toStdString();
+    EXPECT_EQ(bar->childCount(), 0);
+    bench.key(Qt::Key_Right);
+    EXPECT_FALSE(cell().startsWith(QStringLiteral("aprile"))) << "it is known now";
+    bench.widget<QToolButton>("bselm1").setFocus();
+    bench.widget<QToolButton>("bselm1").click();
+    ASSERT_EQ(bar->childCount(), 1);
+    EXPECT_EQ(bar->child(0)->text(QAccessible::Name), QStringLiteral("maggio 2006"));
+}
+
 TEST_F(AccessibilityTest, AMessageBehindADialogWaitsUntilTheWindowIsBack) {
     bench.open("M");
     QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(&bench.widget("annuncio"));

@@ -55,7 +55,7 @@ QVariant GridModel::cellData(Casella casella, int role) const {
     case Qt::BackgroundRole:
         return qtColor(m_griglia.aspetto(casella).sfondo);
     case Qt::AccessibleTextRole:
-        return fromUtf8(m_voci.nome(casella));
+        return cellName(casella);
     case Qt::AccessibleDescriptionRole:
     case Qt::StatusTipRole:
         return fromUtf8(m_voci.frase(casella));
@@ -64,6 +64,12 @@ QVariant GridModel::cellData(Casella casella, int role) const {
     default:
         return {};
     }
+}
+
+QString GridModel::cellName(Casella casella) const {
+    const QString name = fromUtf8(m_voci.nome(casella));
+    return m_periodNamed && casella == m_griglia.corrente() ? cornerName() + QStringLiteral(", ") + name
+                                                            : name;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -115,9 +121,6 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     }
     if (misure) {
         Q_EMIT measuresChanged();
-    }
-    if (!area.empty() && area.rigaMin < m_griglia.FixedRows()) {
-        Q_EMIT periodChanged();
     }
     const bool fixed = area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols();
     if (!area.empty() && (fixed || area.intestazioni)) {

@@ -55,7 +55,6 @@ void GridView::connectEvents() {
         m_names->viewport()->update();
         m_corner->updateCells();
     });
-    connect(m_model, &GridModel::periodChanged, this, [this] { m_otherPeriod = true; });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
         Q_EMIT gesture({{m_model->gridRow(row), 0}, mezzo});
@@ -235,7 +234,9 @@ QModelIndex GridView::currentCell() const {
 }
 
 void GridView::showCurrentCell() {
-    const bool otherPeriod = std::exchange(m_otherPeriod, false);
+    const QString period = m_model->cornerName();
+    const bool otherPeriod = period != std::exchange(m_period, period);
+    m_model->nameCurrentWithPeriod(otherPeriod && isVisible());
     if (otherPeriod) {
         renewItems(*this); // in the same place, another day
     }

@@ -108,7 +108,7 @@ private:
     Scala m_scala;
     Ingrandimento m_ingrandimento;
     int m_turned = 0;           // of the wheel, short of a step
-    bool m_otherPeriod = false; // since the current cell was shown last
+    QString m_period; // as the current cell was shown last
 };
 
 } // namespace planner

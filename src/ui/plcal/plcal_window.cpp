@@ -308,6 +308,14 @@ void PlcalWindow::annuncia(const std::string& testo) {
     m_annuncio->di(fromUtf8(testo));
 }
 
+// The cell that has the focus, or that the field gives it back to, says it first.
+void PlcalWindow::annunciaPeriodo(const std::string& periodo) {
+    const GridView* grid = visibleGrid();
+    if (grid == nullptr || !(grid->hasFocus() || m_campo->isVisible())) {
+        annuncia(periodo);
+    }
+}
+
 void PlcalWindow::mostraGuida() {
     if (!m_guida) {
         m_guida = std::make_unique<GuidaWindow>();

@@ -58,6 +58,7 @@ public:
     void mostraInformazioni() override;
     void mostraGuida() override;
     void annuncia(const std::string& testo) override;
+    void annunciaPeriodo(const std::string& periodo) override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.
