@@ -107,7 +107,7 @@ private:
     GridCorner* m_corner;
     Scala m_scala;
     Ingrandimento m_ingrandimento;
-    int m_turned = 0;           // of the wheel, short of a step
+    int m_turned = 0; // of the wheel, short of a step
     QString m_period; // as the current cell was shown last
 };
 
