@@ -70,7 +70,6 @@ void Letters::write(QPainter& painter, const QRect& place, const QString& text, 
         written.shaped.setText(line.replace(QLatin1Char('\n'), QLatin1Char(' ')));
         written.shaped.setTextFormat(Qt::PlainText);
         written.shaped.prepare({}, m_font);
-        written.advance = QFontMetricsF(m_font).horizontalAdvance(text);
     }
     const double left = centred ? (place.width() - written.advance) / 2 : 0;
     const int top = qRound((place.height() - written.shaped.size().height()) / 2);

@@ -21,23 +21,23 @@ public:
     explicit Letters(const QFont& font) : m_font(font), m_metrics(font) {}
 
     const QFont& font() const { return m_font; }
-    const QFontMetrics& metrics() const { return m_metrics; }
-    /// The pixels that the text takes.
-    int width(const QString& text) const { return known(text).width; }
+    const QFontMetricsF& metrics() const { return m_metrics; }
+    /// The pixels that the text takes: rounded, and as it is written on.
+    int width(const QString& text) const { return qRound(advance(text)); }
+    double advance(const QString& text) const { return known(text).advance; }
     /// Writes one line of plain text in the middle of the place's height, and of its width or from its left
     /// edge.
     void write(QPainter& painter, const QRect& place, const QString& text, bool centred) const;
 
 private:
     struct Known {
-        int width = 0;
+        double advance = 0;
         QStaticText shaped; // once it is written
-        double advance = 0; // the same
     };
     Known& known(const QString& text) const;
 
     QFont m_font;
-    QFontMetrics m_metrics;
+    QFontMetricsF m_metrics;
     mutable QHash<QString, Known> m_known;
 };
 

@@ -6,7 +6,6 @@
 #include "ui/kit/text.h"
 #include "ui/plfgraf/chart_shapes.h"
 
-#include <QFontMetricsF>
 #include <QLineF>
 #include <QList>
 #include <QPaintEngine>
@@ -30,10 +29,10 @@ QColor colourOf(Rgb value) {
     return {value.red, value.green, value.blue};
 }
 
-QFont fontFor(const DescrizioneCarattere& described, double factor) {
+Letters lettersFor(const DescrizioneCarattere& described, double factor) {
     QFont font = qtFont(described, factor);
     font.setPixelSize(std::max(qRound(font.pointSizeF() * PixelsPerPoint), 1));
-    return font;
+    return Letters(font);
 }
 
 /// Whether a line beside the slice would leave little of its arc.
@@ -43,30 +42,27 @@ bool isNarrow(const ChartLayout& layout, const ChartSlice& slice) {
 }
 
 /// The text as wide as its area allows.
-QString fitted(const QString& text, const QFont& font, double width) {
-    const QFontMetricsF metrics(font);
+QString fitted(const QString& text, const Letters& letters, double width) {
     constexpr double tolerance = 1; // the area was measured from this very text
-    return metrics.horizontalAdvance(text) <= width + tolerance
+    return letters.advance(text) <= width + tolerance
                ? text
-               : metrics.elidedText(text, Qt::ElideRight, width);
+               : letters.metrics().elidedText(text, Qt::ElideRight, width);
 }
 
 } // namespace
 
 ChartPainter::ChartPainter(const Grafico& grafico, double fontFactor)
-    : m_grafico(grafico), m_fonts{fontFor({carattere(Carattere::grassetto).famiglia, TitlePoints, true},
-                                          fontFactor),
-                                  fontFor(grafico.fontTitoliAssi, fontFactor),
-                                  fontFor(carattere(Carattere::grassetto), fontFactor),
-                                  fontFor(carattere(Carattere::grassetto), fontFactor),
-                                  fontFor(carattere(Carattere::normale), fontFactor),
-                                  fontFor({carattere(Carattere::grassetto).famiglia, HeadingPoints, true},
-                                          fontFactor)} {}
+    : m_grafico(grafico),
+      m_letters{lettersFor({carattere(Carattere::grassetto).famiglia, TitlePoints, true}, fontFactor),
+                lettersFor(grafico.fontTitoliAssi, fontFactor),
+                lettersFor(carattere(Carattere::grassetto), fontFactor),
+                lettersFor(carattere(Carattere::grassetto), fontFactor),
+                lettersFor(carattere(Carattere::normale), fontFactor),
+                lettersFor({carattere(Carattere::grassetto).famiglia, HeadingPoints, true}, fontFactor)} {}
 
 MeasureText ChartPainter::measure() const {
     return [this](ChartTextRole role, const std::string& text) {
-        const QFontMetricsF metrics(font(role));
-        return ChartSize{metrics.horizontalAdvance(fromUtf8(text)), metrics.height()};
+        return ChartSize{letters(role).advance(fromUtf8(text)), letters(role).metrics().height()};
     };
 }
 
@@ -158,17 +154,20 @@ void ChartPainter::paintSlices(QPainter& painter, const ChartLayout& layout) con
     }
 }
 
-/// A white line at either side of each slice that is wide enough.
+/// A white line at either side of each slice that is wide enough, from where it leaves something of the
+/// slice.
 void ChartPainter::paintSliceEdges(QPainter& painter, const ChartLayout& layout) {
+    constexpr double leastArc = 2; // pixels
     QList<QLineF> edges;
-    bool narrowBefore = isNarrow(layout, layout.slices.back());
+    const ChartSlice* before = &layout.slices.back();
     for (const ChartSlice& slice : layout.slices) {
-        const bool narrow = isNarrow(layout, slice);
-        if (!narrow || !narrowBefore) {
-            const QLineF edge = QLineF::fromPolar(layout.pieRadius, 90 - slice.start); // from three o'clock
+        if (!isNarrow(layout, slice) || !isNarrow(layout, *before)) {
+            const double widest = qDegreesToRadians(std::max(slice.span, before->span));
+            QLineF edge = QLineF::fromPolar(layout.pieRadius, 90 - slice.start); // from three o'clock
+            edge.setP1(edge.pointAt(leastArc / widest / layout.pieRadius));
             edges.append(edge.translated(pointOf(layout.pieCentre)));
         }
-        narrowBefore = narrow;
+        before = &slice;
     }
     painter.setPen(QPen(Qt::white, 1));
     painter.drawLines(edges);
@@ -234,17 +233,16 @@ void ChartPainter::paintTexts(QPainter& painter, const ChartLayout& layout) cons
 }
 
 void ChartPainter::paintText(QPainter& painter, const PlacedText& placed, bool onPaper) const {
-    const QFont& textFont = font(placed.role);
     const QRectF area = rectOf(placed.area);
     painter.save();
-    painter.setFont(textFont);
+    painter.setFont(letters(placed.role).font());
     QRectF box = area;
     if (placed.upwards) {
         painter.translate(area.bottomLeft());
         painter.rotate(-90);
         box = QRectF(0, 0, area.height(), area.width());
     }
-    const QString text = fitted(fromUtf8(placed.text), textFont, box.width());
+    const QString text = fitted(fromUtf8(placed.text), letters(placed.role), box.width());
     if (onPaper) {
         painter.fillRect(box, Qt::white);
     }

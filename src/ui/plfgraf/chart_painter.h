@@ -3,8 +3,7 @@
 #pragma once
 
 #include "forms/plfgraf/chart_layout.h"
-
-#include <QFont>
+#include "ui/kit/fitting_font.h"
 
 #include <array>
 
@@ -39,10 +38,10 @@ private:
     void paintTexts(QPainter& painter, const ChartLayout& layout) const;
     void paintText(QPainter& painter, const PlacedText& placed, bool onPaper) const;
 
-    const QFont& font(ChartTextRole role) const { return m_fonts.at(static_cast<std::size_t>(role)); }
+    const Letters& letters(ChartTextRole role) const { return m_letters.at(static_cast<std::size_t>(role)); }
 
     const Grafico& m_grafico;
-    std::array<QFont, 6> m_fonts; // by role
+    std::array<Letters, 6> m_letters; // by role
 };
 
 } // namespace planner
