@@ -54,29 +54,30 @@ protected:
 TEST_F(ScreenReader, SaysOfTheMonthOneThingForEachKey) {
     open('M', "20060315", "Planner Mensile",
          "Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza.");
-    check(finestra(),
-          {{"Right", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
-           {"Right", {"nessun impegno. Neri Carla, venerdì 17 marzo 2006."}},
-           {"Down", {"nessun impegno. Verdi Anna, venerdì 17 marzo 2006."}},
-           {"Left", {"impegni vari. Verdi Anna, giovedì 16 marzo 2006: 1 impegno vario."}},
-           {"space", {"Impegni di Verdi Anna: 1 impegno vario."}},
-           {"Up", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
-           {"ctrl+space",
-            {"Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica. Totali di marzo 2006: 3 scadenze "
-             "(1 conclusa), 1 pratica. Poi nessun altro impegno."}},
-           {"ctrl+c", {"La tabella è stata copiata."}},
-           {"alt+Right", {"aprile 2006, nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
-           {"alt+Left",
-            {"marzo 2006, scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
-           {"ctrl+Left", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
-           {"ctrl+Left", {"Nella riga non c'è altro prima di questa casella."}},
-           {"ctrl+m", {"planner non dettagliato."}},
-           {"ctrl+m", {"planner dettagliato."}},
-           {"shift+F10", {"Consultazione."}},
-           {"Down", {"Inserimento impegni."}},
-           {"Escape", {"Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
-           {"ctrl+minus", {"Ingrandimento al 90 %."}},
-           {"ctrl+0", {"Ingrandimento al 100 %."}}});
+    check(
+        finestra(),
+        {{"Right", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+         {"Right", {"nessun impegno. Neri Carla, venerdì 17 marzo 2006."}},
+         {"Down", {"nessun impegno. Verdi Anna, venerdì 17 marzo 2006."}},
+         {"Left", {"impegni vari. Verdi Anna, giovedì 16 marzo 2006: 1 impegno vario."}},
+         {"space", {"Impegni di Verdi Anna: 1 impegno vario."}},
+         {"Up", {"scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+         {"ctrl+space",
+          {"Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica. Totali di marzo 2006: 3 scadenze "
+           "(1 conclusa), 1 pratica. Poi nessun altro impegno."}},
+         {"ctrl+c", {"La tabella è stata copiata."}},
+         {"alt+Right", {"aprile 2006, nessun impegno. Neri Carla, domenica 16 aprile 2006."}},
+         {"alt+Left",
+          {"marzo 2006, scadenze, pratiche. Neri Carla, giovedì 16 marzo 2006: 2 scadenze, 1 pratica."}},
+         {"ctrl+Left", {"scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
+         {"ctrl+Left", {"Nella riga non c'è altro prima di questa casella."}},
+         {"ctrl+m", {"planner non dettagliato, scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
+         {"ctrl+m", {"planner dettagliato, scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
+         {"shift+F10", {"Consultazione."}},
+         {"Down", {"Inserimento impegni."}},
+         {"Escape", {"Planner mensile scadenze. Neri Carla, mercoledì 15 marzo 2006: 1 scadenza."}},
+         {"ctrl+minus", {"Ingrandimento al 90 %."}},
+         {"ctrl+0", {"Ingrandimento al 100 %."}}});
 }
 
 TEST_F(ScreenReader, NamesAFieldAndSaysWhereItLeadsWithTheHolidaysName) {

@@ -181,7 +181,7 @@ public:
     void mostraInformazioni() override { m_journal.push_back("information"); }
     void mostraGuida() override { m_journal.push_back("guide"); }
     void annuncia(const std::string& testo) override { announced.push_back(testo); }
-    void annunciaPeriodo(const std::string& periodo) override { announced.push_back(periodo); }
+    void annunciaConCasella(const std::string& testo) override { announced.push_back(testo); }
 
     std::vector<std::string> announced;
 

@@ -140,7 +140,10 @@ TEST_F(AccessibilityTest, ANewPeriodIsSaidOnceByTheCellWithTheFocusOrElseByItsel
     EXPECT_EQ(bar->childCount(), 0);
     bench.key(Qt::Key_Right);
     EXPECT_FALSE(cell().startsWith(QStringLiteral("aprile"))) << "it is known now";
+    bench.key(Qt::Key_M, Qt::ControlModifier);
+    EXPECT_TRUE(cell().startsWith(QStringLiteral("planner non dettagliato, "))) << cell().toStdString();
     bench.widget<QToolButton>("bselm1").setFocus();
+    EXPECT_FALSE(cell().startsWith(QStringLiteral("planner"))) << "when the focus comes back";
     bench.widget<QToolButton>("bselm1").click();
     ASSERT_EQ(bar->childCount(), 1);
     EXPECT_EQ(bar->child(0)->text(QAccessible::Name), QStringLiteral("maggio 2006"));

@@ -68,8 +68,8 @@ QVariant GridModel::cellData(Casella casella, int role) const {
 
 QString GridModel::cellName(Casella casella) const {
     const QString name = fromUtf8(m_voci.nome(casella));
-    return m_periodNamed && casella == m_griglia.corrente() ? cornerName() + QStringLiteral(", ") + name
-                                                            : name;
+    const bool after = !m_beforeCurrent.isEmpty() && casella == m_griglia.corrente();
+    return after ? m_beforeCurrent + QStringLiteral(", ") + name : name;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -121,6 +121,9 @@ void GridModel::celleCambiate(const AreaCelle& area, bool misure) {
     }
     if (misure) {
         Q_EMIT measuresChanged();
+    }
+    if (!area.empty() && area.rigaMin < m_griglia.FixedRows()) {
+        Q_EMIT periodChanged();
     }
     const bool fixed = area.rigaMin < m_griglia.FixedRows() || area.colonnaMin < Griglia::FixedCols();
     if (!area.empty() && (fixed || area.intestazioni)) {

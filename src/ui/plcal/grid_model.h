@@ -38,8 +38,8 @@ public:
     const Griglia& griglia() const { return m_griglia; }
     /// What the corner between the headers is called: the period.
     QString cornerName() const;
-    /// From now on the current cell's name begins with the period's, or does not.
-    void nameCurrentWithPeriod(bool period) { m_periodNamed = period; }
+    /// From now on the current cell's name begins with the text; as it is, for an empty one.
+    void nameCurrentAfter(const QString& text) { m_beforeCurrent = text; }
     /// The grid's own coordinates of a data cell.
     Casella casella(const QModelIndex& index) const {
         return {gridRow(index.row()), gridCol(index.column())};
@@ -52,6 +52,8 @@ Q_SIGNALS:
     void measuresChanged();
     /// Something in the fixed rows or the first column changed.
     void headersChanged();
+    /// The fixed rows are of another period.
+    void periodChanged();
 
 private:
     QVariant cellData(Casella casella, int role) const;
@@ -62,7 +64,7 @@ private:
     Griglia& m_griglia;
     VociGriglia m_voci;
     int m_rows; // what the views know
-    bool m_periodNamed = false;
+    QString m_beforeCurrent;
 };
 
 } // namespace planner

@@ -55,6 +55,7 @@ void GridView::connectEvents() {
         m_names->viewport()->update();
         m_corner->updateCells();
     });
+    connect(m_model, &GridModel::periodChanged, this, [this] { m_otherPeriod = true; });
     connect(m_names, &GridHeader::pressed, this, [this](int row, Mezzo mezzo) {
         setFocus();
         Q_EMIT gesture({{m_model->gridRow(row), 0}, mezzo});
@@ -195,6 +196,7 @@ void GridView::focusInEvent(QFocusEvent*) {
 
 void GridView::focusOutEvent(QFocusEvent*) {
     update(currentIndex());
+    m_model->nameCurrentAfter({}); // that has been said
 }
 
 bool GridView::viewportEvent(QEvent* event) {
@@ -234,17 +236,17 @@ QModelIndex GridView::currentCell() const {
 }
 
 void GridView::showCurrentCell() {
-    const QString period = m_model->cornerName();
-    const bool otherPeriod = period != std::exchange(m_period, period);
-    m_model->nameCurrentWithPeriod(otherPeriod && isVisible());
-    if (otherPeriod) {
+    const QString before = std::exchange(m_beforeCurrent, {});
+    m_model->nameCurrentAfter(before);
+    const bool other = std::exchange(m_otherPeriod, false) || !before.isEmpty();
+    if (other) {
         renewItems(*this); // in the same place, another day
     }
     if (currentCell() != currentIndex()) {
         setAutoScroll(false);
         selectionModel()->setCurrentIndex(currentCell(), QItemSelectionModel::NoUpdate);
         setAutoScroll(true);
-    } else if (otherPeriod && hasFocus()) {
+    } else if (other && hasFocus()) {
         QAccessibleEvent onCell(this, QAccessible::Focus);
         QAccessible::updateAccessibility(&onCell);
     }

@@ -42,6 +42,8 @@ public:
     /// The current cell is the grid's; what the toolkit takes for it follows, without scrolling and without
     /// an event.
     void showCurrentCell();
+    /// Has a screen reader say the text, and the current cell after it, when that is shown the next time.
+    void sayBeforeCurrentCell(const QString& text) { m_beforeCurrent = text; }
     void scrollToCurrentCell();
     /// Disables the period buttons that would do nothing.
     void updateButtons(const std::function<bool(const PulsantePeriodo&)>& active);
@@ -107,8 +109,9 @@ private:
     GridCorner* m_corner;
     Scala m_scala;
     Ingrandimento m_ingrandimento;
-    int m_turned = 0; // of the wheel, short of a step
-    QString m_period; // as the current cell was shown last
+    int m_turned = 0;           // of the wheel, short of a step
+    bool m_otherPeriod = false; // since the current cell was shown last
+    QString m_beforeCurrent;
 };
 
 } // namespace planner

@@ -308,11 +308,12 @@ void PlcalWindow::annuncia(const std::string& testo) {
     m_annuncio->di(fromUtf8(testo));
 }
 
-// The cell that has the focus, or that the field gives it back to, says it first.
-void PlcalWindow::annunciaPeriodo(const std::string& periodo) {
-    const GridView* grid = visibleGrid();
-    if (grid == nullptr || !(grid->hasFocus() || m_campo->isVisible())) {
-        annuncia(periodo);
+void PlcalWindow::annunciaConCasella(const std::string& testo) {
+    GridView* grid = visibleGrid();
+    if (grid != nullptr && (grid->hasFocus() || m_campo->isVisible())) { // the field gives it back
+        grid->sayBeforeCurrentCell(fromUtf8(testo));
+    } else {
+        annuncia(testo);
     }
 }
 

@@ -58,7 +58,7 @@ public:
     void mostraInformazioni() override;
     void mostraGuida() override;
     void annuncia(const std::string& testo) override;
-    void annunciaPeriodo(const std::string& periodo) override;
+    void annunciaConCasella(const std::string& testo) override;
 
 Q_SIGNALS:
     /// Everything is shown anew: once for each event.

@@ -111,8 +111,8 @@ void plcal::showChart() {
 
 void plcal::setDettagliato(bool dettagliato) {
     m_controlli.Toolbar1.setDettagliato(dettagliato);
+    m_porte.vista.annunciaConCasella(dettagliato ? "planner dettagliato" : "planner non dettagliato");
     refreshGrid();
-    m_porte.vista.annuncia(dettagliato ? "planner dettagliato" : "planner non dettagliato");
 }
 
 void plcal::refreshGrid() {

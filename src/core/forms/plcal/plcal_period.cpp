@@ -31,7 +31,7 @@ void plcal::premi(std::string_view gruppo, int indice) {
         }
         refill(target);
         if (target != shown) {
-            m_porte.vista.annunciaPeriodo(nomePeriodo(m_controlli));
+            m_porte.vista.annunciaConCasella(nomePeriodo(m_controlli));
         }
     });
 }
@@ -76,7 +76,7 @@ bool plcal::mostraGiorno(Data giorno) {
         showPickedDay(giorno);
     } else {
         refill(giorno);
-        m_porte.vista.annunciaPeriodo(nomePeriodo(m_controlli));
+        m_porte.vista.annunciaConCasella(nomePeriodo(m_controlli));
     }
     return true;
 }

@@ -47,8 +47,9 @@ public:
     virtual void mostraInformazioni() = 0;
     /// Has a screen reader say the text, UTF-8.
     virtual void annuncia(const std::string& testo) = 0;
-    /// The same of the period that is shown now, with the cell in the grid where that has the focus.
-    virtual void annunciaPeriodo(const std::string& periodo) = 0;
+    /// The same before the current cell, in one, with the next `aggiorna`; alone where the focus is not in
+    /// the grid.
+    virtual void annunciaConCasella(const std::string& testo) = 0;
     /// Shows the office's guide in a window of its own, which `nascondi` takes out of sight too.
     virtual void mostraGuida() = 0;
 };
