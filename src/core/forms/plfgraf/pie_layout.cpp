@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace planner {
 
@@ -98,20 +99,21 @@ std::vector<std::size_t> labelledSlices(const ChartLayoutTask& task, bool right)
     return side;
 }
 
-SideLabel makeLabel(const ChartLayoutTask& task, std::size_t slice, bool share) {
+/// `total` is what the slice's share is told of; without one it is not told.
+SideLabel makeLabel(const ChartLayoutTask& task, std::size_t slice, std::optional<double> total) {
     const std::size_t number = task.layout.slices[slice].number;
     const double value = task.grafico.valore(number);
     const std::string text = utf8FromCp1252(task.grafico.etichetta(number)) + "  " + testoOre(value) +
-                             (share ? "  " + testoQuota(value, totaleTorta(task.grafico)) : "");
+                             (total ? "  " + testoQuota(value, *total) : "");
     const ChartSize size = task.measure(ChartTextRole::value, text);
     return {slice, text, {size.width + 2 * LabelPadding, size.height + LabelPadding}};
 }
 
-void makeLabels(const ChartLayoutTask& task, Sides& sides, bool shares) {
+void makeLabels(const ChartLayoutTask& task, Sides& sides, std::optional<double> total) {
     for (Side& side : sides) {
         side.labels.clear();
         for (const std::size_t slice : side.slices) {
-            side.labels.push_back(makeLabel(task, slice, shares));
+            side.labels.push_back(makeLabel(task, slice, total));
         }
     }
 }
@@ -130,9 +132,9 @@ double widthBetween(const ChartLayoutTask& task, const Sides& sides) {
 /// With each slice's share, unless that leaves no room for the circle.
 Sides makeFittingSides(const ChartLayoutTask& task) {
     Sides sides{Side{true, labelledSlices(task, true), {}}, Side{false, labelledSlices(task, false), {}}};
-    makeLabels(task, sides, /*shares=*/true);
+    makeLabels(task, sides, totaleTorta(task.grafico));
     if (widthBetween(task, sides) < 2 * SmallestRadius) {
-        makeLabels(task, sides, /*shares=*/false);
+        makeLabels(task, sides, std::nullopt);
     }
     return sides;
 }
