@@ -127,17 +127,7 @@ void CellPainter::paintBlock(QPainter& painter, const CellBlock& block, const Gr
     for (int row = 0; row < block.rows(); ++row) {
         paintGrounds(painter, block, row, griglia);
     }
-    const QRect whole = block.place(0, 0).united(block.place(block.rows() - 1, block.columns() - 1));
-    for (int row = 0; row < block.rows(); ++row) {
-        const QRect place = block.place(row, 0);
-        painter.fillRect(QRect(whole.left(), place.bottom(), whole.width(), 1),
-                         qtColor(lineBelow(griglia, block.first.riga + row)));
-    }
-    for (int column = 0; column < block.columns(); ++column) {
-        const QRect place = block.place(0, column);
-        painter.fillRect(QRect(place.right(), whole.top(), 1, whole.height()),
-                         qtColor(lineBeside(griglia, block.first.colonna + column)));
-    }
+    paintLines(painter, block, griglia);
     for (int row = 0; row < block.rows(); ++row) {
         for (int column = 0; column < block.columns(); ++column) {
             paintContents(painter, block.place(row, column), griglia, block.casella(row, column));
@@ -148,6 +138,20 @@ void CellPainter::paintBlock(QPainter& painter, const CellBlock& block, const Gr
     if (row >= 0 && row < block.rows() && column >= 0 && column < block.columns()) {
         const Colore colore = cornice(griglia.aspetto(griglia.corrente()).fondo);
         paintFrame(painter, block.place(row, column).adjusted(0, 0, -1, -1), colore, focus ? 2 : 1);
+    }
+}
+
+void CellPainter::paintLines(QPainter& painter, const CellBlock& block, const Griglia& griglia) {
+    const QRect whole = block.place(0, 0).united(block.place(block.rows() - 1, block.columns() - 1));
+    for (int row = 0; row < block.rows(); ++row) {
+        const QRect place = block.place(row, 0);
+        painter.fillRect(QRect(whole.left(), place.bottom(), whole.width(), 1),
+                         qtColor(lineBelow(griglia, block.first.riga + row)));
+    }
+    for (int column = 0; column < block.columns(); ++column) {
+        const QRect place = block.place(0, column);
+        painter.fillRect(QRect(place.right(), whole.top(), 1, whole.height()),
+                         qtColor(lineBeside(griglia, block.first.colonna + column)));
     }
 }
 

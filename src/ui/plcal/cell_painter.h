@@ -33,7 +33,7 @@ struct CellBlock {
     }
 };
 
-/// Paints the cells of a grid: background, picture, text, lines. Delegate, headers and corner share it, so
+/// Paints the cells of a grid: background, picture, text, lines. Grid, headers and corner share it, so
 /// that every cell looks the same wherever it stands.
 class CellPainter {
 public:
@@ -77,7 +77,10 @@ private:
     void paintBar(QPainter& painter, const QRect& bar, const FasciaImpegno& fascia, int col, Colore colore);
     /// The bar's picture; its drawings stand in a line where the bar is too low for a square of them.
     void paintBarPicture(QPainter& painter, const QRect& bar, int picture);
+    /// Of one row, cells of one colour at once.
     static void paintGrounds(QPainter& painter, const CellBlock& block, int row, const Griglia& griglia);
+    /// A line for each row and each column.
+    static void paintLines(QPainter& painter, const CellBlock& block, const Griglia& griglia);
     /// What stands on the cell's ground and between its lines.
     void paintContents(QPainter& painter, const QRect& rect, const Griglia& griglia, Casella casella,
                        int keptFree = 0);
