@@ -102,8 +102,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Space) {
         announce(currentCell(), Mezzo::spazio);
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-        Q_EMIT menuRequested(currentCellOnScreen(),
-                             /*byKey=*/true); // the Menu key comes as a context menu event
+        // The Menu key comes as a context menu event.
+        Q_EMIT menuRequested(currentCellOnScreen(), /*byKey=*/true);
     } else if (const auto action = cursorActionOf(*event)) {
         moveByKey(*action, event->modifiers());
     } else {

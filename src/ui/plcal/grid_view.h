@@ -111,7 +111,7 @@ private:
     Ingrandimento m_ingrandimento;
     int m_turned = 0;           // of the wheel, short of a step
     bool m_otherPeriod = false; // since the current cell was shown last
-    QString m_beforeCurrent;
+    QString m_beforeCurrent;    // to be said before it when it is shown the next time
 };
 
 } // namespace planner

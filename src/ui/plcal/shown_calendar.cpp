@@ -60,8 +60,10 @@ ShownCalendar::ShownCalendar(QWidget* parent) : QCalendarWidget(parent), m_lette
         days->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where it was
         days->setAccessibleName(QStringLiteral("Giorni del calendario"));
         days->verticalHeader()->setMinimumSectionSize(SmallestRow); // six weeks fit the space there is
-        days->setItemDelegate(new PlainItems(
-            [this](auto&&... item) { paintItem(std::forward<decltype(item)>(item)...); }, days));
+        days->setItemDelegate(
+            new PlainItems([this](QPainter& painter, const QRect& rect,
+                                  const QModelIndex& item) { paintItem(painter, rect, item); },
+                           days));
     }
     connect(this, &QCalendarWidget::clicked, this, [this](QDate day) {
         if (day != m_selected) { // else it is announced already
