@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/shown_calendar.h"
 
+#include "grids/layout.h"
 #include "ui/kit/controls.h"
 
 #include <QApplication>
@@ -145,28 +146,26 @@ QDate ShownCalendar::dateOf(const QModelIndex& index) const {
     return first.addMonths(after - before).addDays(day - 1);
 }
 
-QColor ShownCalendar::lettersOf(QDate date) const {
+QColor ShownCalendar::lettersOf(QDate date, const QColor& ofWeekday) const {
     const bool ofMonth = date.month() == monthShown() && date.year() == yearShown();
     if (!ofMonth || date < minimumDate() || date > maximumDate()) {
         return palette().color(QPalette::Disabled, QPalette::Text);
     }
-    if (date == selectedDate()) {
-        return palette().color(QPalette::HighlightedText);
-    }
-    return date.dayOfWeek() >= Qt::Saturday ? weekendLetters() : palette().color(QPalette::Text);
+    return date == selectedDate() ? palette().color(QPalette::HighlightedText) : ofWeekday;
 }
 
 void ShownCalendar::paintItem(QPainter& painter, const QRect& rect, const QModelIndex& index) {
+    const bool weekend = isWeekendColumn(index.column() + 1);
+    const QColor ofWeekday = weekend ? weekendLetters() : palette().color(QPalette::Text);
     if (index.row() == 0) {
-        const bool weekend = index.column() + 1 >= Qt::Saturday;
         painter.fillRect(rect, palette().color(QPalette::AlternateBase));
-        painter.setPen(weekend ? weekendLetters() : palette().color(QPalette::Text));
+        painter.setPen(ofWeekday);
     } else {
         const QDate date = dateOf(index);
         if (date == selectedDate()) {
             painter.fillRect(rect, palette().color(QPalette::Highlight));
         }
-        painter.setPen(lettersOf(date));
+        painter.setPen(lettersOf(date, ofWeekday));
     }
     m_letters.write(painter, rect, index.data().toString(), /*centred=*/true);
 }

@@ -32,7 +32,7 @@ private:
     /// The day of an item below the letters of the weekdays; the month before and the one after fill the
     /// weeks.
     QDate dateOf(const QModelIndex& index) const;
-    QColor lettersOf(QDate date) const;
+    QColor lettersOf(QDate date, const QColor& ofWeekday) const;
     void paintItem(QPainter& painter, const QRect& rect, const QModelIndex& index);
     void hideNavigation();
     void fitLetters();
