@@ -10,9 +10,9 @@
 #include "event_signal.h"
 #include "event_table.h"
 #include "event_wait.h"
-#include "futex.h"
 
 #include <errno.h>
+#include <stddef.h>
 
 // A signal whose creator died before this process came is no longer anybody's.
 static void forgetOrphanSignal(const EventObject* event) {
@@ -121,10 +121,9 @@ static int sleepUnlocked(EventHandle* handle) {
     return result;
 }
 
-// Takes an event out of use whose last signal this process has just taken.
+// Frees the name of an event whose last signal this process has just taken.
 static void finishLast(EventHandle* handle) {
     const int folder = lockEventFolder();
-    futexWakeAll(&handle->object.state->toHost);
     freeName(folder, handle->file, &handle->object);
     unlockEventFolder(folder);
 }

@@ -33,8 +33,11 @@ void freeName(int folder, const char* file, const EventObject* event) {
 void retireEvent(int folder, const char* file, const EventObject* event) {
     EventState* state = wholeState(event);
     if (state != NULL) {
-        atomic_store(&state->toHost, SIGNAL_RETIRED);
+        // A dead creator's; that of one that has removed the event is SIGNAL_LAST, and may still be taken.
+        uint32_t orphan = SIGNAL_PENDING;
+        atomic_compare_exchange_strong(&state->toCreator, &orphan, SIGNAL_RETIRED);
         closeDirection(&state->toCreator);
+        atomic_store(&state->toHost, SIGNAL_RETIRED);
         wakeBothSides(state);
     }
     freeName(folder, file, event);
@@ -44,8 +47,9 @@ void retireAsCreator(int folder, const char* file, const EventObject* event) {
     EventState* state = wholeState(event);
     bool kept = false;
     if (state != NULL) {
-        kept = closeDirection(&state->toHost);
+        // In this order: who sees that the other direction is out of use knows whether its signal was taken.
         closeDirection(&state->toCreator);
+        kept = closeDirection(&state->toHost);
         wakeBothSides(state);
     }
     if (!kept) {

@@ -67,14 +67,18 @@ static bool isQuiet(uint32_t toHost) {
 }
 
 // A host that meets many events, one after the other, must not keep a descriptor of each. A signal
-// that a dead creator left for it stays, and so does a death that it has not been told of.
+// that a dead creator left for it stays, and so does a death that it has not been told of, or a signal of
+// its own that the creator did not take.
 static bool isOfNoMoreUse(const EventHandle* handle) {
     if (handle->creator || handle->users > 1) {
         return false;
     }
     const EventState* state = wholeState(&handle->object);
-    if (state == NULL || atomic_load(&state->toHost) == SIGNAL_RETIRED) {
+    if (state == NULL) {
         return true;
+    }
+    if (atomic_load(&state->toHost) == SIGNAL_RETIRED) {
+        return !handle->met || atomic_load(&state->toCreator) != SIGNAL_LAST;
     }
     return !handle->met && isQuiet(atomic_load(&state->toHost)) &&
            !hasOtherCreator(handle->object.descriptor);

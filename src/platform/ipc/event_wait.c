@@ -18,6 +18,15 @@ static bool take(_Atomic uint32_t* direction, uint32_t signal, uint32_t after) {
     return atomic_compare_exchange_strong(direction, &signal, after);
 }
 
+// Wakes the others that sleep beside it, which find the event out of use.
+static bool takeLast(_Atomic uint32_t* direction) {
+    const bool taken = take(direction, SIGNAL_LAST, SIGNAL_RETIRED);
+    if (taken) {
+        futexWakeAll(direction);
+    }
+    return taken;
+}
+
 // What stands there is none of the known values: never slept on, never spun on.
 static int reset(_Atomic uint32_t* direction, uint32_t seen) {
     take(direction, seen, SIGNAL_NONE);
@@ -30,7 +39,7 @@ static int lookAsCreator(const EventObject* event) {
         return EIDRM;
     }
     _Atomic uint32_t* direction = &state->toCreator;
-    if (take(direction, SIGNAL_PENDING, SIGNAL_NONE) || take(direction, SIGNAL_LAST, SIGNAL_RETIRED)) {
+    if (take(direction, SIGNAL_PENDING, SIGNAL_NONE) || takeLast(direction)) {
         return 0;
     }
     const uint32_t seen = atomic_load(direction);
@@ -83,13 +92,27 @@ static int restAsHost(const EventObject* event, uint32_t seen, bool* met) {
     return sleepAsHost(event, SIGNAL_VACANT, NULL);
 }
 
+// The event is out of use. The creator's own wait may still take what a host had signalled; where it does
+// not, the host takes it back, for nobody will answer.
+static int leaveAsHost(const EventObject* event, bool* met) {
+    _Atomic uint32_t* toCreator = &event->state->toCreator;
+    if (*met) {
+        futexWait(toCreator, SIGNAL_LAST, &LIFE_CHECK); // sleeps beside such a signal alone
+        if (wholeState(event) != NULL && takeLast(toCreator)) {
+            *met = false;
+            return EOWNERDEAD;
+        }
+    }
+    return WAIT_LOOK_AGAIN;
+}
+
 static int actAsHost(const EventObject* event, uint32_t seen, bool own, bool* met) {
     switch (seen) {
     case SIGNAL_NONE:
     case SIGNAL_VACANT:
         return restAsHost(event, seen, met);
     case SIGNAL_RETIRED:
-        return WAIT_LOOK_AGAIN;
+        return leaveAsHost(event, met);
     case SIGNAL_PENDING: // it came just now, and lets nobody sleep
     case SIGNAL_LAST:
         // This process's own one sleeps until another takes it.
@@ -109,7 +132,7 @@ static int lookAsHost(const EventObject* event, uint64_t token, bool* met) {
         return 0;
     }
     const bool own = isOwn(state, token);
-    if (!own && take(&state->toHost, SIGNAL_LAST, SIGNAL_RETIRED)) {
+    if (!own && takeLast(&state->toHost)) {
         return WAIT_TAKEN_LAST;
     }
     return actAsHost(event, atomic_load(&state->toHost), own, met);

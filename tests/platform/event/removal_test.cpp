@@ -117,6 +117,45 @@ TEST_F(RemovalTest, SignalThatTheCreatorDidNotTakeEndsWithTheEvent) {
     EXPECT_TRUE(planner.isWaiting());
 }
 
+TEST_F(RemovalTest, HostIsToldThatTheCreatorDidNotTakeItsSignal) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    ASSERT_EQ(planner.remove("EV"), 1);
+    expectDeathTold(host);
+}
+
+TEST_F(RemovalTest, WaitUnderWayIsToldThatTheCreatorDidNotTakeTheSignal) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    host.beginWait("EV");
+    ASSERT_TRUE(host.sleeps());
+    ASSERT_EQ(planner.remove("EV"), 1);
+    EXPECT_EQ(host.result(), 0);
+    EXPECT_EQ(host.error(), EOWNERDEAD);
+}
+
+TEST_F(RemovalTest, ThatASignalWasNotTakenIsToldOnceAndTheNextWaitIsForTheNextCreator) {
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    ASSERT_EQ(planner.remove("EV"), 1);
+    expectDeathTold(host);
+    host.beginWait("EV");
+    EXPECT_TRUE(host.staysWaiting());
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(planner.set("EV"), 1);
+    EXPECT_EQ(host.result(), 1);
+}
+
+TEST_F(RemovalTest, ThatASignalWasNotTakenIsToldThoughOtherEventsWereUsedMeanwhile) {
+    Actor other;
+    ASSERT_EQ(planner.create("EV"), 1);
+    ASSERT_EQ(host.set("EV"), 1);
+    ASSERT_EQ(planner.remove("EV"), 1);
+    ASSERT_EQ(other.create("OTHER"), 1);
+    ASSERT_EQ(host.set("OTHER"), 1);
+    expectDeathTold(host);
+}
+
 TEST_F(RemovalTest, WholeDialogueLeavesNoFile) {
     host.beginWait("EV");
     ASSERT_TRUE(host.sleeps());

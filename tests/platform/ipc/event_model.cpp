@@ -7,6 +7,10 @@
 
 namespace planner::ipctest {
 
+bool EventModel::isLeftWithASignal(const Process& process) {
+    return process.met && process.opened && process.opened->retired && process.opened->leftByOwner;
+}
+
 void EventModel::open(Process& process, bool make) {
     if (process.opened && !process.opened->retired) {
         return;
@@ -30,7 +34,7 @@ void EventModel::retire() {
 
 void EventModel::reopenWaiting() {
     for (Process& process : m_processes) {
-        if (process.waiting && process.opened->retired) {
+        if (process.waiting && process.opened->retired && !isLeftWithASignal(process)) {
             open(process, true);
         }
         if (process.waiting && m_owner) {
@@ -86,6 +90,7 @@ EventModel::Result EventModel::remove(std::size_t who) {
         return {0, EPERM};
     }
     m_owner.reset();
+    m_object->leftByOwner = m_object->pendingToOwner;
     if (m_object->pendingToHost) {
         m_object->lastOf = who;
     } else {
@@ -104,6 +109,10 @@ std::optional<EventModel::Result> EventModel::wait(std::size_t who) {
         process.waiting = !m_object->pendingToOwner;
         m_object->pendingToOwner = false;
         return process.waiting ? std::nullopt : std::optional(Result{1, 0});
+    }
+    if (isLeftWithASignal(process)) {
+        leftSignalTold(who);
+        return Result{0, EOWNERDEAD};
     }
     open(process, true);
     if (m_object->pendingToHost && m_object->lastOf != who) {
@@ -141,6 +150,12 @@ std::vector<std::size_t> EventModel::waitingHosts() const {
     return hosts;
 }
 
+std::vector<std::size_t> EventModel::hostsLeftWithASignal() const {
+    std::vector<std::size_t> hosts = waitingHosts();
+    std::erase_if(hosts, [this](std::size_t who) { return !isLeftWithASignal(m_processes.at(who)); });
+    return hosts;
+}
+
 bool EventModel::releasesOneHost() const {
     const std::vector<std::size_t> hosts = waitingHosts();
     return m_object && m_object->pendingToHost &&
@@ -174,6 +189,14 @@ void EventModel::deathTold() {
         m_processes.at(who).met = false;
     }
     m_deathToTell = false;
+}
+
+void EventModel::leftSignalTold(std::size_t who) {
+    Process& process = m_processes.at(who);
+    process.opened->leftByOwner = false;
+    process.met = false;
+    process.waiting = false;
+    reopenWaiting();
 }
 
 } // namespace planner::ipctest

@@ -30,12 +30,15 @@ public:
     void kill(std::size_t who);
 
     // After each step: how many of the waiting hosts a signal must release, whether the owner's wait must be
-    // released, and whether all waiting hosts must be told of a death. Whoever was released is reported back.
+    // released, whether all waiting hosts must be told of a death, and which of them are such that one must
+    // be told of an owner that left its signal. Whoever was released is reported back.
     bool releasesOneHost() const;
     bool releasesOwner() const;
     bool tellsDeath() const { return m_deathToTell; }
+    std::vector<std::size_t> hostsLeftWithASignal() const;
     void released(std::size_t who);
     void deathTold();
+    void leftSignalTold(std::size_t who);
 
     bool isWaiting(std::size_t who) const { return m_processes.at(who).waiting; }
     bool isOwner(std::size_t who) const { return m_owner == who; }
@@ -48,6 +51,7 @@ private:
         bool pendingToHost = false;
         bool pendingToOwner = false;
         bool retired = false;
+        bool leftByOwner = false;          // what the owner had not taken when it removed the event
         std::optional<std::size_t> lastOf; // who has removed it with a signal pending
     };
     struct Process {
@@ -57,6 +61,7 @@ private:
         bool waiting = false;
     };
 
+    static bool isLeftWithASignal(const Process& process);
     void open(Process& process, bool make);
     void retire();
     void reopenWaiting();

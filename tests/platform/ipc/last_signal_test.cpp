@@ -81,5 +81,20 @@ TEST_F(LastSignalTest, WaitOfTheCreatorTakesWhatWasSignalledBeforeTheRemoval) {
     EXPECT_EQ(eventFiles(), 0);
 }
 
+TEST_F(LastSignalTest, HostIsToldNothingOfARemovalWhoseCreatorStillTakesItsSignal) {
+    Child process(removeBesideASignal);
+    ASSERT_TRUE(process.fallsAsleep(4));
+    Actor starter;
+    ASSERT_EQ(starter.create("NOW"), 1);
+    process.stop();
+    ASSERT_EQ(host.set("EV"), 1);
+    host.beginWait("EV");
+    ASSERT_TRUE(host.sleeps());
+    ASSERT_EQ(starter.set("NOW"), 1);
+    process.goOn();
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_TRUE(host.staysWaiting());
+}
+
 } // namespace
 } // namespace planner::ipctest

@@ -60,7 +60,8 @@ static int lookAsHost(EventHandle* handle, Sight* last) {
     if (take(handle->objects.toHost)) {
         return 0;
     }
-    return sight == CREATOR_DEAD ? EOWNERDEAD : WAIT_GOES_ON;
+    // A signal that the creator left when it removed the event is taken back, for nobody will answer.
+    return sight == CREATOR_DEAD || take(handle->objects.toCreator) ? EOWNERDEAD : WAIT_GOES_ON;
 }
 
 static int sleepAsHost(EventHandle* handle) {
