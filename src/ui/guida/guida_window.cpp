@@ -122,11 +122,8 @@ void GuidaWindow::mostra() {
         resize(available.size() * 4 / 5);
         move(available.center() - rect().center());
     }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
+    showInFront(*this);
     m_text->setFocus();
-    raise();
-    activateWindow();
 }
 
 void GuidaWindow::changeEvent(QEvent* event) {

@@ -25,6 +25,13 @@ void nameButton(QWidget& button, const QString& caption, const QList<QKeySequenc
     button.setAccessibleDescription(QKeySequence::listToString(keys, QKeySequence::NativeText));
 }
 
+void showInFront(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 int virtualKey(const QKeyEvent& event) {
     return event.key() == Qt::Key_Escape ? TastoEscape : 0;
 }

@@ -31,6 +31,9 @@ QString captionWithKeys(const QString& caption, const QList<QKeySequence>& keys)
 /// Names a button for assistive programs: it is called its caption, and described by its keys.
 void nameButton(QWidget& button, const QString& caption, const QList<QKeySequence>& keys);
 
+/// Brings the window before the user, from wherever it is: hidden, an icon, behind another one.
+void showInFront(QWidget& window);
+
 /// Whether the event tells a widget that its window has become the active one, or is so no longer.
 inline bool changesActivation(const QEvent& event) {
     return event.type() == QEvent::WindowActivate || event.type() == QEvent::WindowDeactivate;

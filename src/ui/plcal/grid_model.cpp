@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/plcal/grid_model.h"
 
-#include "ui/kit/appearance.h"
 #include "ui/kit/model_answers.h"
 #include "ui/kit/text.h"
 
@@ -50,10 +49,6 @@ QVariant GridModel::cellData(Casella casella, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return fromCp1252(m_griglia.TextMatrix(casella));
-    case Qt::ForegroundRole:
-        return qtColor(m_griglia.aspetto(casella).colore);
-    case Qt::BackgroundRole:
-        return qtColor(m_griglia.aspetto(casella).sfondo);
     case Qt::AccessibleTextRole:
         return cellName(casella);
     case Qt::AccessibleDescriptionRole:

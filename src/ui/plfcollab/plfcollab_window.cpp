@@ -137,11 +137,8 @@ void PlfcollabWindow::mostra() {
         fitToScreen();
         m_list->showRows();
     }
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
+    showInFront(*this);
     m_list->setFocus();
-    raise();
-    activateWindow();
 }
 
 void PlfcollabWindow::nascondi() {
