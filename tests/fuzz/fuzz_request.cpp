@@ -12,7 +12,8 @@ constexpr const char* Transito = "C:\\arch\\trans.dat";
 constexpr std::size_t PlaceOfKind = 8;
 constexpr std::size_t PlaceOfAnswer = 86; // staff code and answer
 constexpr std::size_t EndOfAnswer = 99;
-constexpr int MostRequests = 3; // that the host sends in a row
+constexpr int MostRequests = 3;  // that the host sends in a row
+constexpr int MostGestures = 12; // of the user's, before the window is closed
 
 /// What the host has written: the transit file, and its archives.
 struct HostFiles {
@@ -49,8 +50,13 @@ private:
     void waitForUser() {
         bench.eventi.actions = {[this] {
             waitForUser();
-            m_gestures.atEnd() ? leave() : act(m_gestures);
+            m_gestures.atEnd() || m_gesturesLeft == 0 ? leave() : nextGesture();
         }};
+    }
+
+    void nextGesture() {
+        --m_gesturesLeft;
+        act(m_gestures);
     }
 
     static void requireSoundAnswer(std::string request, const std::string& answer) {
@@ -74,6 +80,7 @@ private:
     }
 
     FuzzInput m_gestures;
+    int m_gesturesLeft = MostGestures;
     RecordingIpc m_ipc{bench.journal};
     mtavtrmpl m_link{parseCommandLine("C:\\arch\\trans.dat 1 EV"), {bench.files, bench.messaggi}, [this] {
                          return makeEngine();
