@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <gmock/gmock.h>
 
 namespace planner::e2e {
 
@@ -262,6 +263,21 @@ TEST_P(EveryEnd, IsOneForTheHostToo) {
     }
     EXPECT_FALSE(eventStands()) << "the host is told once";
     EXPECT_FALSE(archivio.exists(Archivio::LockPl));
+}
+
+// The request and the end are both there when the planner comes to look.
+TEST_F(EndFromOutside, ARequestThatCameJustBeforeItIsAnswered) {
+    m_tipoplanner = 'A';
+    waitAfterAnswer();
+    archivio.writeTransit(m_request);
+    ::kill(planner().pid(), SIGSTOP);
+    EXPECT_TRUE(ospite.signal());
+    terminate();
+    ::kill(planner().pid(), SIGCONT);
+    EXPECT_THAT(ospite.answer(),
+                testing::AnyOf(answeredWith(NoWindow, m_request), answeredWith(Closed, m_request)));
+    EXPECT_EQ(planner().exitCode(), 0);
+    EXPECT_FALSE(eventStands());
 }
 
 INSTANTIATE_TEST_SUITE_P(Some, EveryEnd, testing::ValuesIn(cases(Choice::TwoWaysForEachState)), nameOf);
