@@ -4,14 +4,13 @@
 
 #include "platform/posix/file_descriptor.h"
 #include "platform/posix/native_path.h"
-#include "ports/runtime_errors.h"
+#include "platform/system/replace_start.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
 namespace planner {
 
@@ -79,16 +78,7 @@ std::size_t SystemFileSystem::peekStart(const std::string& path, std::span<char>
 
 void SystemFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
     FileDescriptor file(nativePath(path), O_RDWR | O_CREAT);
-    const std::uint64_t length = file.regularFileLength();
-    std::vector<char> before(bytes.size());
-    before.resize(file.readAll(before));
-    try {
-        file.writeAllAtStart(bytes);
-    } catch (const FileError&) {
-        file.putBack(before, length);
-        throw;
-    }
-    file.syncAndClose();
+    replaceStart(file, file.regularFileLength(), bytes);
 }
 
 } // namespace planner

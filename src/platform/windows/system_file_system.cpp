@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/system/system_file_system.h"
 
+#include "platform/system/replace_start.h"
 #include "platform/windows/file_handle.h"
 #include "platform/windows/texts.h"
-#include "ports/runtime_errors.h"
 
-#include <vector>
 #include <windows.h>
 
 namespace planner {
@@ -68,16 +67,7 @@ std::size_t SystemFileSystem::peekStart(const std::string& path, std::span<char>
 
 void SystemFileSystem::writeStart(const std::string& path, std::span<const char> bytes) {
     FileHandle file(path, FileUse::readAndWrite);
-    const std::uint64_t length = file.length();
-    std::vector<char> before(bytes.size());
-    before.resize(file.readAll(before));
-    try {
-        file.writeAllAtStart(bytes);
-    } catch (const FileError&) {
-        file.putBack(before, length);
-        throw;
-    }
-    file.syncAndClose();
+    replaceStart(file, file.length(), bytes);
 }
 
 } // namespace planner
