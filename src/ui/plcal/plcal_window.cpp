@@ -34,13 +34,6 @@ namespace planner {
 
 namespace {
 
-/// A kind's grid as a screen reader says it.
-QString nomeDetto(TipoPlanner tipo) {
-    return tipo == TipoPlanner::Mensile       ? QStringLiteral("Planner mensile")
-           : tipo == TipoPlanner::Giornaliero ? QStringLiteral("Planner giornaliero")
-                                              : QStringLiteral("Planner annuale");
-}
-
 /// A command that the grid alone has, by name, caption and keys.
 template <typename Described>
 QAction* addKey(GridView& grid, const Described& described) {
@@ -79,7 +72,7 @@ GridView* PlcalWindow::makeGrid(TipoPlanner tipo) {
         [this, tipo](Casella casella) { return fraseCella(m_controlli, m_sessione, tipo, casella); }};
     auto* grid = new GridView(m_controlli.griglia(tipo), tipo, m_painter, voci, this);
     grid->setObjectName(fromUtf8(regole(tipo).nomeGriglia));
-    grid->setAccessibleName(nomeDetto(tipo));
+    grid->setAccessibleName(fromUtf8(regole(tipo).nomeDetto));
     grid->setTips([this, tipo](Casella casella) {
         return casella.colonna < Griglia::FixedCols()
                    ? fraseTotali(m_controlli, m_sessione, tipo, casella.riga)

@@ -16,7 +16,8 @@ std::string dayInWords(Data data) {
 class Giornaliero final : public RegoleTipo {
 public:
     constexpr Giornaliero()
-        : RegoleTipo({TipoPlanner::Giornaliero, "flxg", "Planner Giornaliero", &ControlliPlcal::flxg,
+        : RegoleTipo({TipoPlanner::Giornaliero, "flxg", "Planner Giornaliero", "Planner giornaliero",
+                      &ControlliPlcal::flxg,
                       /*perCollaboratore=*/true,
                       /*unGiorno=*/true, &Contenuti::LeggiDati, &Contenuti::PulisciGrid2,
                       &Contenuti::showgrid2, &Contenuti::PopolaGrid2, markTodayDaily}) {}

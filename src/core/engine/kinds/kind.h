@@ -17,7 +17,8 @@ class Contenuti;
 struct DescrizioneTipo {
     TipoPlanner tipo;
     std::string_view nomeGriglia;
-    std::string_view Caption; // of the window
+    std::string_view Caption;   // of the window
+    std::string_view nomeDetto; // of the grid, by a screen reader
     Griglia ControlliPlcal::*griglia;
     bool perCollaboratore; // a row stands for a staff member, else for a month
     bool unGiorno;         // the whole grid stands for one day, else a column does

@@ -11,7 +11,8 @@ namespace {
 class Mensile final : public RegoleTipo {
 public:
     constexpr Mensile()
-        : RegoleTipo({TipoPlanner::Mensile, "Flxm", "Planner Mensile", &ControlliPlcal::Flxm,
+        : RegoleTipo({TipoPlanner::Mensile, "Flxm", "Planner Mensile", "Planner mensile",
+                      &ControlliPlcal::Flxm,
                       /*perCollaboratore=*/true,
                       /*unGiorno=*/false, &Contenuti::LeggiDati, &Contenuti::PulisciGrid1,
                       &Contenuti::showgrid, &Contenuti::PopolaGrid1, markTodayMonthly}) {}

@@ -11,7 +11,8 @@ namespace {
 class Annuale final : public RegoleTipo {
 public:
     constexpr Annuale()
-        : RegoleTipo({TipoPlanner::Annuale, "flxa", "Planner Annuale", &ControlliPlcal::flxa,
+        : RegoleTipo({TipoPlanner::Annuale, "flxa", "Planner Annuale", "Planner annuale",
+                      &ControlliPlcal::flxa,
                       /*perCollaboratore=*/false,
                       /*unGiorno=*/false, &Contenuti::leggiAnnoMostrato, &Contenuti::PulisciGrid3,
                       &Contenuti::showgrid3, &Contenuti::PopolaGrid3, markTodayYearly}) {}
